@@ -1,0 +1,89 @@
+#include "GalleryWindow.h"
+
+#include <KvUICore/core/CoreUIManager.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
+
+#include <cstdio>
+
+using Kavrel::UICore::CoreUIManager;
+using Kavrel::UICore::ThemeManager;
+
+namespace {
+
+QString slug(const QString& title)
+{
+    QString s = title.toLower();
+    for (QChar& c : s) {
+        if (!c.isLetterOrNumber())
+            c = QLatin1Char('-');
+    }
+    return s;
+}
+
+// Renders every page in every built-in theme into folder, then returns.
+int writeScreenshots(GalleryWindow& window, const QString& folder)
+{
+    QDir().mkpath(folder);
+    int written = 0;
+    for (const QString& theme : {QStringLiteral("Light"), QStringLiteral("Dark"), QStringLiteral("HIGLight")}) {
+        if (!window.SwitchTheme(theme)) {
+            std::fprintf(stderr, "gallery: theme %s could not be loaded\n", qPrintable(theme));
+            return 1;
+        }
+        for (int page = 0; page < window.PageCount(); ++page) {
+            window.ShowPage(page);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents();
+            const QString path = QStringLiteral("%1/%2-%3.png").arg(folder, theme, slug(window.PageTitle(page)));
+            if (!window.grab().save(path)) {
+                std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(path));
+                return 1;
+            }
+            std::printf("%s\n", qPrintable(path));
+            ++written;
+        }
+    }
+    return written > 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("KvUICore gallery"));
+    CoreUIManager::Initialize();
+
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    QCommandLineOption screenshots(QStringLiteral("screenshots"),
+                                   QStringLiteral("Write a screenshot of every page in every theme to <folder> and exit."),
+                                   QStringLiteral("folder"));
+    QCommandLineOption themes(QStringLiteral("themes"), QStringLiteral("Folder of the theme files."),
+                              QStringLiteral("folder"));
+    parser.addOption(screenshots);
+    parser.addOption(themes);
+    parser.process(app);
+
+    if (parser.isSet(themes))
+        CoreUIManager::GetInstance()->SetThemeFilesPath(parser.value(themes).toStdWString().c_str());
+
+    int result = 0;
+    {
+        GalleryWindow window;
+        window.show();
+        if (parser.isSet(screenshots)) {
+            QCoreApplication::processEvents();
+            result = writeScreenshots(window, parser.value(screenshots));
+        } else {
+            result = app.exec();
+        }
+    }
+    CoreUIManager::Uninitialize();
+    return result;
+}

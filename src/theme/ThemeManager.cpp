@@ -1,0 +1,328 @@
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/theme/ThemeManagerImp.h>
+
+#include <KvUICore/core/CoreUIManager.h>
+#include <KvUICore/core/CoreUIManagerImp.h>
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/PlatformFiles_p.h>
+
+#include <KvCoreUnits/StringUtil.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLinearGradient>
+#include <QWidget>
+
+namespace Kavrel::UICore {
+
+using kavrel::platform::core::units::StringUtil;
+
+namespace {
+
+ThemeManager* gInstance = nullptr;
+
+const QString& warningTitle()
+{
+    static const QString title = QStringLiteral("QXmlStream for UI Skin");
+    return title;
+}
+
+} // namespace
+
+bool ThemeManagerInstanceExists()
+{
+    return gInstance != nullptr;
+}
+
+void DestroyThemeManagerInstance()
+{
+    ThemeManager* instance = gInstance;
+    gInstance = nullptr;
+    delete instance;
+}
+
+// ---- ThemeManagerImp -----------------------------------------------------
+
+const std::map<QString, QString>& ThemeManagerImp::BuiltInThemes()
+{
+    static const std::map<QString, QString> themes = {
+        {QStringLiteral("Dark"), QStringLiteral("DarkTheme.xbel")},
+        {QStringLiteral("HIGLight"), QStringLiteral("HIGLightTheme.xbel")},
+        {QStringLiteral("Light"), QStringLiteral("LightTheme.xbel")},
+    };
+    return themes;
+}
+
+ThemeManagerImp::ThemeManagerImp(ThemeManager* owner)
+    : mpOwner(owner)
+{
+    for (const auto& [name, file] : BuiltInThemes())
+        mThemeRegistry.emplace(name.toLower(), file);
+
+    const QString application = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
+    if (!application.isEmpty()) {
+        mSearchDirectories << QDir::cleanPath(application + QLatin1String("/Themes"))
+                           << QDir::cleanPath(application);
+    }
+    const QString module = Platform::LibraryModuleDirectory();
+    if (!module.isEmpty() && module != application) {
+        mSearchDirectories << QDir::cleanPath(module + QLatin1String("/Themes")) << QDir::cleanPath(module);
+    }
+}
+
+ThemeManagerImp::~ThemeManagerImp()
+{
+    ClearTables();
+}
+
+void ThemeManagerImp::ClearTables()
+{
+    qDeleteAll(mThemeValues);
+    mThemeValues.clear();
+    qDeleteAll(mBaseValues);
+    mBaseValues.clear();
+}
+
+const QVariant* ThemeManagerImp::Find(const QString& key)
+{
+    EnsureTheme();
+    // A theme entry hides a base entry of the same name.
+    if (const QVariant* value = mThemeValues.value(key, nullptr))
+        return value;
+    return mBaseValues.value(key, nullptr);
+}
+
+void ThemeManagerImp::EnsureTheme()
+{
+    // A broken theme file is reported once, not on every later query.
+    if (!msCurrentTheme.isEmpty() || mbSwitching || mbAutomaticLoadFailed)
+        return;
+    QString theme;
+    const QString light = QStringLiteral("Light");
+    if (!LocateThemeFile(BuiltInThemes().at(light)).isEmpty()) {
+        theme = light;
+    } else {
+        for (const auto& [name, file] : BuiltInThemes()) {
+            if (!LocateThemeFile(file).isEmpty()) {
+                theme = name;
+                break;
+            }
+        }
+    }
+    if (!theme.isEmpty() && !SetCurrentTheme(theme))
+        mbAutomaticLoadFailed = true;
+}
+
+QString ThemeManagerImp::LocateThemeFile(const QString& fileName) const
+{
+    for (const QString& directory : mSearchDirectories) {
+        const QString path = directory + QLatin1Char('/') + fileName;
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+            return path;
+    }
+    return QString();
+}
+
+bool ThemeManagerImp::SetCurrentTheme(const QString& name)
+{
+    if (name == msCurrentTheme)
+        return true;
+    const auto entry = mThemeRegistry.find(name.toLower());
+    if (entry == mThemeRegistry.end())
+        return false;
+    const QString path = LocateThemeFile(entry->second);
+    if (path.isEmpty())
+        return false;
+    ClearTables();
+    mbSwitching = true;
+    const bool loaded = LoadThemeFile(path, true);
+    mbSwitching = false;
+    if (!loaded)
+        return false;
+    const QString old = msCurrentTheme;
+    msCurrentTheme = name;
+    CoreUIManager* core = CoreUIManager::GetInstance();
+    CoreUIManagerImp::Get(core)->mbGlobalStyleSheetApplied = false;
+    core->OverrideApplicationStyleSheet();
+    Q_EMIT ThemeChanged(old, name);
+    return true;
+}
+
+bool ThemeManagerImp::LoadThemeFile(QFile& file, bool asTheme)
+{
+    Internal::ThemeFileReader reader(asTheme ? mThemeValues : mBaseValues,
+                                     [this](const QString& text) { return Substitute(text); });
+    if (reader.Read(&file))
+        return true;
+    Internal::ShowWarning(warningTitle(), tr("Parse error in file %1 at line %2, column %3:\n%4")
+                                              .arg(file.fileName())
+                                              .arg(reader.LineNumber())
+                                              .arg(reader.ColumnNumber())
+                                              .arg(reader.ErrorString()));
+    return false;
+}
+
+bool ThemeManagerImp::LoadThemeFile(const QString& path, bool asTheme)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        Internal::ShowWarning(warningTitle(), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+        return false;
+    }
+    return LoadThemeFile(file, asTheme);
+}
+
+QString ThemeManagerImp::Substitute(const QString& text)
+{
+    return Internal::SubstituteReferences(text, [this](const QString& name) {
+        return Internal::ThemeValueText(Find(name));
+    });
+}
+
+// ---- ThemeManager --------------------------------------------------------
+
+ThemeManager::ThemeManager()
+    : mpImp(std::make_unique<ThemeManagerImp>(this))
+{
+    connect(mpImp.get(), &ThemeManagerImp::ThemeChanged, this, &ThemeManager::ThemeChanged);
+}
+
+ThemeManager::~ThemeManager() = default;
+
+ThemeManager* ThemeManager::GetInstance()
+{
+    if (!gInstance)
+        gInstance = new ThemeManager;
+    return gInstance;
+}
+
+bool ThemeManager::Exists(const QString& key)
+{
+    return mpImp->Find(key) != nullptr;
+}
+
+QColor ThemeManager::GetColor(const QString& key)
+{
+    const QVariant* value = mpImp->Find(key);
+    if (!value || value->metaType() != QMetaType::fromType<QColor>())
+        return QColor();
+    return value->value<QColor>();
+}
+
+QBrush ThemeManager::GetBrush(const QString& key, const QRect& rect)
+{
+    const QVariant* value = mpImp->Find(key);
+    if (!value)
+        return QBrush();
+    if (value->metaType() == QMetaType::fromType<QColor>())
+        return QBrush(value->value<QColor>(), Qt::SolidPattern);
+    if (value->metaType() == QMetaType::fromType<QLinearGradient>()) {
+        QLinearGradient gradient = value->value<QLinearGradient>();
+        gradient.setStart(rect.left(), rect.top() + 1);
+        gradient.setFinalStop(rect.left(), rect.bottom());
+        return QBrush(gradient);
+    }
+    return QBrush();
+}
+
+QImage ThemeManager::GetImage(const QString& key, const QSize& size)
+{
+    if (key.isEmpty())
+        return QImage();
+    const QVariant* value = mpImp->Find(key);
+    if (!value || value->metaType() != QMetaType::fromType<QList<QImage>>())
+        return QImage();
+    const QList<QImage> images = value->value<QList<QImage>>();
+    if (images.isEmpty())
+        return QImage();
+    if (images.size() == 1)
+        return images.first();
+    const QImage* narrowest = &images.first();
+    for (const QImage& image : images) {
+        if (image.width() == size.width() && image.height() == size.height())
+            return image;
+        if (image.width() < narrowest->width())
+            narrowest = &image;
+    }
+    return *narrowest;
+}
+
+int ThemeManager::GetInt(const QString& key)
+{
+    const QVariant* value = mpImp->Find(key);
+    return value ? value->toInt() : 0;
+}
+
+QSize ThemeManager::GetSize(const QString& key)
+{
+    const QVariant* value = mpImp->Find(key);
+    return value ? value->toSize() : QSize();
+}
+
+QString ThemeManager::GetString(const QString& key)
+{
+    const QVariant* value = mpImp->Find(key);
+    return value ? value->toString() : QString();
+}
+
+QString ThemeManager::GetStyleSheet(const QString& key)
+{
+    return GetString(key);
+}
+
+QString ThemeManager::GetCurrentTheme()
+{
+    return mpImp->msCurrentTheme;
+}
+
+bool ThemeManager::SetCurrentTheme(const QString& name)
+{
+    return mpImp->SetCurrentTheme(name);
+}
+
+bool ThemeManager::LoadThemeFile(QFile& file, bool asTheme)
+{
+    return mpImp->LoadThemeFile(file, asTheme);
+}
+
+bool ThemeManager::LoadThemeFile(const QString& path, bool asTheme)
+{
+    return mpImp->LoadThemeFile(path, asTheme);
+}
+
+void ThemeManager::LoadTheme(QWidget* widget)
+{
+    const QString path = QFileDialog::getOpenFileName(widget, tr("Open xml File"), QDir::currentPath(),
+                                                      tr("XBEL Files (*.xbel *.xml)"));
+    if (path.isEmpty() || !mpImp->LoadThemeFile(path, true))
+        return;
+    mpImp->mbRepaintInProgress = true;
+    if (widget)
+        widget->repaint();
+    mpImp->mbRepaintInProgress = false;
+}
+
+bool ThemeManager::UpdateSkinNeeded()
+{
+    return mpImp->mbRepaintInProgress;
+}
+
+void ThemeManager::SetThemeFilesPath(const wchar_t* directory)
+{
+    const QString path = QDir::cleanPath(StringUtil::WcharToQString(directory));
+    if (path.isEmpty() || mpImp->mSearchDirectories.contains(path))
+        return;
+    mpImp->mSearchDirectories.prepend(path);
+    mpImp->mbAutomaticLoadFailed = false;
+}
+
+int ThemeManager::GetThemeFilesPath(wchar_t* buffer, int capacity)
+{
+    const QString first = mpImp->mSearchDirectories.value(0);
+    return StringUtil::QStringToWchar(first, buffer, capacity);
+}
+
+} // namespace Kavrel::UICore

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QBrush>
+#include <QColor>
+#include <QImage>
+#include <QObject>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+class QFile;
+class QWidget;
+
+namespace Kavrel::UICore {
+
+class ThemeManagerImp;
+
+// The process-wide source of themed values. Keys are the ThemeFileKey texts;
+// a missing key never fails but gives the empty value of its getter. The
+// current theme ("Light" unless set otherwise) loads on the first query.
+class KVUICORE_EXPORT ThemeManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ThemeManager* GetInstance();
+
+    bool Exists(const QString& key);
+    QColor GetColor(const QString& key);
+    // A colour as a solid brush; a gradient running from the top to the
+    // bottom of rect.
+    QBrush GetBrush(const QString& key, const QRect& rect);
+    // The image of an icon whose size equals size, else the narrowest one.
+    QImage GetImage(const QString& key, const QSize& size);
+    int GetInt(const QString& key);
+    QSize GetSize(const QString& key);
+    QString GetString(const QString& key);
+    QString GetStyleSheet(const QString& key);
+
+    QString GetCurrentTheme();
+    // "Light", "Dark" or "HIGLight" (any case); false for an unknown theme or
+    // one whose file is not found, leaving everything as it was.
+    bool SetCurrentTheme(const QString& name);
+
+    bool LoadThemeFile(QFile& file, bool asTheme);
+    bool LoadThemeFile(const QString& path, bool asTheme);
+    // Asks the user for a theme file and loads it over the current values.
+    void LoadTheme(QWidget* widget);
+    bool UpdateSkinNeeded();
+
+    // Adds a folder in front of the theme file search list.
+    void SetThemeFilesPath(const wchar_t* directory);
+    int GetThemeFilesPath(wchar_t* buffer, int capacity);
+
+    ~ThemeManager() override;
+
+Q_SIGNALS:
+    void ThemeChanged(const QString& oldTheme, const QString& newTheme);
+
+private:
+    ThemeManager();
+    Q_DISABLE_COPY_MOVE(ThemeManager)
+
+    friend class ThemeManagerImp;
+    std::unique_ptr<ThemeManagerImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
