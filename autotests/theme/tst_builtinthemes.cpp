@@ -183,8 +183,8 @@ QHash<QString, FileEntry> ReadEntries(const QString& path, QString* error)
             *error = QStringLiteral("%1 is defined twice").arg(current);
         entry.kind = name;
         const QXmlStreamAttributes attributes = xml.attributes();
-        entry.value = attributes.hasAttribute(QLatin1String("file")) ? attributes.value(QLatin1String("file")).toString()
-                                                                     : attributes.value(QLatin1String("value")).toString();
+        const QLatin1String source(attributes.hasAttribute(QLatin1String("file")) ? "file" : "value");
+        entry.value = attributes.value(source).toString();
     }
     if (xml.hasError())
         *error = xml.errorString();
