@@ -4,6 +4,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFrame>
@@ -125,7 +126,7 @@ void GalleryWindow::OnThemeChanged()
     const QColor selection = themes->GetColor(ThemeFileKey::MBViewItemSelectionBackground);
     const QColor accent = themes->GetColor(ThemeFileKey::FocusOutline1);
 
-    QPalette palette = this->palette();
+    QPalette palette = QApplication::palette();
     for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const bool off = group == QPalette::Disabled;
         palette.setColor(group, QPalette::Window, window);
@@ -147,7 +148,12 @@ void GalleryWindow::OnThemeChanged()
         palette.setColor(group, QPalette::Dark, themes->GetColor(ThemeFileKey::WidgetOutline3));
         palette.setColor(group, QPalette::Shadow, themes->GetColor(ThemeFileKey::HoverOutline4));
     }
-    setPalette(palette);
+    // The gallery is the application here, so the palette is the application's.
+    // Widgets polished under the global style sheet keep the palette they had
+    // then; polishing them again after the change lets the new one reach them.
+    QApplication::setPalette(palette);
+    if (!qApp->styleSheet().isEmpty())
+        qApp->setStyleSheet(qApp->styleSheet());
     QPalette rule = mpHeaderRule->palette();
     rule.setColor(QPalette::Window, themes->GetColor(ThemeFileKey::Separator1));
     mpHeaderRule->setPalette(rule);
