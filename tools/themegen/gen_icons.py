@@ -121,7 +121,9 @@ def g_browser(c, v):
 
 
 def g_edit_material(c, v):
-    return circle(6.5, 9.5, 4.5, "none", c, 1.25) + stroke("M9 7l4.5-4.5", c, 1.75)
+    # A material sphere with a pencil over its shoulder.
+    return (circle(6.5, 9.5, 4.75, "none", c, 1.25) + stroke("M4.5 8a2.5 2.5 0 0 1 2-1.9", c, 1)
+            + stroke("M8.5 9l.6-2.2 4.3-4.3 1.6 1.6-4.3 4.3z", c, 1.15))
 
 
 def g_edit_material_open(c, v):
