@@ -34,7 +34,7 @@ c("Container6", role="altRow")
 g("WidgetContainer1", "btnTop", "btnBottom")          # buttons
 c("WidgetContainer2", role="hover")
 c("WidgetContainer3", role="field")                    # numeric field, unfocused
-c("WidgetContainer4", role="btnBottom")                # spin arrows, slider track
+c("WidgetContainer4", role="face")                # spin arrows, slider track
 c("WidgetContainer5", role="field")                    # slider groove
 c("WidgetContainer6", role="bg3")
 c("WidgetContainer9", role="field")                    # text box, check box

@@ -14,6 +14,7 @@ LIGHT = {
     "fieldDisabled": "#f3f3f3",
     "altRow": "#f5f5f5",
     "preview": "#d6d6d6",        # neutral backdrop behind previews
+    "face": "#e4e4e4",           # spin arrows, slider tracks
     "btnTop": "#fbfbfb",
     "btnBottom": "#ececec",
     "btnHoverTop": "#ffffff",
@@ -64,6 +65,7 @@ DARK = {
     "fieldDisabled": "#292929",
     "altRow": "#313131",
     "preview": "#3c3c3c",
+    "face": "#3c3c3c",
     "btnTop": "#404040",
     "btnBottom": "#383838",
     "btnHoverTop": "#484848",
@@ -115,6 +117,7 @@ HIGLIGHT = {
     "fieldDisabled": "#ececec",
     "altRow": "#f5f5f5",
     "preview": "#d9d9d9",
+    "face": "#e3e3e3",
     "btnTop": "#ffffff",
     "btnBottom": "#f2f2f2",
     "btnHoverTop": "#ffffff",
