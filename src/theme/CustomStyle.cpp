@@ -21,6 +21,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Kavrel::UICore {
 
@@ -550,13 +551,15 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
     const QRect groove = subControlRect(CC_Slider, slider, SC_SliderGroove, widget);
     const QRect handle = subControlRect(CC_Slider, slider, SC_SliderHandle, widget);
 
-    // The bar is a thin framed strip across the middle of the groove.
+    // The bar is a thin framed strip across the middle of the slider, running
+    // the groove's length (base styles differ in how thick their groove is).
     QRectF bar = groove;
+    const QPointF centre = QRectF(slider->rect).center();
     if (horizontal) {
-        bar.setTop(groove.top() + (groove.height() - kSliderBarThickness) / 2);
+        bar.setTop(std::floor(centre.y() - kSliderBarThickness / 2.0));
         bar.setHeight(kSliderBarThickness);
     } else {
-        bar.setLeft(groove.left() + (groove.width() - kSliderBarThickness) / 2);
+        bar.setLeft(std::floor(centre.x() - kSliderBarThickness / 2.0));
         bar.setWidth(kSliderBarThickness);
     }
     const QRectF barStroke = StrokeRect(painter, bar, grid);

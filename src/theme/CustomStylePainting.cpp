@@ -84,17 +84,28 @@ QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid&
                   snappedY.height() - 0.001);
 }
 
+// Edges are filled as stroke-wide rectangles on whole device pixels rather
+// than stroked: antialiased lines leave a percent or so of coverage on the
+// neighbouring pixel row, which shows as a faint seam at fractional scales.
 void StrokeOutline(QPainter* painter, const QRectF& strokeRect, const QColor& color, const StrokeGrid& grid)
 {
     if (!color.isValid())
         return;
+    const QPointF units = StrokeUnits(painter, grid);
+    const qreal hx = units.x() / 2;
+    const qreal hy = units.y() / 2;
+    const QRectF outer = strokeRect.adjusted(-hx, -hy, hx, hy);
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, true);
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(CosmeticPen(color, grid));
-    const QPointF corners[5] = {strokeRect.topLeft(), strokeRect.topRight(), strokeRect.bottomRight(),
-                                strokeRect.bottomLeft(), strokeRect.topLeft()};
-    painter->drawPolyline(corners, 5);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    const QRectF edges[4] = {
+        QRectF(outer.left(), outer.top(), outer.width(), units.y()),
+        QRectF(outer.left(), outer.bottom() - units.y(), outer.width(), units.y()),
+        QRectF(outer.left(), outer.top() + units.y(), units.x(), outer.height() - 2 * units.y()),
+        QRectF(outer.right() - units.x(), outer.top() + units.y(), units.x(), outer.height() - 2 * units.y()),
+    };
+    painter->drawRects(edges, 4);
     painter->restore();
 }
 
@@ -104,23 +115,25 @@ void DrawFramedRect(QPainter* painter, const QRectF& strokeRect, const QBrush& f
     const QPointF units = StrokeUnits(painter, grid);
     const qreal ux = units.x();
     const qreal uy = units.y();
+    const QRectF outer = strokeRect.adjusted(-ux / 2, -uy / 2, ux / 2, uy / 2);
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setPen(Qt::NoPen);
     if (fill.style() != Qt::NoBrush) {
-        const QRectF inside = strokeRect.adjusted(ux * 0.5, uy * 0.5, -ux * 0.5, -uy * 0.5);
+        const QRectF inside = outer.adjusted(ux, uy, -ux, -uy);
         if (inside.width() > 0 && inside.height() > 0)
             painter->fillRect(inside, fill);
     }
     if (outline.isValid()) {
-        painter->setPen(CosmeticPen(outline, grid));
-        painter->setBrush(Qt::NoBrush);
-        const qreal l = strokeRect.left();
-        const qreal t = strokeRect.top();
-        const qreal r = strokeRect.right();
-        const qreal b = strokeRect.bottom();
-        const QLineF edges[4] = {QLineF(l + ux, t, r - ux, t), QLineF(l + ux, b, r - ux, b),
-                                 QLineF(l, t + uy, l, b - uy), QLineF(r, t + uy, r, b - uy)};
-        painter->drawLines(edges, 4);
+        // Each edge stops one stroke short of the corners.
+        painter->setBrush(outline);
+        const QRectF edges[4] = {
+            QRectF(outer.left() + ux, outer.top(), outer.width() - 2 * ux, uy),
+            QRectF(outer.left() + ux, outer.bottom() - uy, outer.width() - 2 * ux, uy),
+            QRectF(outer.left(), outer.top() + uy, ux, outer.height() - 2 * uy),
+            QRectF(outer.right() - ux, outer.top() + uy, ux, outer.height() - 2 * uy),
+        };
+        painter->drawRects(edges, 4);
     }
     painter->restore();
 }
