@@ -1,0 +1,50 @@
+#include <KvCoreUnits/UnitsUtilities.h>
+
+#include <KvCoreUnits/UnitTable_p.h>
+
+namespace kavrel::platform::core::units {
+
+using Units = kvp::IDesignPropertyUnits;
+
+bool UnitsUtilities::IsUnit(int type)
+{
+    return detail::FindType(type) != nullptr;
+}
+
+bool UnitsUtilities::IsUnitSymbol(int symbol)
+{
+    return detail::FindSymbol(symbol) != nullptr;
+}
+
+ErrorCode UnitsUtilities::GetUnitType(UnitSymbol symbol, Units::teType& type)
+{
+    if (!detail::FindSymbol(symbol))
+        return kUnknownUnit;
+    type = Units::teType(detail::TypeOfSymbol(symbol));
+    return kSuccess;
+}
+
+ErrorCode UnitsUtilities::GetUnitGroup(Units::teType type, Units::teGroup& group)
+{
+    if (!detail::FindType(type))
+        return kUnknownUnit;
+    group = Units::teGroup(detail::GroupOf(type));
+    return kSuccess;
+}
+
+ErrorCode UnitsUtilities::GetDefaultSymbol(Units::teType type, UnitSymbol& symbol)
+{
+    const detail::TypeRow* row = detail::FindType(type);
+    if (!row)
+        return kUnknownUnit;
+    symbol = UnitSymbol(row->primarySymbol);
+    return kSuccess;
+}
+
+int UnitsUtilities::GetSymbolPartCount(UnitSymbol symbol)
+{
+    const detail::SymbolRow* row = detail::FindSymbol(symbol);
+    return row ? row->parts : 0;
+}
+
+} // namespace kavrel::platform::core::units
