@@ -47,4 +47,26 @@ int UnitsUtilities::GetSymbolPartCount(UnitSymbol symbol)
     return row ? row->parts : 0;
 }
 
+QList<Units::teType> UnitsUtilities::GetAllUnits()
+{
+    std::size_t count = 0;
+    const detail::TypeRow* rows = detail::TypeRows(count);
+    QList<Units::teType> result;
+    result.reserve(qsizetype(count));
+    for (std::size_t i = 0; i < count; ++i)
+        result.append(Units::teType(rows[i].type));
+    return result;
+}
+
+QList<UnitSymbol> UnitsUtilities::GetAllSymbols()
+{
+    std::size_t count = 0;
+    const detail::SymbolRow* rows = detail::SymbolRows(count);
+    QList<UnitSymbol> result;
+    result.reserve(qsizetype(count));
+    for (std::size_t i = 0; i < count; ++i)
+        result.append(UnitSymbol(rows[i].symbol));
+    return result;
+}
+
 } // namespace kavrel::platform::core::units

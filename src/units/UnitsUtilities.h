@@ -1,6 +1,9 @@
 #pragma once
 
+#include <KvCoreUnits/KvCoreUnitsExport.h>
 #include <KvCoreUnits/UnitsTypes.h>
+
+#include <QList>
 
 namespace kavrel::platform::core::units {
 
@@ -21,6 +24,10 @@ public:
     // How many numeric parts a symbol shows (2 for feet and inches, 3 for
     // degrees, minutes and seconds); 0 for an unknown symbol.
     static int GetSymbolPartCount(UnitSymbol symbol);
+
+    // Every unit type and every symbol the component knows, in table order.
+    static QList<kvp::IDesignPropertyUnits::teType> GetAllUnits();
+    static QList<UnitSymbol> GetAllSymbols();
 };
 
 } // namespace kavrel::platform::core::units
