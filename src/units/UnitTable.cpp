@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cwctype>
@@ -277,17 +278,56 @@ const Tables& GetTables()
 
 // x * n / d with one rounding in practice: the product's error is carried by fma
 // so that converting there and back gives the starting value for nearly all x.
-double MulDiv(double x, double n, double d)
+double MulDiv(double x, double n, double d, bool* exact)
 {
-    if (d == 1)
-        return x * n;
-    if (n == 1)
-        return x / d;
     const double p = x * n;
     const double e = std::fma(x, n, -p);
     const double q = p / d;
     const double r = std::fma(-q, d, p);
+    if (exact)
+        *exact = e == 0 && r == 0;
+    if (d == 1)
+        return p;
+    if (n == 1)
+        return q;
     return q + (r + e) / d;
+}
+
+int ShortestLength(double v)
+{
+    char buffer[32];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, v);
+    return int(result.ptr - buffer);
+}
+
+// An inexact conversion lands within a rounding or two of the true result.
+// Of the doubles that close, the one with the shortest decimal form is taken:
+// values people type (12.34 mm) then convert to the value they would type in
+// the other unit (1.234 cm) and back to exactly what they typed.
+double Tidy(double v)
+{
+    if (!std::isfinite(v) || v == 0)
+        return v;
+    const int length = ShortestLength(v);
+    if (length <= 8)
+        return v;
+    double best = v;
+    int bestLength = length;
+    double below = v;
+    double above = v;
+    for (int step = 0; step < 2; ++step) {
+        below = std::nextafter(below, -HUGE_VAL);
+        above = std::nextafter(above, HUGE_VAL);
+        for (const double candidate : {below, above}) {
+            const int candidateLength = ShortestLength(candidate);
+            if (candidateLength < bestLength) {
+                best = candidate;
+                bestLength = candidateLength;
+            }
+        }
+    }
+    // Only a clearly shorter form counts; otherwise keep the rounded result.
+    return bestLength + 3 <= length ? best : v;
 }
 
 wchar_t FoldCase(wchar_t c)
@@ -382,14 +422,17 @@ bool ConvertBetween(double value, const TypeRow& from, const TypeRow& to, double
         return true;
     }
     const Tables& tables = GetTables();
+    const std::size_t rows = std::size(kTypes);
     const std::size_t i = std::size_t(tables.dense[std::size_t(Tables::Slot(from.type))]);
     const std::size_t j = std::size_t(tables.dense[std::size_t(Tables::Slot(to.type))]);
-    const Ratio& ratio = tables.ratios[i * std::size(kTypes) + j];
-    if (from.zero == 0 && to.zero == 0) {
-        out = MulDiv(value, ratio.num, ratio.den);
-        return true;
-    }
-    out = MulDiv(value - from.zero, ratio.num, ratio.den) + to.zero;
+    const Ratio& ratio = tables.ratios[i * rows + j];
+    bool exact = false;
+    if (from.zero == 0 && to.zero == 0)
+        out = MulDiv(value, ratio.num, ratio.den, &exact);
+    else
+        out = MulDiv(value - from.zero, ratio.num, ratio.den, nullptr) + to.zero;
+    if (!exact)
+        out = Tidy(out);
     return true;
 }
 
