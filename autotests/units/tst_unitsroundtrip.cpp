@@ -142,6 +142,49 @@ private Q_SLOTS:
         }
     }
 
+    // Controls that hide the unit text show only the numbers ("5-6 1/2",
+    // "45 30 15"); reading such text as a plain number gives it back in the
+    // symbol's unit.
+    void numberOnlyTextRoundTrip_data()
+    {
+        QTest::addColumn<int>("symbol");
+        QTest::addColumn<QString>("shape");
+        QTest::newRow("feet inches") << 0x302016 << "{0} {1}";
+        QTest::newRow("feet dash inches") << 0x602016 << "{0}-{1}";
+        QTest::newRow("fractional inches") << 0x702016 << "{0}";
+        QTest::newRow("feet dash fraction") << 0x802016 << "{0}-{1}";
+        QTest::newRow("feet dash hyphen fraction") << 0xA02016 << "{0}-{1}";
+        QTest::newRow("dms") << 0x408002 << "{0} {1} {2}";
+    }
+
+    void numberOnlyTextRoundTrip()
+    {
+        QFETCH(int, symbol);
+        QFETCH(QString, shape);
+        UnitsFormatter formatter(L"en-US");
+        QCOMPARE(formatter.SetDefaultSymbol(symbol), kSuccess);
+        QCOMPARE(formatter.SetSymbolFormattingString(symbol, shape.toStdWString().c_str()), kSuccess);
+        Units::teType type = Units::eTypeNone;
+        UnitsUtilities::GetUnitType(UnitSymbol(symbol), type);
+        wchar_t buffer[256];
+        for (int precision = 0; precision <= 8; ++precision) {
+            formatter.SetNumberDecimalPrecision(precision);
+            for (double x : Samples()) {
+                double displayed = 0;
+                QCOMPARE(formatter.Format(x, type, buffer, 256, symbol, &displayed), kSuccess);
+                double parsed = 0;
+                const QString text = QString::fromWCharArray(buffer);
+                QVERIFY2(formatter.Parse(buffer, parsed, Units::eUnitless) == kSuccess, qPrintable(text));
+                QVERIFY2(std::fabs(parsed - displayed) <= 1e-12 * std::max(1.0, std::fabs(displayed)),
+                         qPrintable(text + QStringLiteral(" -> %1").arg(parsed, 0, 'g', 17)));
+            }
+        }
+        // Plain arithmetic still works where the text has another shape.
+        double parsed = 0;
+        QCOMPARE(formatter.Parse(L"(1+2)*3", parsed, Units::eUnitless), kSuccess);
+        QCOMPARE(parsed, 9.0);
+    }
+
     void exponentFormsRoundTrip_data()
     {
         QTest::addColumn<int>("format");

@@ -398,6 +398,30 @@ private Q_SLOTS:
         QTest::newRow("exponent") << mm << int(kSymbolMillimeter) << "1.5E+03" << true << 1500.0;
     }
 
+    // With the unit text hidden the field shows "5-6 1/2"; typed back in that
+    // shape it must not be read as the difference 5 - 6 1/2.
+    void numberOnlyTextReadsBack()
+    {
+        Recorder units;
+        units.SetUnitType(Units::eMillimeter);
+        units.SetDecimalPrecision(4);
+        units.SetUnitSymbolType(UnitSymbol(0x802016));
+        units.SetValue(1689.1);
+        QCOMPARE(units.Text(units.GetValue()), QStringLiteral("5-6 1/2"));
+        double value = 0;
+        QVERIFY(units.ValidateValue(QStringLiteral("5-6 1/2 "), value));
+        QCOMPARE(value, 1689.1);
+        QVERIFY(units.ValidateValue(QStringLiteral("-5-6 1/2"), value));
+        QCOMPARE(value, -1689.1);
+
+        Recorder angle;
+        angle.SetUnitType(Units::eRadian);
+        angle.SetDecimalPrecision(4);
+        angle.SetUnitSymbolType(UnitSymbol(0x408002));
+        QVERIFY(angle.ValidateValue(QStringLiteral("45 30 15 "), value));
+        QVERIFY(std::fabs(value - (45 + 30.0 / 60 + 15.0 / 3600) * M_PI / 180) < 1e-15);
+    }
+
     void validate()
     {
         QFETCH(int, type);

@@ -43,6 +43,10 @@ class UnitsFormatterImp;
 //    with '.' as group separator and ',' as decimal separator is refused rather
 //    than read as 123.
 //  - Parentheses and signs nest up to 64 deep; deeper text is refused.
+//  - Asked for a plain number (the unitless type) while the default symbol has
+//    a custom formatting string, Parse first reads the text in that string's
+//    shape ("5-6 1/2" for "{0}-{1}" is 66.5, in the symbol's unit), so that a
+//    display without unit text reads back as shown.
 // Failures are error codes, never exceptions; `value` is written only on success.
 class KVCOREUNITS_EXPORT UnitsFormatter
 {

@@ -112,6 +112,61 @@ public:
         return kSuccess;
     }
 
+    // Reads text in the shape of a number-only formatting string ("{0}-{1}",
+    // "{0} {1} {2}"), as written when a control hides the unit text: the parts
+    // combine as the symbol's layout says, in the symbol's unit. Fewer parts
+    // than the string names are allowed; anything else fails.
+    bool RunTemplate(const std::wstring& shape, Layout layout, double& result)
+    {
+        mp = mpText;
+        SkipSpaces();
+        bool negative = false;
+        if (mp != mpEnd && IsMinus(*mp)) {
+            negative = true;
+            ++mp;
+        }
+        double parts[3] = {0, 0, 0};
+        int count = 0;
+        std::size_t i = 0;
+        // Literal text before the first part.
+        while (i < shape.size() && shape[i] != L'{')
+            ++i;
+        while (i < shape.size() && count < 3) {
+            i += 3; // "{k}"
+            SkipSpaces();
+            if (!Number(parts[count]))
+                return false;
+            ++count;
+            const std::size_t literalStart = i;
+            while (i < shape.size() && shape[i] != L'{')
+                ++i;
+            SkipSpaces();
+            if (mp == mpEnd)
+                break;
+            // The literal between parts, blanks matching any run of blanks.
+            for (std::size_t k = literalStart; k < i; ++k) {
+                if (IsSpace(shape[k]))
+                    continue;
+                if (mp == mpEnd || *mp != shape[k])
+                    return false;
+                ++mp;
+                SkipSpaces();
+            }
+        }
+        SkipSpaces();
+        if (mp != mpEnd || count == 0)
+            return false;
+        double total = parts[0];
+        if (layout == Layout::FeetInches)
+            total = parts[0] * 12 + parts[1];
+        else if (layout == Layout::DegreesMinutesSeconds)
+            total = parts[0] + parts[1] / 60 + parts[2] / 3600;
+        if (!std::isfinite(total))
+            return false;
+        result = negative ? -total : total;
+        return true;
+    }
+
 private:
     bool Fail(ErrorCode code)
     {
@@ -474,6 +529,20 @@ private:
 
 ErrorCode ParseText(const UnitsFormatterImp& settings, const wchar_t* text, double& value, int unit)
 {
+    // A plain number asked for while the default symbol shows its numbers
+    // without unit text: read the text in that shape first.
+    if (unit == kvp::IDesignPropertyUnits::eUnitless && settings.miDefaultSymbol != kSymbolUnitless) {
+        const SymbolRow* symbol = FindSymbol(settings.miDefaultSymbol);
+        const std::wstring* shape = settings.CustomTemplate(settings.miDefaultSymbol);
+        if (symbol && shape && (symbol->parts > 1 || symbol->fraction)) {
+            Parser shaped(settings, text, unit);
+            double result = 0;
+            if (shaped.RunTemplate(*shape, symbol->layout, result)) {
+                value = result;
+                return kSuccess;
+            }
+        }
+    }
     Parser parser(settings, text, unit);
     return parser.Run(value);
 }
