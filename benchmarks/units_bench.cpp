@@ -30,7 +30,7 @@ std::array<double, 64> Lengths()
     return values;
 }
 
-template<typename Make>
+template <typename Make>
 std::vector<std::wstring> Texts(Make make)
 {
     std::vector<std::wstring> texts;
@@ -147,8 +147,8 @@ BENCHMARK(BM_QLocaleToDouble);
 KVBENCH_RATIO("Format mm vs QLocale::toString('f', 2)", "BM_FormatMillimeters", "BM_QLocaleToString", 2.0);
 KVBENCH_RATIO("Parse plain number vs QLocale::toDouble", "BM_ParsePlainNumber", "BM_QLocaleToDouble", 1.5);
 KVBENCH_RATIO("Parse \"12.5 mm\" vs QLocale::toDouble", "BM_ParseMillimeters", "BM_QLocaleToDouble", 2.0);
-KVBENCH_RATIO("Parse feet-inches fraction vs QLocale::toDouble", "BM_ParseFeetInchesFraction",
-              "BM_QLocaleToDouble", 4.0);
+KVBENCH_RATIO("Parse feet-inches fraction vs QLocale::toDouble", "BM_ParseFeetInchesFraction", "BM_QLocaleToDouble",
+              4.0);
 KVBENCH_RATIO("Parse expression vs QLocale::toDouble", "BM_ParseExpression", "BM_QLocaleToDouble", 4.0);
 
 KVBENCH_MAIN();

@@ -116,8 +116,7 @@ private Q_SLOTS:
                 }
             }
         }
-        QVERIFY2(identical >= total * identicalShare,
-                 qPrintable(QStringLiteral("%1 of %2").arg(identical).arg(total)));
+        QVERIFY2(identical >= total * identicalShare, qPrintable(QStringLiteral("%1 of %2").arg(identical).arg(total)));
     }
 
     void conversionsGiveTheValueOneWouldType()

@@ -48,15 +48,14 @@ private Q_SLOTS:
         QTest::newRow("fraction reduced") << 0.5 << in << 0x702016 << 3 << dec << "1/2\"";
         QTest::newRow("fraction reduced 3/8") << 0.375 << in << 0x702016 << 8 << dec << "3/8\"";
         QTest::newRow("fraction carries to feet") << 71.99 << in << 0x802016 << 4 << dec << "6'-0\"";
-        QTest::newRow("15/16 plus 1/16 carries") << 11.0 + 15.0 / 16 + 1.0 / 16 << in << 0x802016 << 4 << dec
-                                                 << "1'-0\"";
+        QTest::newRow("15/16 plus 1/16 carries")
+            << 11.0 + 15.0 / 16 + 1.0 / 16 << in << 0x802016 << 4 << dec << "1'-0\"";
         QTest::newRow("decimal inches carry") << 71.999 << in << 0x602016 << 2 << dec << "6'-0.00\"";
         QTest::newRow("zero inches with fraction") << 60.5 << in << 0x802016 << 1 << dec << "5'-0 1/2\"";
         QTest::newRow("negative feet inches") << -66.5 << in << 0x802016 << 4 << dec << "-5'-6 1/2\"";
         QTest::newRow("dms") << 45 + 30.0 / 60 + 15.0 / 3600 << deg << 0x408002 << 4 << dec << "45°30'15\"";
         QTest::newRow("dms letters") << 45 + 30.0 / 60 + 15.0 / 3600 << deg << 0x508002 << 3 << dec << "45d30m15s";
-        QTest::newRow("dms spaced") << 45 + 30.0 / 60 + 15.0 / 3600 << deg << 0x608002 << 4 << dec
-                                    << "45° 30' 15\"";
+        QTest::newRow("dms spaced") << 45 + 30.0 / 60 + 15.0 / 3600 << deg << 0x608002 << 4 << dec << "45° 30' 15\"";
         QTest::newRow("dms minutes only") << 45.5 << deg << 0x408002 << 2 << dec << "45°30'";
         QTest::newRow("dms degrees only") << 45.6 << deg << 0x408002 << 0 << dec << "46°";
         QTest::newRow("dms decimal seconds") << 45 + 15.25 / 3600 << deg << 0x408002 << 6 << dec << "45°00'15.25\"";
@@ -67,8 +66,8 @@ private Q_SLOTS:
         QTest::newRow("scientific carry") << 9.999e6 << mm << int(kSymbolMillimeter) << 2 << 0 << "1.00E+07 mm";
         QTest::newRow("engineering") << 12345678.0 << mm << int(kSymbolMillimeter) << 2 << 1 << "12.35E+06 mm";
         QTest::newRow("engineering carry") << 999999.0 << mm << int(kSymbolMillimeter) << 2 << 1 << "1.00E+06 mm";
-        QTest::newRow("engineering negative exponent") << 0.0123 << mm << int(kSymbolMillimeter) << 2 << 1
-                                                       << "12.30E-03 mm";
+        QTest::newRow("engineering negative exponent")
+            << 0.0123 << mm << int(kSymbolMillimeter) << 2 << 1 << "12.30E-03 mm";
         QTest::newRow("exponent in feet") << 1e9 << in << 0x602016 << 2 << 0 << "8.33E+07'";
         QTest::newRow("grouped") << 1234567.891 << mm << int(kSymbolMillimeter) << 2 << 3 << "1,234,567.89 mm";
         QTest::newRow("general trims") << 12.5 << mm << int(kSymbolMillimeter) << 4 << 4 << "12.5 mm";
@@ -81,10 +80,9 @@ private Q_SLOTS:
         QTest::newRow("fahrenheit") << 100.0 << int(Units::eCelsius) << int(kSymbolFahrenheit) << 2 << dec
                                     << "212.00 °F";
         QTest::newRow("percent") << 0.125 << int(Units::eRatio) << int(kSymbolPercent) << 1 << dec << "12.5%";
-        QTest::newRow("unitless symbol keeps the number") << 12.5 << mm << int(kSymbolUnitless) << 2 << dec
-                                                         << "12.50";
-        QTest::newRow("unitless unit takes symbol unit") << 12.5 << int(Units::eUnitless) << 0x022016 << 1 << dec
-                                                        << "12.5\"";
+        QTest::newRow("unitless symbol keeps the number") << 12.5 << mm << int(kSymbolUnitless) << 2 << dec << "12.50";
+        QTest::newRow("unitless unit takes symbol unit")
+            << 12.5 << int(Units::eUnitless) << 0x022016 << 1 << dec << "12.5\"";
     }
 
     void textForms()
@@ -113,8 +111,7 @@ private Q_SLOTS:
         QCOMPARE(Format(formatter, 12345678.0, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("1.23E07 mm"));
         formatter.SetAllowTwoDigitExponent(false);
         formatter.SetIncludePositiveSignInExponent(true);
-        QCOMPARE(Format(formatter, 12345678.0, Units::eMillimeter, kSymbolMillimeter),
-                 QStringLiteral("1.23E+007 mm"));
+        QCOMPARE(Format(formatter, 12345678.0, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("1.23E+007 mm"));
         QCOMPARE(Format(formatter, 0.0, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("0.00E+000 mm"));
     }
 
@@ -122,8 +119,7 @@ private Q_SLOTS:
     {
         UnitsFormatter german(L"de-DE");
         german.SetNumericFormat(kNumberFormatDecimalGrouped);
-        QCOMPARE(Format(german, 1234567.891, Units::eMillimeter, kSymbolMillimeter),
-                 QStringLiteral("1.234.567,89 mm"));
+        QCOMPARE(Format(german, 1234567.891, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("1.234.567,89 mm"));
         wchar_t separator[8];
         QCOMPARE(german.GetNumberDecimalSeparator(separator, 8), kSuccess);
         QCOMPARE(QString::fromWCharArray(separator), QStringLiteral(","));
@@ -156,8 +152,7 @@ private Q_SLOTS:
         QCOMPARE(formatter.Format(1.0, Units::eKilogram, buffer, 8, kSymbolMillimeter, nullptr), kIncompatibleUnit);
         QCOMPARE(formatter.Format(qQNaN(), Units::eMillimeter, buffer, 8, kSymbolMillimeter, nullptr), kOutOfRange);
         QCOMPARE(formatter.Format(qInf(), Units::eMillimeter, buffer, 8, kSymbolMillimeter, nullptr), kOutOfRange);
-        QCOMPARE(formatter.Format(12345.0, Units::eMillimeter, buffer, 8, kSymbolMillimeter, nullptr),
-                 kBufferTooSmall);
+        QCOMPARE(formatter.Format(12345.0, Units::eMillimeter, buffer, 8, kSymbolMillimeter, nullptr), kBufferTooSmall);
         QCOMPARE(buffer[0], L'\0');
         QCOMPARE(formatter.Format(1.0, Units::eMillimeter, nullptr, 8, kSymbolMillimeter, nullptr), kInvalidArgument);
         // Huge values still fit a reasonable buffer in fixed notation.

@@ -143,8 +143,7 @@ private Q_SLOTS:
         AddRow("narrow blank groups", QStringLiteral("1\u202F234,5"), mm, kSuccess, 1234.5, comma,
                QStringLiteral("\u202F"));
         const QString apostrophe = QStringLiteral("'");
-        AddRow("foot-mark group separator groups", QStringLiteral("1'234.5 mm"), mm, kSuccess, 1234.5, dot,
-               apostrophe);
+        AddRow("foot-mark group separator groups", QStringLiteral("1'234.5 mm"), mm, kSuccess, 1234.5, dot, apostrophe);
         AddRow("foot-mark group separator still feet", QStringLiteral("5'6\""), in, kSuccess, 66, dot, apostrophe);
         AddRow("foot-mark group separator dash", QStringLiteral("5'-6 1/2\""), in, kSuccess, 66.5, dot, apostrophe);
     }

@@ -55,8 +55,8 @@ private:
         std::mt19937_64 rng(20261121);
         std::uniform_real_distribution<double> exponent(-3.0, 5.0);
         std::uniform_int_distribution<int> sign(0, 1);
-        QList<double> values {0.0, 0.5, -0.5, 59.9999 / 3600.0, 11.0 + 15.0 / 16 + 1.0 / 16, 71.99999, -66.5,
-                              12.0, 1.0 / 3, -1.0 / 3};
+        QList<double> values {0.0,      0.5,   -0.5, 59.9999 / 3600.0, 11.0 + 15.0 / 16 + 1.0 / 16,
+                              71.99999, -66.5, 12.0, 1.0 / 3,          -1.0 / 3};
         while (values.size() < 160) {
             const double v = std::pow(10.0, exponent(rng));
             values.append(sign(rng) ? -v : v);
@@ -91,8 +91,8 @@ private Q_SLOTS:
         // Also through a different unit of the group where there is one.
         const int base = (type & 0xF000) | 1;
         // A symbol without unit text (the ratio) reads back in whatever unit is asked for.
-        const bool convert = UnitsUtilities::IsUnit(base) && base != type && (type & 0xF000) != 0x7000
-                             && symbol != kSymbolRatio;
+        const bool convert =
+            UnitsUtilities::IsUnit(base) && base != type && (type & 0xF000) != 0x7000 && symbol != kSymbolRatio;
 
         const QRegularExpression fullMinute(QStringLiteral("(^|[^0-9.])60(['\"ms′″]|\\.0+[\"s″])"));
         const QRegularExpression inchesPart(QStringLiteral("(?:'|ft)[- ]?\\s*(\\d+)"));
@@ -108,7 +108,10 @@ private Q_SLOTS:
                 double parsed = 0;
                 QVERIFY2(formatter.Parse(buffer, parsed, type) == kSuccess, qPrintable(text));
                 const QString where = QStringLiteral("%1 p%2 x=%3 -> %4 -> %5")
-                                          .arg(symbol, 0, 16).arg(precision).arg(x, 0, 'g', 17).arg(text)
+                                          .arg(symbol, 0, 16)
+                                          .arg(precision)
+                                          .arg(x, 0, 'g', 17)
+                                          .arg(text)
                                           .arg(parsed, 0, 'g', 17);
                 // On the grid, and within half a step of the value.
                 const double steps = parsed / step;
@@ -212,7 +215,8 @@ private Q_SLOTS:
                     QVERIFY2(std::fabs(parsed - displayed) <= 1e-12 * std::fabs(displayed),
                              qPrintable(QString::fromWCharArray(buffer)));
                     // Significant digits: precision + 1 at least.
-                    QVERIFY(std::fabs(parsed - x * 1e4) <= std::fabs(x * 1e4) * std::pow(10.0, -precision) * 0.5 + 1e-300);
+                    QVERIFY(std::fabs(parsed - x * 1e4)
+                            <= std::fabs(x * 1e4) * std::pow(10.0, -precision) * 0.5 + 1e-300);
                 }
             }
         }

@@ -52,7 +52,7 @@ public:
     QStringList mCalls;
 
 private:
-    template<typename T>
+    template <typename T>
     void Log(const char* name, T o, T n)
     {
         mCalls << QStringLiteral("%1(%2,%3)").arg(QLatin1String(name)).arg(o).arg(n);
@@ -200,7 +200,7 @@ private Q_SLOTS:
     {
         Recorder units;
         units.SetUnitType(Units::teType(0x2099)); // unknown
-        units.SetUnitType(Units::eUnitless);       // same
+        units.SetUnitType(Units::eUnitless);      // same
         QVERIFY(units.mCalls.isEmpty());
         units.SetUnitType(Units::eMillimeter);
         QCOMPARE(units.GetUnit(), QStringLiteral("Millimeter"));
@@ -388,8 +388,8 @@ private Q_SLOTS:
         QTest::newRow("feet inches") << mm << 0x802016 << "5'-6 1/2\" " << true << 1689.1;
         QTest::newRow("ends in digit read as plain") << mm << int(kSymbolInch) << "1+2" << true << 76.2;
         QTest::newRow("ends in digit with unit fails") << mm << int(kSymbolInch) << "5' 6" << false << 0.0;
-        QTest::newRow("power read in symbol unit") << int(Units::eSquareMeter) << int(kSymbolSquareMillimeter)
-                                                   << "2 m^2" << true << 2.0;
+        QTest::newRow("power read in symbol unit")
+            << int(Units::eSquareMeter) << int(kSymbolSquareMillimeter) << "2 m^2" << true << 2.0;
         QTest::newRow("unit on unitless symbol") << mm << int(kSymbolUnitless) << "3 mm" << false << 0.0;
         QTest::newRow("unitless expression") << 0x1001 << int(kSymbolUnitless) << "(1+2)*3" << true << 9.0;
         QTest::newRow("unitless with unit") << 0x1001 << int(kSymbolUnitless) << "3 mm" << false << 0.0;
@@ -485,9 +485,15 @@ private Q_SLOTS:
         units.SetUnitSymbolDisplayEnabled(true);
         const QStringList calls = units.mCalls;
         QCOMPARE(calls.size(), 10);
-        const char* expected[] = {"DecimalPrecision(2,3)", "UnitType(4097,32770)", "UnitSymbol(1052673,98306)",
-                                  "NumberFormat(2,4)", "Value(0,10)", "DecimalSeparator(",
-                                  "GroupSeparator(", "NumberSign(false,true)", "ExponentSign(false,true)",
+        const char* expected[] = {"DecimalPrecision(2,3)",
+                                  "UnitType(4097,32770)",
+                                  "UnitSymbol(1052673,98306)",
+                                  "NumberFormat(2,4)",
+                                  "Value(0,10)",
+                                  "DecimalSeparator(",
+                                  "GroupSeparator(",
+                                  "NumberSign(false,true)",
+                                  "ExponentSign(false,true)",
                                   "UnitSymbolDisplayEnabled(true,true)"};
         for (int i = 0; i < 10; ++i)
             QVERIFY2(calls.at(i).startsWith(QLatin1String(expected[i])), qPrintable(calls.at(i)));

@@ -34,7 +34,7 @@ const char* const kNumberFormatNames[] = {
 };
 static_assert(std::size(kNumberFormatNames) == kNumberFormatCount);
 
-template<typename Row>
+template <typename Row>
 const Row* FindByName(const Row* rows, std::size_t count, const QString& name)
 {
     for (std::size_t i = 0; i < count; ++i) {

@@ -39,13 +39,11 @@ const TypeRow kTypes[] = {
     {T::eYard, 4572, 5, 0, 0, kSymbolYard, "Yard", "Yards", L"yd|yard|yards"},
     {T::eMile, 1609344, 1, 0, 0, kSymbolMile, "Mile", "Miles", L"mi|mile|miles"},
 
-    {T::eSquareMillimeter, 1, 1, 0, 0, kSymbolSquareMillimeter, "SquareMillimeter", "Square millimeters",
-     L"mm²|mm^2"},
+    {T::eSquareMillimeter, 1, 1, 0, 0, kSymbolSquareMillimeter, "SquareMillimeter", "Square millimeters", L"mm²|mm^2"},
     {T::eSquareCentimeter, 100, 1, 0, 0, kSymbolSquareCentimeter, "SquareCentimeter", "Square centimeters",
      L"cm²|cm^2"},
     {T::eSquareMeter, 1000000, 1, 0, 0, kSymbolSquareMeter, "SquareMeter", "Square meters", L"m²|m^2"},
-    {T::eSquareKilometer, 1e12, 1, 0, 0, kSymbolSquareKilometer, "SquareKilometer", "Square kilometers",
-     L"km²|km^2"},
+    {T::eSquareKilometer, 1e12, 1, 0, 0, kSymbolSquareKilometer, "SquareKilometer", "Square kilometers", L"km²|km^2"},
     {T::eHectare, 1e10, 1, 0, 0, kSymbolHectare, "Hectare", "Hectares", L"ha|hectare|hectares"},
     {T::eSquareFoot, 2322576, 25, 0, 0, kSymbolSquareFoot, "SquareFoot", "Square feet", L"ft²|ft^2|sqft"},
     {T::eSquareInch, 16129, 25, 0, 0, kSymbolSquareInch, "SquareInch", "Square inches", L"in²|in^2|sqin"},
@@ -53,8 +51,7 @@ const TypeRow kTypes[] = {
     {T::eSquareMile, 2589988110336.0, 1, 0, 0, kSymbolSquareMile, "SquareMile", "Square miles", L"mi²|mi^2"},
     {T::eAcre, 20234282112.0, 5, 0, 0, kSymbolAcre, "Acre", "Acres", L"ac|acre|acres"},
 
-    {T::eCubicMillimeter, 1, 1, 0, 0, kSymbolCubicMillimeter, "CubicMillimeter", "Cubic millimeters",
-     L"mm³|mm^3"},
+    {T::eCubicMillimeter, 1, 1, 0, 0, kSymbolCubicMillimeter, "CubicMillimeter", "Cubic millimeters", L"mm³|mm^3"},
     {T::eCubicCentimeter, 1000, 1, 0, 0, kSymbolCubicCentimeter, "CubicCentimeter", "Cubic centimeters",
      L"cm³|cm^3|cc"},
     {T::eCubicMeter, 1e9, 1, 0, 0, kSymbolCubicMeter, "CubicMeter", "Cubic meters", L"m³|m^3"},
@@ -73,8 +70,7 @@ const TypeRow kTypes[] = {
     {T::eOunce, 45359237, 1600000, 0, 0, kSymbolOunce, "Ounce", "Ounces", L"oz|ounce|ounces"},
     {T::ePound, 45359237, 100000, 0, 0, kSymbolPound, "Pound", "Pounds", L"lb|lbs|pound|pounds"},
 
-    {T::eMillisecond, 1, 1000, 0, 0, kSymbolMillisecond, "Millisecond", "Milliseconds",
-     L"ms|millisecond|milliseconds"},
+    {T::eMillisecond, 1, 1000, 0, 0, kSymbolMillisecond, "Millisecond", "Milliseconds", L"ms|millisecond|milliseconds"},
     {T::eSecond, 1, 1, 0, 0, kSymbolSecond, "Second", "Seconds", L"s|sec|second|seconds"},
     {T::eMinute, 60, 1, 0, 0, kSymbolMinute, "Minute", "Minutes", L"min|minute|minutes"},
     {T::eHour, 3600, 1, 0, 0, kSymbolHour, "Hour", "Hours", L"h|hr|hour|hours"},
@@ -82,16 +78,14 @@ const TypeRow kTypes[] = {
 
     {T::eCelsius, 1, 1, 0, 0, kSymbolCelsius, "Celsius", "Degrees Celsius", L"°C|℃|C|degC|celsius"},
     {T::eKelvin, 1, 1, 273.15, 0, kSymbolKelvin, "Kelvin", "Kelvins", L"K|kelvin"},
-    {T::eFahrenheit, 5, 9, 32, 0, kSymbolFahrenheit, "Fahrenheit", "Degrees Fahrenheit",
-     L"°F|℉|F|degF|fahrenheit"},
+    {T::eFahrenheit, 5, 9, 32, 0, kSymbolFahrenheit, "Fahrenheit", "Degrees Fahrenheit", L"°F|℉|F|degF|fahrenheit"},
     {T::eRankine, 5, 9, 491.67, 0, kSymbolRankine, "Rankine", "Degrees Rankine", L"°R|R|degR|rankine"},
 
     {T::eRadian, 180, kPi, 0, 0, kSymbolRadian, "Radian", "Radians", L"rad|radian|radians"},
     {T::eDegree, 1, 1, 0, T::eArcMinute, kSymbolDegree, "Degree", "Degrees", L"°|deg|d|degree|degrees"},
     {T::eGradian, 9, 10, 0, 0, kSymbolGradian, "Gradian", "Gradians", L"grad|gon|gradian|gradians"},
     {T::eTurn, 360, 1, 0, 0, kSymbolTurn, "Turn", "Turns", L"tr|turn|turns|rev"},
-    {T::eArcMinute, 1, 60, 0, T::eArcSecond, kSymbolArcMinute, "ArcMinute", "Minutes of arc",
-     L"'|′|’|m|arcmin"},
+    {T::eArcMinute, 1, 60, 0, T::eArcSecond, kSymbolArcMinute, "ArcMinute", "Minutes of arc", L"'|′|’|m|arcmin"},
     {T::eArcSecond, 1, 3600, 0, 0, kSymbolArcSecond, "ArcSecond", "Seconds of arc", L"\"|″|”|''|s|arcsec"},
 
     {T::ePercent, 1, 100, 0, 0, kSymbolPercent, "Percent", "Percent", L"%|percent"},
@@ -207,7 +201,7 @@ struct Tables
     std::vector<const SymbolRow*> symbols; // sorted by symbol
     // Conversion ratio between any two types of a group, reduced where exact.
     std::array<int, kGroupSlots * kIndexSlots> dense {}; // slot -> row index
-    std::vector<Ratio> ratios; // [dense(from) * rows + dense(to)]
+    std::vector<Ratio> ratios;                           // [dense(from) * rows + dense(to)]
     std::vector<NameEntry> names[kGroupSlots];
 
     static int Slot(int type) { return ((type >> 12) & 0xF) * kIndexSlots + (type & 0xFFF); }

@@ -31,8 +31,8 @@ struct TypeRow
     // (5' 6 is 5 feet 6 inches), 0 for none.
     int compoundNext;
     int primarySymbol;
-    const char* globalName;  // invariant, never translated
-    const char* displayName; // UTF-8
+    const char* globalName;    // invariant, never translated
+    const char* displayName;   // UTF-8
     const wchar_t* parseNames; // '|'-separated spellings Parse accepts
 };
 

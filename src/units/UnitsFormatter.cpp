@@ -105,8 +105,8 @@ void PutWhole(WBuf& out, double whole, const UnitsFormatterImp& s, bool grouped,
 }
 
 // Writes a non-negative number already in fixed notation ("12.50").
-void PutFixedText(WBuf& out, const char* text, std::size_t length, const UnitsFormatterImp& s, bool grouped,
-                  bool trim, int minIntegerDigits = 1)
+void PutFixedText(WBuf& out, const char* text, std::size_t length, const UnitsFormatterImp& s, bool grouped, bool trim,
+                  int minIntegerDigits = 1)
 {
     const char* dot = static_cast<const char*>(std::memchr(text, '.', length));
     const std::size_t intCount = dot ? std::size_t(dot - text) : length;
@@ -205,8 +205,8 @@ void PutExponentNumber(WBuf& out, double magnitude, const UnitsFormatterImp& s, 
 }
 
 // A whole part and a binary fraction: "66 1/2", "1/2", "66", "6-1/2".
-void PutMixed(WBuf& out, double whole, double numerator, double denominator, const UnitsFormatterImp& s,
-              bool grouped, bool hyphen, bool keepZeroWhole)
+void PutMixed(WBuf& out, double whole, double numerator, double denominator, const UnitsFormatterImp& s, bool grouped,
+              bool hyphen, bool keepZeroWhole)
 {
     while (numerator > 0 && denominator > 1 && std::fmod(numerator, 2.0) == 0) {
         numerator /= 2;
@@ -456,8 +456,7 @@ UnitsFormatter::UnitsFormatter(const wchar_t* localeName)
 
 UnitsFormatter::UnitsFormatter(const UnitsFormatter& other)
     : mpImp(std::make_unique<UnitsFormatterImp>(*other.mpImp))
-{
-}
+{}
 
 UnitsFormatter& UnitsFormatter::operator=(const UnitsFormatter& other)
 {
@@ -504,8 +503,8 @@ ErrorCode UnitsFormatter::Format(double value, int unit, wchar_t* out, std::size
         // Composite symbols write one number in the unit of their first part.
         const double firstPartFactor = symbolRow->layout == detail::Layout::FeetInches ? 12.0 : 1.0;
         double shown = 0;
-        PutExponentNumber(parts.text[0], magnitude / firstPartFactor, s, format == kNumberFormatEngineering,
-                          parts.zero, shown);
+        PutExponentNumber(parts.text[0], magnitude / firstPartFactor, s, format == kNumberFormatEngineering, parts.zero,
+                          shown);
         parts.count = 1;
         parts.shown = shown * firstPartFactor;
     } else if (symbolRow->layout == detail::Layout::FeetInches) {

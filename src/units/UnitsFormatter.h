@@ -67,8 +67,7 @@ public:
     // `displayed` (may be null) receives the number as shown, in the symbol's
     // unit (5'-6 1/2" gives 66.5). Errors: kUnknownUnit, kIncompatibleUnit,
     // kOutOfRange (not finite), kBufferTooSmall (out is then empty).
-    ErrorCode Format(double value, int unit, wchar_t* out, std::size_t outLength, int symbol,
-                     double* displayed) const;
+    ErrorCode Format(double value, int unit, wchar_t* out, std::size_t outLength, int symbol, double* displayed) const;
     // Reads `text` into `value`, measured in `unit` (0 for the default unit).
     ErrorCode Parse(const wchar_t* text, double& value, int unit) const;
 

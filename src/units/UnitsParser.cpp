@@ -31,7 +31,7 @@ constexpr std::size_t kMaxNumberLength = 400;
 
 struct Value
 {
-    double v = 0;  // in the target unit when dim is 1
+    double v = 0; // in the target unit when dim is 1
     int dim = 0;
 };
 

@@ -21,9 +21,9 @@ using units::UnitsConverter;
 using units::UnitsUtilities;
 using Units = kvp::IDesignPropertyUnits;
 
-constexpr Units::teType kUnitlessType = Units::eUnitless;                 // 0x1001
-constexpr units::UnitSymbol kUnitlessSymbol = units::kSymbolUnitless;     // 0x101001
-constexpr Units::teGroup kAngleGroup = Units::eGroupAngle;                // 0x8000
+constexpr Units::teType kUnitlessType = Units::eUnitless;             // 0x1001
+constexpr units::UnitSymbol kUnitlessSymbol = units::kSymbolUnitless; // 0x101001
+constexpr Units::teGroup kAngleGroup = Units::eGroupAngle;            // 0x8000
 constexpr std::size_t kTextBufferLength = 1024;
 constexpr std::size_t kTemplateBufferLength = 50;
 constexpr std::size_t kSignBufferLength = 10;
@@ -339,7 +339,7 @@ double WidgetUnits::GetTolerance() const
 }
 
 WidgetUnits::NumberFormat WidgetUnits::GetLocaleStringFromValue(const UnitsFormatter& formatter, double value,
-                                                                 QString& text, double* displayed) const
+                                                                QString& text, double* displayed) const
 {
     wchar_t buffer[kTextBufferLength];
     const int symbol = meUnitSymbol;
@@ -402,8 +402,7 @@ void WidgetUnits::ApplyFormatterProperties(UnitsFormatter& target) const
     target.SetNumberDecimalSeparator(GetDecimalSeparator().toStdWString().c_str());
     target.SetNumberGroupSeparator(GetGroupSeparator().toStdWString().c_str());
     wchar_t formattingString[kTemplateBufferLength];
-    if (mFormatter.GetSymbolFormattingString(meUnitSymbol, formattingString, kTemplateBufferLength)
-        == units::kSuccess)
+    if (mFormatter.GetSymbolFormattingString(meUnitSymbol, formattingString, kTemplateBufferLength) == units::kSuccess)
         target.SetSymbolFormattingString(meUnitSymbol, formattingString);
     wchar_t sign[kSignBufferLength];
     if (mFormatter.GetPositiveSign(sign, kSignBufferLength) == units::kSuccess)
