@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <random>
 #include <string>
 
 using namespace kavrel::platform::core::units;
@@ -205,6 +206,35 @@ private Q_SLOTS:
         double parsed = 0;
         QCOMPARE(formatter.Parse(L"pos12 mm", parsed, Units::eMillimeter), kSuccess);
         QCOMPARE(parsed, 12.0);
+    }
+
+    // Text assembled from the characters the parser cares about is always
+    // answered with a code, and a success always carries a finite value.
+    void randomTextIsAnsweredWithACode()
+    {
+        const QString alphabet =
+            QStringLiteral("0123456789 ..,,''\"\"--++*/()eE^mcinftd\u00B0%\u00B5\u00B2\u202F\u2212kgsx");
+        std::mt19937 rng(99);
+        std::uniform_int_distribution<int> length(0, 30);
+        std::uniform_int_distribution<int> pick(0, int(alphabet.size()) - 1);
+        UnitsFormatter english(L"en-US");
+        UnitsFormatter swiss(L"de-DE");
+        QCOMPARE(swiss.SetNumberGroupSeparator(L"'"), kSuccess);
+        const int units[] = {Units::eUnitless, Units::eMillimeter, Units::eInch, Units::eDegree, Units::eCelsius};
+        for (int i = 0; i < 20000; ++i) {
+            QString text;
+            const int n = length(rng);
+            for (int k = 0; k < n; ++k)
+                text += alphabet.at(pick(rng));
+            const std::wstring wide = text.toStdWString();
+            for (const UnitsFormatter* formatter : {&english, &swiss}) {
+                double value = 0;
+                const int code = formatter->Parse(wide.c_str(), value, units[i % 5]);
+                QVERIFY2(code >= kSuccess && code <= kUnknownName, qPrintable(text));
+                if (code == kSuccess)
+                    QVERIFY2(std::isfinite(value), qPrintable(text));
+            }
+        }
     }
 
     void longInputDoesNotHang()

@@ -1,8 +1,24 @@
 #pragma once
 
-// The one data table of the units component: every unit type with its
-// conversion factor, every unit symbol with the way it is written, and the
-// names both carry. Private to the component; the public classes answer from it.
+// The one data table of the units component (UnitTable.cpp): every unit type
+// with its conversion factor, every unit symbol with the way it is written, and
+// the names both carry. Private to the component; the public classes answer
+// from it.
+//
+// Numbering. A unit type is its group ORed with an index: 0x1000 unitless,
+// 0x2000 length, 0x3000 area, 0x4000 volume, 0x5000 mass, 0x6000 time,
+// 0x7000 temperature, 0x8000 angle, 0x9000 percent; metric units take the
+// low indices, imperial ones start at 0x15 (0x2016 is the inch). A unit symbol
+// is (variant << 16) | type. Variant 1 is the plain "number unit" form;
+// for inches 0x30.. 0xA0 are the feet-and-inches and fractional forms (dash
+// forms 0x60, 0x80, 0xA0; fractions 0x70, 0x80, 0x90, 0xA0) and for degrees
+// 0x40, 0x50, 0x60 are degrees/minutes/seconds.
+//
+// Type rows: factor num/den to the group's base unit, zero point (temperatures),
+// the smaller unit that may follow without an operator, the default symbol,
+// the invariant name, the display name and the spellings Parse accepts.
+// Symbol rows: layout, fraction style, number of parts, the default
+// formatting string, the invariant name and the display name.
 
 #include <KvCoreUnits/UnitsTypes.h>
 
