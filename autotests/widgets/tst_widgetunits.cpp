@@ -18,16 +18,57 @@ namespace {
 class Recorder : public WidgetUnits
 {
 public:
-    void OnChanged_DecimalPrecision(int o, int n) override { Log("DecimalPrecision", o, n); }
-    void OnChanged_UnitType(UnitType o, UnitType n) override { Log("UnitType", int(o), int(n)); }
-    void OnChanged_UnitSymbol(UnitSymbol o, UnitSymbol n) override { Log("UnitSymbol", int(o), int(n)); }
-    void OnChanged_NumberFormat(NumberFormat o, NumberFormat n) override { Log("NumberFormat", int(o), int(n)); }
-    void OnChanged_Value(double o, double n) override { Log("Value", o, n); }
-    void OnChanged_DecimalSeparator(QString o, QString n) override { Log("DecimalSeparator", o, n); }
-    void OnChanged_GroupSeparator(QString o, QString n) override { Log("GroupSeparator", o, n); }
-    void OnChanged_NumberSign(bool o, bool n) override { Log("NumberSign", o, n); }
-    void OnChanged_ExponentSign(bool o, bool n) override { Log("ExponentSign", o, n); }
-    void OnChanged_UnitSymbolDisplayEnabled(bool o, bool n) override { Log("UnitSymbolDisplayEnabled", o, n); }
+    // Each notification also checks that the new state is already stored.
+    void OnChanged_DecimalPrecision(int o, int n) override
+    {
+        Check(GetDecimalPrecision() == n);
+        Log("DecimalPrecision", o, n);
+    }
+    void OnChanged_UnitType(UnitType o, UnitType n) override
+    {
+        Check(GetUnitType() == n);
+        Log("UnitType", int(o), int(n));
+    }
+    void OnChanged_UnitSymbol(UnitSymbol o, UnitSymbol n) override
+    {
+        Check(GetUnitSymbolType() == n);
+        Log("UnitSymbol", int(o), int(n));
+    }
+    void OnChanged_NumberFormat(NumberFormat o, NumberFormat n) override
+    {
+        Check(GetNumberFormatId() == n);
+        Log("NumberFormat", int(o), int(n));
+    }
+    void OnChanged_Value(double o, double n) override
+    {
+        Check(GetValue() == n);
+        Log("Value", o, n);
+    }
+    void OnChanged_DecimalSeparator(QString o, QString n) override
+    {
+        Check(n.isEmpty() || GetDecimalSeparator() == n);
+        Log("DecimalSeparator", o, n);
+    }
+    void OnChanged_GroupSeparator(QString o, QString n) override
+    {
+        Check(n.isEmpty() || GetGroupSeparator() == n);
+        Log("GroupSeparator", o, n);
+    }
+    void OnChanged_NumberSign(bool o, bool n) override
+    {
+        Check(GetFormatter().IncludePositiveSignInNumber() == n);
+        Log("NumberSign", o, n);
+    }
+    void OnChanged_ExponentSign(bool o, bool n) override
+    {
+        Check(GetFormatter().IncludePositiveSignInExponent() == n);
+        Log("ExponentSign", o, n);
+    }
+    void OnChanged_UnitSymbolDisplayEnabled(bool o, bool n) override
+    {
+        Check(GetUnitSymbolDisplayEnabled() == n);
+        Log("UnitSymbolDisplayEnabled", o, n);
+    }
 
     using WidgetUnits::ApplyCustomSymbolString;
     using WidgetUnits::ApplyFormatterProperties;
@@ -50,8 +91,15 @@ public:
     NumberFormat FormatUsed(double value, QString& text) const { return GetLocaleStringFromValue(value, text); }
 
     QStringList mCalls;
+    bool mbNotifiedBeforeStoring = false;
 
 private:
+    void Check(bool stored)
+    {
+        if (!stored)
+            mbNotifiedBeforeStoring = true;
+    }
+
     template <typename T>
     void Log(const char* name, T o, T n)
     {
@@ -484,6 +532,7 @@ private Q_SLOTS:
         units.ShowPositiveExponentSign(true);
         units.SetUnitSymbolDisplayEnabled(true);
         const QStringList calls = units.mCalls;
+        QVERIFY(!units.mbNotifiedBeforeStoring);
         QCOMPARE(calls.size(), 10);
         const char* expected[] = {"DecimalPrecision(2,3)",
                                   "UnitType(4097,32770)",
