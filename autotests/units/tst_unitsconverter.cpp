@@ -12,6 +12,8 @@
 using namespace kavrel::platform::core::units;
 using Units = kvp::IDesignPropertyUnits;
 
+constexpr double kPi = 3.14159265358979323846;
+
 // Conversion, classification and the name tables of the units component.
 class tst_UnitsConverter : public QObject
 {
@@ -64,8 +66,8 @@ private Q_SLOTS:
     {
         double out = 0;
         QCOMPARE(UnitsConverter::Convert(180.0, Units::eDegree, out, Units::eRadian), kSuccess);
-        QCOMPARE(out, M_PI);
-        QCOMPARE(UnitsConverter::Convert(M_PI, Units::eRadian, out, Units::eDegree), kSuccess);
+        QCOMPARE(out, kPi);
+        QCOMPARE(UnitsConverter::Convert(kPi, Units::eRadian, out, Units::eDegree), kSuccess);
         QCOMPARE(out, 180.0);
     }
 

@@ -11,6 +11,8 @@ using Kavrel::UICore::WidgetUnits;
 using namespace kavrel::platform::core::units;
 using Units = kvp::IDesignPropertyUnits;
 
+constexpr double kPi = 3.14159265358979323846;
+
 namespace {
 
 // Records every notification as "Name(old,new)" in call order and opens the
@@ -467,7 +469,7 @@ private Q_SLOTS:
         angle.SetDecimalPrecision(4);
         angle.SetUnitSymbolType(UnitSymbol(0x408002));
         QVERIFY(angle.ValidateValue(QStringLiteral("45 30 15 "), value));
-        QVERIFY(std::fabs(value - (45 + 30.0 / 60 + 15.0 / 3600) * M_PI / 180) < 1e-15);
+        QVERIFY(std::fabs(value - (45 + 30.0 / 60 + 15.0 / 3600) * kPi / 180) < 1e-15);
     }
 
     void validate()

@@ -33,34 +33,34 @@ const TypeRow kTypes[] = {
     {T::eKilometer, 1000000, 1, 0, 0, kSymbolKilometer, "Kilometer", "Kilometers",
      L"km|kilometer|kilometers|kilometre|kilometres"},
     {T::eMicrometer, 1, 1000, 0, 0, kSymbolMicrometer, "Micrometer", "Micrometers",
-     L"µm|μm|um|micron|microns|micrometer|micrometers|micrometre|micrometres"},
-    {T::eFoot, 1524, 5, 0, T::eInch, kSymbolFoot, "Foot", "Feet", L"ft|'|′|’|foot|feet"},
-    {T::eInch, 127, 5, 0, 0, kSymbolInch, "Inch", "Inches", L"in|\"|″|”|''|inch|inches"},
+     L"\u00B5m|\u03BCm|um|micron|microns|micrometer|micrometers|micrometre|micrometres"},
+    {T::eFoot, 1524, 5, 0, T::eInch, kSymbolFoot, "Foot", "Feet", L"ft|'|\u2032|\u2019|foot|feet"},
+    {T::eInch, 127, 5, 0, 0, kSymbolInch, "Inch", "Inches", L"in|\"|\u2033|\u201D|''|inch|inches"},
     {T::eYard, 4572, 5, 0, 0, kSymbolYard, "Yard", "Yards", L"yd|yard|yards"},
     {T::eMile, 1609344, 1, 0, 0, kSymbolMile, "Mile", "Miles", L"mi|mile|miles"},
 
-    {T::eSquareMillimeter, 1, 1, 0, 0, kSymbolSquareMillimeter, "SquareMillimeter", "Square millimeters", L"mm²|mm^2"},
+    {T::eSquareMillimeter, 1, 1, 0, 0, kSymbolSquareMillimeter, "SquareMillimeter", "Square millimeters", L"mm\u00B2|mm^2"},
     {T::eSquareCentimeter, 100, 1, 0, 0, kSymbolSquareCentimeter, "SquareCentimeter", "Square centimeters",
-     L"cm²|cm^2"},
-    {T::eSquareMeter, 1000000, 1, 0, 0, kSymbolSquareMeter, "SquareMeter", "Square meters", L"m²|m^2"},
-    {T::eSquareKilometer, 1e12, 1, 0, 0, kSymbolSquareKilometer, "SquareKilometer", "Square kilometers", L"km²|km^2"},
+     L"cm\u00B2|cm^2"},
+    {T::eSquareMeter, 1000000, 1, 0, 0, kSymbolSquareMeter, "SquareMeter", "Square meters", L"m\u00B2|m^2"},
+    {T::eSquareKilometer, 1e12, 1, 0, 0, kSymbolSquareKilometer, "SquareKilometer", "Square kilometers", L"km\u00B2|km^2"},
     {T::eHectare, 1e10, 1, 0, 0, kSymbolHectare, "Hectare", "Hectares", L"ha|hectare|hectares"},
-    {T::eSquareFoot, 2322576, 25, 0, 0, kSymbolSquareFoot, "SquareFoot", "Square feet", L"ft²|ft^2|sqft"},
-    {T::eSquareInch, 16129, 25, 0, 0, kSymbolSquareInch, "SquareInch", "Square inches", L"in²|in^2|sqin"},
-    {T::eSquareYard, 20903184, 25, 0, 0, kSymbolSquareYard, "SquareYard", "Square yards", L"yd²|yd^2"},
-    {T::eSquareMile, 2589988110336.0, 1, 0, 0, kSymbolSquareMile, "SquareMile", "Square miles", L"mi²|mi^2"},
+    {T::eSquareFoot, 2322576, 25, 0, 0, kSymbolSquareFoot, "SquareFoot", "Square feet", L"ft\u00B2|ft^2|sqft"},
+    {T::eSquareInch, 16129, 25, 0, 0, kSymbolSquareInch, "SquareInch", "Square inches", L"in\u00B2|in^2|sqin"},
+    {T::eSquareYard, 20903184, 25, 0, 0, kSymbolSquareYard, "SquareYard", "Square yards", L"yd\u00B2|yd^2"},
+    {T::eSquareMile, 2589988110336.0, 1, 0, 0, kSymbolSquareMile, "SquareMile", "Square miles", L"mi\u00B2|mi^2"},
     {T::eAcre, 20234282112.0, 5, 0, 0, kSymbolAcre, "Acre", "Acres", L"ac|acre|acres"},
 
-    {T::eCubicMillimeter, 1, 1, 0, 0, kSymbolCubicMillimeter, "CubicMillimeter", "Cubic millimeters", L"mm³|mm^3"},
+    {T::eCubicMillimeter, 1, 1, 0, 0, kSymbolCubicMillimeter, "CubicMillimeter", "Cubic millimeters", L"mm\u00B3|mm^3"},
     {T::eCubicCentimeter, 1000, 1, 0, 0, kSymbolCubicCentimeter, "CubicCentimeter", "Cubic centimeters",
-     L"cm³|cm^3|cc"},
-    {T::eCubicMeter, 1e9, 1, 0, 0, kSymbolCubicMeter, "CubicMeter", "Cubic meters", L"m³|m^3"},
+     L"cm\u00B3|cm^3|cc"},
+    {T::eCubicMeter, 1e9, 1, 0, 0, kSymbolCubicMeter, "CubicMeter", "Cubic meters", L"m\u00B3|m^3"},
     {T::eLiter, 1e6, 1, 0, 0, kSymbolLiter, "Liter", "Liters", L"L|l|liter|liters|litre|litres"},
     {T::eMilliliter, 1000, 1, 0, 0, kSymbolMilliliter, "Milliliter", "Milliliters",
      L"mL|ml|milliliter|milliliters|millilitre|millilitres"},
-    {T::eCubicFoot, 3539605824.0, 125, 0, 0, kSymbolCubicFoot, "CubicFoot", "Cubic feet", L"ft³|ft^3"},
-    {T::eCubicInch, 2048383, 125, 0, 0, kSymbolCubicInch, "CubicInch", "Cubic inches", L"in³|in^3"},
-    {T::eCubicYard, 95569357248.0, 125, 0, 0, kSymbolCubicYard, "CubicYard", "Cubic yards", L"yd³|yd^3"},
+    {T::eCubicFoot, 3539605824.0, 125, 0, 0, kSymbolCubicFoot, "CubicFoot", "Cubic feet", L"ft\u00B3|ft^3"},
+    {T::eCubicInch, 2048383, 125, 0, 0, kSymbolCubicInch, "CubicInch", "Cubic inches", L"in\u00B3|in^3"},
+    {T::eCubicYard, 95569357248.0, 125, 0, 0, kSymbolCubicYard, "CubicYard", "Cubic yards", L"yd\u00B3|yd^3"},
     {T::eUSGallon, 473176473, 125, 0, 0, kSymbolUSGallon, "USGallon", "US gallons", L"gal|gallon|gallons"},
 
     {T::eMilligram, 1, 1000, 0, 0, kSymbolMilligram, "Milligram", "Milligrams", L"mg|milligram|milligrams"},
@@ -76,21 +76,21 @@ const TypeRow kTypes[] = {
     {T::eHour, 3600, 1, 0, 0, kSymbolHour, "Hour", "Hours", L"h|hr|hour|hours"},
     {T::eDay, 86400, 1, 0, 0, kSymbolDay, "Day", "Days", L"d|day|days"},
 
-    {T::eCelsius, 1, 1, 0, 0, kSymbolCelsius, "Celsius", "Degrees Celsius", L"°C|℃|C|degC|celsius"},
+    {T::eCelsius, 1, 1, 0, 0, kSymbolCelsius, "Celsius", "Degrees Celsius", L"\u00B0C|\u2103|C|degC|celsius"},
     {T::eKelvin, 1, 1, 273.15, 0, kSymbolKelvin, "Kelvin", "Kelvins", L"K|kelvin"},
-    {T::eFahrenheit, 5, 9, 32, 0, kSymbolFahrenheit, "Fahrenheit", "Degrees Fahrenheit", L"°F|℉|F|degF|fahrenheit"},
-    {T::eRankine, 5, 9, 491.67, 0, kSymbolRankine, "Rankine", "Degrees Rankine", L"°R|R|degR|rankine"},
+    {T::eFahrenheit, 5, 9, 32, 0, kSymbolFahrenheit, "Fahrenheit", "Degrees Fahrenheit", L"\u00B0F|\u2109|F|degF|fahrenheit"},
+    {T::eRankine, 5, 9, 491.67, 0, kSymbolRankine, "Rankine", "Degrees Rankine", L"\u00B0R|R|degR|rankine"},
 
     {T::eRadian, 180, kPi, 0, 0, kSymbolRadian, "Radian", "Radians", L"rad|radian|radians"},
-    {T::eDegree, 1, 1, 0, T::eArcMinute, kSymbolDegree, "Degree", "Degrees", L"°|deg|d|degree|degrees"},
+    {T::eDegree, 1, 1, 0, T::eArcMinute, kSymbolDegree, "Degree", "Degrees", L"\u00B0|deg|d|degree|degrees"},
     {T::eGradian, 9, 10, 0, 0, kSymbolGradian, "Gradian", "Gradians", L"grad|gon|gradian|gradians"},
     {T::eTurn, 360, 1, 0, 0, kSymbolTurn, "Turn", "Turns", L"tr|turn|turns|rev"},
-    {T::eArcMinute, 1, 60, 0, T::eArcSecond, kSymbolArcMinute, "ArcMinute", "Minutes of arc", L"'|′|’|m|arcmin"},
-    {T::eArcSecond, 1, 3600, 0, 0, kSymbolArcSecond, "ArcSecond", "Seconds of arc", L"\"|″|”|''|s|arcsec"},
+    {T::eArcMinute, 1, 60, 0, T::eArcSecond, kSymbolArcMinute, "ArcMinute", "Minutes of arc", L"'|\u2032|\u2019|m|arcmin"},
+    {T::eArcSecond, 1, 3600, 0, 0, kSymbolArcSecond, "ArcSecond", "Seconds of arc", L"\"|\u2033|\u201D|''|s|arcsec"},
 
     {T::ePercent, 1, 100, 0, 0, kSymbolPercent, "Percent", "Percent", L"%|percent"},
     {T::eRatio, 1, 1, 0, 0, kSymbolRatio, "Ratio", "Ratio", L""},
-    {T::ePerMille, 1, 1000, 0, 0, kSymbolPerMille, "PerMille", "Per mille", L"‰|permille"},
+    {T::ePerMille, 1, 1000, 0, 0, kSymbolPerMille, "PerMille", "Per mille", L"\u2030|permille"},
 };
 
 constexpr Layout S = Layout::Single;
@@ -106,7 +106,7 @@ const SymbolRow kSymbols[] = {
     {kSymbolCentimeter, S, false, false, 1, L"{0} cm", "cm", "Centimeters"},
     {kSymbolMeter, S, false, false, 1, L"{0} m", "m", "Meters"},
     {kSymbolKilometer, S, false, false, 1, L"{0} km", "km", "Kilometers"},
-    {kSymbolMicrometer, S, false, false, 1, L"{0} µm", "um", "Micrometers"},
+    {kSymbolMicrometer, S, false, false, 1, L"{0} \u00B5m", "um", "Micrometers"},
     {kSymbolFoot, S, false, false, 1, L"{0} ft", "ft", "Feet"},
     {kSymbolFootMark, S, false, false, 1, L"{0}'", "FootMark", "Feet"},
     {kSymbolInch, S, false, false, 1, L"{0} in", "in", "Inches"},
@@ -123,25 +123,25 @@ const SymbolRow kSymbols[] = {
     {kSymbolYard, S, false, false, 1, L"{0} yd", "yd", "Yards"},
     {kSymbolMile, S, false, false, 1, L"{0} mi", "mi", "Miles"},
 
-    {kSymbolSquareMillimeter, S, false, false, 1, L"{0} mm²", "mm2", "Square millimeters"},
-    {kSymbolSquareCentimeter, S, false, false, 1, L"{0} cm²", "cm2", "Square centimeters"},
-    {kSymbolSquareMeter, S, false, false, 1, L"{0} m²", "m2", "Square meters"},
-    {kSymbolSquareKilometer, S, false, false, 1, L"{0} km²", "km2", "Square kilometers"},
+    {kSymbolSquareMillimeter, S, false, false, 1, L"{0} mm\u00B2", "mm2", "Square millimeters"},
+    {kSymbolSquareCentimeter, S, false, false, 1, L"{0} cm\u00B2", "cm2", "Square centimeters"},
+    {kSymbolSquareMeter, S, false, false, 1, L"{0} m\u00B2", "m2", "Square meters"},
+    {kSymbolSquareKilometer, S, false, false, 1, L"{0} km\u00B2", "km2", "Square kilometers"},
     {kSymbolHectare, S, false, false, 1, L"{0} ha", "ha", "Hectares"},
-    {kSymbolSquareFoot, S, false, false, 1, L"{0} ft²", "ft2", "Square feet"},
-    {kSymbolSquareInch, S, false, false, 1, L"{0} in²", "in2", "Square inches"},
-    {kSymbolSquareYard, S, false, false, 1, L"{0} yd²", "yd2", "Square yards"},
-    {kSymbolSquareMile, S, false, false, 1, L"{0} mi²", "mi2", "Square miles"},
+    {kSymbolSquareFoot, S, false, false, 1, L"{0} ft\u00B2", "ft2", "Square feet"},
+    {kSymbolSquareInch, S, false, false, 1, L"{0} in\u00B2", "in2", "Square inches"},
+    {kSymbolSquareYard, S, false, false, 1, L"{0} yd\u00B2", "yd2", "Square yards"},
+    {kSymbolSquareMile, S, false, false, 1, L"{0} mi\u00B2", "mi2", "Square miles"},
     {kSymbolAcre, S, false, false, 1, L"{0} ac", "acre", "Acres"},
 
-    {kSymbolCubicMillimeter, S, false, false, 1, L"{0} mm³", "mm3", "Cubic millimeters"},
-    {kSymbolCubicCentimeter, S, false, false, 1, L"{0} cm³", "cm3", "Cubic centimeters"},
-    {kSymbolCubicMeter, S, false, false, 1, L"{0} m³", "m3", "Cubic meters"},
+    {kSymbolCubicMillimeter, S, false, false, 1, L"{0} mm\u00B3", "mm3", "Cubic millimeters"},
+    {kSymbolCubicCentimeter, S, false, false, 1, L"{0} cm\u00B3", "cm3", "Cubic centimeters"},
+    {kSymbolCubicMeter, S, false, false, 1, L"{0} m\u00B3", "m3", "Cubic meters"},
     {kSymbolLiter, S, false, false, 1, L"{0} L", "L", "Liters"},
     {kSymbolMilliliter, S, false, false, 1, L"{0} mL", "mL", "Milliliters"},
-    {kSymbolCubicFoot, S, false, false, 1, L"{0} ft³", "ft3", "Cubic feet"},
-    {kSymbolCubicInch, S, false, false, 1, L"{0} in³", "in3", "Cubic inches"},
-    {kSymbolCubicYard, S, false, false, 1, L"{0} yd³", "yd3", "Cubic yards"},
+    {kSymbolCubicFoot, S, false, false, 1, L"{0} ft\u00B3", "ft3", "Cubic feet"},
+    {kSymbolCubicInch, S, false, false, 1, L"{0} in\u00B3", "in3", "Cubic inches"},
+    {kSymbolCubicYard, S, false, false, 1, L"{0} yd\u00B3", "yd3", "Cubic yards"},
     {kSymbolUSGallon, S, false, false, 1, L"{0} gal", "gal", "US gallons"},
 
     {kSymbolMilligram, S, false, false, 1, L"{0} mg", "mg", "Milligrams"},
@@ -157,18 +157,18 @@ const SymbolRow kSymbols[] = {
     {kSymbolHour, S, false, false, 1, L"{0} h", "h", "Hours"},
     {kSymbolDay, S, false, false, 1, L"{0} d", "d", "Days"},
 
-    {kSymbolCelsius, S, false, false, 1, L"{0} °C", "degC", "Degrees Celsius"},
+    {kSymbolCelsius, S, false, false, 1, L"{0} \u00B0C", "degC", "Degrees Celsius"},
     {kSymbolKelvin, S, false, false, 1, L"{0} K", "K", "Kelvins"},
-    {kSymbolFahrenheit, S, false, false, 1, L"{0} °F", "degF", "Degrees Fahrenheit"},
-    {kSymbolRankine, S, false, false, 1, L"{0} °R", "degR", "Degrees Rankine"},
+    {kSymbolFahrenheit, S, false, false, 1, L"{0} \u00B0F", "degF", "Degrees Fahrenheit"},
+    {kSymbolRankine, S, false, false, 1, L"{0} \u00B0R", "degR", "Degrees Rankine"},
 
     {kSymbolRadian, S, false, false, 1, L"{0} rad", "rad", "Radians"},
-    {kSymbolDegree, S, false, false, 1, L"{0}°", "deg", "Degrees"},
+    {kSymbolDegree, S, false, false, 1, L"{0}\u00B0", "deg", "Degrees"},
     {kSymbolDegreeWord, S, false, false, 1, L"{0} deg", "DegreeWord", "Degrees"},
-    {kSymbolDegreesMinutesSeconds, DMS, false, false, 3, L"{0}°{1}'{2}\"", "DMS", "Degrees, minutes, seconds"},
+    {kSymbolDegreesMinutesSeconds, DMS, false, false, 3, L"{0}\u00B0{1}'{2}\"", "DMS", "Degrees, minutes, seconds"},
     {kSymbolDegreesMinutesSecondsLetters, DMS, false, false, 3, L"{0}d{1}m{2}s", "DMSLetters",
      "Degrees, minutes, seconds"},
-    {kSymbolDegreesMinutesSecondsSpaced, DMS, false, false, 3, L"{0}° {1}' {2}\"", "DMSSpaced",
+    {kSymbolDegreesMinutesSecondsSpaced, DMS, false, false, 3, L"{0}\u00B0 {1}' {2}\"", "DMSSpaced",
      "Degrees, minutes, seconds"},
     {kSymbolGradian, S, false, false, 1, L"{0} grad", "grad", "Gradians"},
     {kSymbolTurn, S, false, false, 1, L"{0} tr", "turn", "Turns"},
@@ -177,7 +177,7 @@ const SymbolRow kSymbols[] = {
 
     {kSymbolPercent, S, false, false, 1, L"{0}%", "percent", "Percent"},
     {kSymbolRatio, S, false, false, 1, L"{0}", "ratio", "Ratio"},
-    {kSymbolPerMille, S, false, false, 1, L"{0}‰", "permille", "Per mille"},
+    {kSymbolPerMille, S, false, false, 1, L"{0}\u2030", "permille", "Per mille"},
 };
 
 constexpr int kGroupSlots = 16;
@@ -254,8 +254,10 @@ struct Tables
             g = std::gcd(c, b);
             c /= g;
             b /= g;
-            std::uint64_t n = 0, m = 0;
-            if (!__builtin_mul_overflow(a, b, &n) && !__builtin_mul_overflow(c, d, &m)) {
+            constexpr std::uint64_t kLimit = std::uint64_t(1) << 53;
+            if (b != 0 && d != 0 && a <= kLimit / b && c <= kLimit / d) {
+                const std::uint64_t n = a * b;
+                const std::uint64_t m = c * d;
                 const std::uint64_t h = std::gcd(n, m);
                 return {double(n / h), double(m / h)};
             }

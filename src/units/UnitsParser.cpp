@@ -70,7 +70,7 @@ bool IsUnitChar(wchar_t c)
     default:
         break;
     }
-    return c > 0x7F && c < 0x10000 && QChar(char16_t(c)).isLetter();
+    return c > 0x7F && QChar::isLetter(char32_t(c));
 }
 
 bool IsMinus(wchar_t c)
