@@ -64,6 +64,7 @@ private Q_SLOTS:
         AddRow("inches without blank", QStringLiteral("6'5 1/4\""), in, kSuccess, 77.25);
         AddRow("zero inches and fraction", QStringLiteral("4' 0 3/16\""), in, kSuccess, 48.1875);
         AddRow("inch mark left out", QStringLiteral("5' 6"), in, kSuccess, 66);
+        AddRow("inches below one", QStringLiteral("5' .5\""), in, kSuccess, 60.5);
         AddRow("two apostrophes", QStringLiteral("6''"), in, kSuccess, 6);
         AddRow("negative as a whole", QStringLiteral("-5'-6 1/2\""), in, kSuccess, -66.5);
         AddRow("blank before hyphen subtracts", QStringLiteral("5' -6\""), in, kSuccess, 54);

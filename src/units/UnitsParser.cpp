@@ -189,6 +189,20 @@ private:
 
     // --- numbers ---------------------------------------------------------
 
+    bool StartsNumber(const wchar_t* at) const
+    {
+        if (at == mpEnd)
+            return false;
+        if (IsDigit(*at))
+            return true;
+        std::size_t separator = 0;
+        if (At(mS.msDecimalSeparator, at))
+            separator = mS.msDecimalSeparator.size();
+        else if (mbDotIsDecimal && *at == L'.')
+            separator = 1;
+        return separator > 0 && std::size_t(mpEnd - at) > separator && IsDigit(at[separator]);
+    }
+
     // Digits with group separators; a separator counts only before exactly
     // three digits that are not followed by a further digit or a fraction bar.
     bool ScanDigits(char* buffer, std::size_t& length, bool allowGroups)
@@ -392,7 +406,7 @@ private:
                 ++mp;
             else
                 SkipSpaces();
-            if (mp == mpEnd || !IsDigit(*mp)) {
+            if (!StartsNumber(mp)) {
                 mp = save;
                 break;
             }
@@ -438,7 +452,7 @@ private:
             }
             return true;
         }
-        if (mp == mpEnd || !(IsDigit(*mp) || At(mS.msDecimalSeparator, mp) || (mbDotIsDecimal && *mp == L'.')))
+        if (!StartsNumber(mp))
             return Fail(kInvalidText);
         return Quantity(out);
     }
