@@ -246,6 +246,13 @@ private Q_SLOTS:
         QCOMPARE(value, 1234.5);
     }
 
+    void separatorSetOnTheFormatterIsReadBack()
+    {
+        Recorder units;
+        QCOMPARE(units.GetFormatter().SetNumberDecimalSeparator(L"<dec>"), kSuccess);
+        QCOMPARE(units.GetDecimalSeparator(), QStringLiteral("<dec>"));
+    }
+
     void unitTypeAndSymbol()
     {
         Recorder units;

@@ -27,6 +27,7 @@ constexpr Units::teGroup kAngleGroup = Units::eGroupAngle;            // 0x8000
 constexpr std::size_t kTextBufferLength = 1024;
 constexpr std::size_t kTemplateBufferLength = 50;
 constexpr std::size_t kSignBufferLength = 10;
+constexpr std::size_t kSeparatorBufferLength = 16; // the formatter refuses separators above 8 characters
 constexpr int kTemplateAttempts = 10;
 // Shown numbers beyond these switch plain forms to exponent text.
 constexpr double kExponentAbove = 1e7;
@@ -41,7 +42,13 @@ QString ReadSeparator(units::ErrorCode (units::UnitsFormatter::*getter)(wchar_t*
                       const units::UnitsFormatter& formatter, std::size_t length)
 {
     std::vector<wchar_t> buffer(length > 0 ? length : 1, L'\0');
-    if ((formatter.*getter)(buffer.data(), buffer.size()) != units::kSuccess)
+    units::ErrorCode code = (formatter.*getter)(buffer.data(), buffer.size());
+    if (code == units::kBufferTooSmall) {
+        // Set directly on the formatter, bypassing the stored length.
+        buffer.assign(kSeparatorBufferLength, L'\0');
+        code = (formatter.*getter)(buffer.data(), buffer.size());
+    }
+    if (code != units::kSuccess)
         return QString();
     return StringUtil::WcharToQString(buffer.data());
 }
