@@ -15,6 +15,7 @@ inline int ScaleY(int value, float = 0.0f) { return value; }
 
 // The widget's device pixel ratio rounded to 5 % steps, limited to 1.00 ... 3.50.
 KVUICORE_EXPORT float DeviceScaleFactor(const QWidget* widget);
+KVUICORE_EXPORT float DeviceScaleFactorForRatio(float devicePixelRatio);
 
 // 1, 2 or 3: the width in device pixels of a cosmetic stroke at that factor.
 KVUICORE_EXPORT float ResolutionBucket(float factor);

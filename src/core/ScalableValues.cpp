@@ -43,7 +43,11 @@ namespace Kavrel::UICore::Internal {
 
 float DeviceScaleFactor(const QWidget* widget)
 {
-    const float ratio = widget ? float(widget->devicePixelRatio()) : 1.0f;
+    return DeviceScaleFactorForRatio(widget ? float(widget->devicePixelRatio()) : 1.0f);
+}
+
+float DeviceScaleFactorForRatio(float ratio)
+{
     const int percent = int(std::trunc(double(ratio * 100.0f + 2.5f) / 5.0)) * 5;
     if (percent < 100)
         return 1.0f;

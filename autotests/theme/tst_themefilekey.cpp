@@ -1,0 +1,71 @@
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeKeyCatalogue.h>
+
+#include <QSet>
+#include <QTest>
+
+using namespace Kavrel::UICore;
+
+class tst_ThemeFileKey : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deliberateTexts_data();
+    void deliberateTexts();
+    void catalogueIsCompleteAndUnique();
+    void fixedMetrics();
+};
+
+void tst_ThemeFileKey::deliberateTexts_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("ContextMenuIcon") << ThemeFileKey::ContextMenuIcon << "ContectMenu";
+    QTest::newRow("HideTreeIcon") << ThemeFileKey::HideTreeIcon << "hide tree";
+    QTest::newRow("ShowTreeIcon") << ThemeFileKey::ShowTreeIcon << "show tree";
+    QTest::newRow("HoverAddIcon") << ThemeFileKey::HoverAddIcon << "Hover_Hover_Add";
+    QTest::newRow("HoverAddAndEditIcon") << ThemeFileKey::HoverAddAndEditIcon << "Hover_Hover_AddAndEdit";
+    QTest::newRow("IdleDownloadIcon") << ThemeFileKey::IdleDownloadIcon << "Idle_Hover_Download";
+    QTest::newRow("PressReplaceIcon") << ThemeFileKey::PressReplaceIcon << "Pressed_Hover_Replace";
+    QTest::newRow("plain key") << ThemeFileKey::FontNormal1 << "FontNormal1";
+    QTest::newRow("lower-case key") << ThemeFileKey::wood_16Icon << "wood_16Icon";
+}
+
+void tst_ThemeFileKey::deliberateTexts()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, text);
+    QCOMPARE(key, text);
+}
+
+void tst_ThemeFileKey::catalogueIsCompleteAndUnique()
+{
+    std::size_t count = 0;
+    const ThemeKeyEntry* entries = ThemeKeyCatalogue(&count);
+    QCOMPARE(count, std::size_t(389));
+    QSet<QString> texts;
+    int different = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        texts.insert(QString::fromLatin1(entries[i].text));
+        if (qstrcmp(entries[i].member, entries[i].text) != 0)
+            ++different;
+    }
+    QCOMPARE(texts.size(), 389);
+    QCOMPARE(different, 21);
+}
+
+void tst_ThemeFileKey::fixedMetrics()
+{
+    QCOMPARE(ThemeFileKey::ButtonDefaultSize, QSize(24, 24));
+    QCOMPARE(ThemeFileKey::NormalIconSize, QSize(16, 16));
+    QCOMPARE(ThemeFileKey::Button_IconGapToBorder, QPoint(2, 2));
+    QCOMPARE(ThemeFileKey::TitleBarHeight, 20);
+    QCOMPARE(ThemeFileKey::TitleBarCloseButtonWidth, 14);
+    QCOMPARE(ThemeFileKey::TitleBarCloseButtonMargin, 4);
+    QCOMPARE(ThemeFileKey::xRadius, 1);
+    QCOMPARE(ThemeFileKey::yRadius, 1);
+}
+
+QTEST_GUILESS_MAIN(tst_ThemeFileKey)
+#include "tst_themefilekey.moc"
