@@ -23,6 +23,7 @@ private Q_SLOTS:
     void textColourFollowsEnabledState();
     void themeSwitchReappliesColour();
     void plainCheckBoxWithStyleAlsoGetsToolTip();
+    void colourSurvivesStyleSheetRepolish();
 };
 
 void tst_CheckBox::initTestCase()
@@ -122,6 +123,25 @@ void tst_CheckBox::plainCheckBoxWithStyleAlsoGetsToolTip()
     box.resize(80, 24);
     box.grab();
     QCOMPARE(box.toolTip(), longText);
+}
+
+void tst_CheckBox::colourSurvivesStyleSheetRepolish()
+{
+    // A host that sets its style sheet again after a theme switch repolishes
+    // every widget, which brings back the palette saved at the last polish.
+    ThemeManager* themes = ThemeManager::GetInstance();
+    const QString original = qApp->styleSheet();
+    qApp->setStyleSheet(QStringLiteral("QToolTip { padding: 2px; }"));
+    CheckBox box(QStringLiteral("Check"));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+    qApp->setStyleSheet(qApp->styleSheet());
+    QCOMPARE(box.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
+    qApp->setStyleSheet(qApp->styleSheet());
+    QCOMPARE(box.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+    qApp->setStyleSheet(original);
 }
 
 QTEST_MAIN(tst_CheckBox)
