@@ -1,0 +1,53 @@
+#include <KvUICore/propertyeditor/ListItem.h>
+
+namespace Kavrel::UICore {
+
+class ListItemImp
+{
+public:
+    QString msText;
+    QImage mImage;
+    QVariant mValue;
+};
+
+ListItem::ListItem(const QString& text, const QImage& image, const QVariant& value)
+    : mpImp(std::make_unique<ListItemImp>())
+{
+    mpImp->msText = text;
+    mpImp->mImage = image;
+    mpImp->mValue = value;
+}
+
+ListItem::~ListItem() = default;
+
+QString ListItem::GetText() const
+{
+    return mpImp->msText;
+}
+
+void ListItem::SetText(const QString& text)
+{
+    mpImp->msText = text;
+}
+
+QImage ListItem::GetImage() const
+{
+    return mpImp->mImage;
+}
+
+void ListItem::SetImage(const QImage& image)
+{
+    mpImp->mImage = image;
+}
+
+QVariant ListItem::GetValue() const
+{
+    return mpImp->mValue;
+}
+
+void ListItem::SetValue(const QVariant& value)
+{
+    mpImp->mValue = value;
+}
+
+} // namespace Kavrel::UICore
