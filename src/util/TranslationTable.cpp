@@ -37,6 +37,22 @@ public:
         return QString::fromWCharArray(buffer.data(), count);
     }
 
+    // The file of that name in the folder, its name matched without regard to
+    // case, so that a table's spelling doesn't depend on the file system.
+    static QString FindInFolder(const QDir& dir, const QString& fileName)
+    {
+        const QString exact = QDir::cleanPath(dir.absoluteFilePath(fileName));
+        if (QFileInfo(exact).isFile())
+            return exact;
+        const QFileInfo info(exact);
+        const QDir folder = info.dir();
+        const QString leaf = info.fileName();
+        if (leaf.contains(QLatin1Char('*')) || leaf.contains(QLatin1Char('?')) || leaf.contains(QLatin1Char('[')))
+            return QString();
+        const QStringList matches = folder.entryList(QStringList{leaf}, QDir::Files, QDir::Name);
+        return matches.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(matches.first()));
+    }
+
     static QString FindFile(const QString& name, const QString& locale, const QString& folder)
     {
         if (name.isEmpty())
@@ -44,8 +60,7 @@ public:
         const QDir dir(folder.isEmpty() ? QStringLiteral(".") : folder);
         if (name.endsWith(QLatin1String(".xlf"), Qt::CaseInsensitive)
             || name.endsWith(QLatin1String(".xliff"), Qt::CaseInsensitive)) {
-            const QString path = QDir::cleanPath(dir.absoluteFilePath(name));
-            return QFileInfo(path).isFile() ? path : QString();
+            return FindInFolder(dir, name);
         }
         QStringList suffixes;
         if (!locale.isEmpty()) {
@@ -62,8 +77,8 @@ public:
         suffixes.removeDuplicates();
         for (const QString& suffix : std::as_const(suffixes)) {
             for (const char* extension : {".xlf", ".xliff"}) {
-                const QString path = QDir::cleanPath(dir.absoluteFilePath(name + suffix + QLatin1String(extension)));
-                if (QFileInfo(path).isFile())
+                const QString path = FindInFolder(dir, name + suffix + QLatin1String(extension));
+                if (!path.isEmpty())
                     return path;
             }
         }

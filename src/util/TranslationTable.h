@@ -19,7 +19,7 @@ class TranslationTableImp;
 //   F/N_de-DE.xlf, F/N_de_DE.xlf, F/N_de.xlf, F/N.xlf
 // and the same names ending in ".xliff". A name that already ends in ".xlf"
 // or ".xliff" names the file itself, relative to F unless it is absolute.
-// Names are matched as the file system matches them.
+// File names match without regard to case.
 //
 // In the file every <trans-unit> gives one entry: its "id" attribute is the
 // id (the "resname" attribute counts as a second id), the text of its
