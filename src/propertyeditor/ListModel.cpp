@@ -86,8 +86,6 @@ int ListModel::rowCount(const QModelIndex& parent) const
 
 QVariant ListModel::data(const QModelIndex& index, int role) const
 {
-    if (index.isValid() && index.model() != this)
-        return QVariant();
     return mpImp->Data(index.row(), role);
 }
 
