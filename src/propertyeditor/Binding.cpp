@@ -91,6 +91,9 @@ bool BindingImp::Bind(QObject* source, const QString& property)
     mpSource = source;
     msSourceProperty = property;
     mProperty = metaObject->property(index);
+    miPropertyIndex = index;
+    mPropertyType = mProperty.metaType();
+    mbReadInPlace = mPropertyType.isValid() && mPropertyType != QMetaType::fromType<QVariant>();
     miValueTypeId = mProperty.metaType().id();
     mValueType = miValueTypeId < QMetaType::User ? QMetaType::Type(miValueTypeId) : QMetaType::User;
     msSourceChangedText = QStringLiteral("Source value changed: %1::%2\n").arg(className(source), property);
@@ -134,9 +137,27 @@ void BindingImp::Reresolve()
         NotifyRebound();
 }
 
-QVariant BindingImp::ReadSource() const
+const QVariant& BindingImp::ReadSource()
 {
-    return mProperty.read(mpSource.data());
+    const QMetaType type = mPropertyType;
+    if (!mbReadInPlace) {
+        mValue = mProperty.read(mpSource.data());
+        return mValue;
+    }
+    // The property is read into the storage of the value last seen, which
+    // already has the property's type: no variant is built per read.
+    if (mValue.metaType() != type)
+        mValue = QVariant(type);
+    int status = -1;
+    QVariant direct;
+    void* storage = mValue.data();
+    void* argv[] = {storage, &direct, &status};
+    QMetaObject::metacall(mpSource.data(), QMetaObject::ReadProperty, miPropertyIndex, argv);
+    if (status != -1)
+        mValue = direct;
+    else if (argv[0] != storage)
+        mValue = QVariant(type, argv[0]);
+    return mValue;
 }
 
 QVariant BindingImp::ConvertLiteral(const QVariant& value, QMetaType::Type type)
@@ -275,9 +296,7 @@ bool Binding::IsBound() const
 
 QVariant Binding::GetValue() const
 {
-    if (mpImp->mpSource)
-        mpImp->mValue = mpImp->ReadSource();
-    return mpImp->mValue;
+    return mpImp->mpSource ? mpImp->ReadSource() : mpImp->mValue;
 }
 
 bool Binding::SetValue(const QVariant& value)

@@ -28,7 +28,8 @@ public:
     // Unbinds an expression and resolves it again; notifies when the source
     // or the property changed.
     void Reresolve();
-    QVariant ReadSource() const;
+    // Reads the source property into the value and returns it.
+    const QVariant& ReadSource();
     static QVariant ConvertLiteral(const QVariant& value, QMetaType::Type type);
 
     QString msExpression;
@@ -41,6 +42,9 @@ public:
     Binding* const mpOwner;
 
     QMetaProperty mProperty;
+    int miPropertyIndex = -1;
+    QMetaType mPropertyType;
+    bool mbReadInPlace = false;
     QString msSourceChangedText;
     QMetaObject::Connection mNotifyConnection;
     QMetaObject::Connection mDestroyedConnection;
