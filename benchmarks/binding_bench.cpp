@@ -1,7 +1,8 @@
 // A source property changing 100,000 times, followed through a Binding and
-// through a direct connection (reading the value through its typed getter, and
-// as a QVariant through its meta-property, as a binding's subscriber gets it); and a 10,000-element settings file read through
-// the XML filer and parsed by a bare QDomDocument.
+// through a direct connection (reading the value through its typed getter,
+// and as a QVariant through its meta-property, as a binding's subscriber gets
+// it); and a 10,000-element settings file read through the XML filer and
+// parsed by a bare QDomDocument.
 
 #include "BenchRatio.h"
 
@@ -99,7 +100,8 @@ const QString& settingsFile()
         const QString file = dir.filePath(QStringLiteral("settings.xml"));
         QString xml = QStringLiteral("<?xml version=\"1.0\"?>\n<Settings>\n");
         for (int i = 0; i < kElements; ++i) {
-            xml += QStringLiteral("    <Entry Name=\"Entry%1\" Value=\"%2\" Enabled=\"True\" Bounds=\"%1,%2,640,480\"/>\n")
+            xml += QStringLiteral("    <Entry Name=\"Entry%1\" Value=\"%2\" Enabled=\"True\" "
+                                  "Bounds=\"%1,%2,640,480\"/>\n")
                        .arg(i)
                        .arg(i * 7);
         }

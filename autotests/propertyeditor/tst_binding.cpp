@@ -101,6 +101,7 @@ private Q_SLOTS:
     void destroyedSourceAndContextAreDropped();
     void sourceContextFollowsObjectProperties();
     void resolverAndNamesIgnoreCase();
+    void receiverMayDeleteBinding();
 
 private:
     QStringList mMessages;
@@ -268,8 +269,9 @@ void tst_Binding::resolutionMessages()
 
     mMessages.clear();
     QVERIFY(binding.SetExpression(QStringLiteral("Binding(Missing)")));
-    QCOMPARE(mMessages, QStringList({QStringLiteral("Resolving binding expression: Binding(Missing)\n"),
-                                     QStringLiteral("Binding error: Property Missing is not found in object Source\n")}));
+    QCOMPARE(mMessages,
+             QStringList({QStringLiteral("Resolving binding expression: Binding(Missing)\n"),
+                          QStringLiteral("Binding error: Property Missing is not found in object Source\n")}));
 
     // Unchanged expression: nothing happens.
     mMessages.clear();
@@ -571,6 +573,20 @@ void tst_Binding::resolverAndNamesIgnoreCase()
     QCOMPARE(context.GetContextObjectNames(), QStringList{QStringLiteral("SiZe")});
     context.NotifyContextChanged();
     QCOMPARE(binding.GetSource(), &other);
+}
+
+void tst_Binding::receiverMayDeleteBinding()
+{
+    Source source;
+    auto* binding = new Binding(&source, QStringLiteral("Width"));
+    QPointer<Binding> guard(binding);
+    int modified = 0;
+    connect(binding, &Binding::ValueChanged, this, [binding] { delete binding; });
+    connect(binding, &Binding::BindingModified, this, [&modified] { ++modified; });
+    source.SetWidth(3);
+    QVERIFY(guard.isNull());
+    QCOMPARE(modified, 0);
+    source.SetWidth(4);
 }
 
 QTEST_MAIN(tst_Binding)

@@ -96,6 +96,9 @@ private Q_SLOTS:
     void elementContentRoundTrips();
     void createPathAndRemove();
     void insertFragment();
+    void outerXmlIsTheElementWithItsSubtree();
+    void savingKeepsEveryCharacter_data();
+    void savingKeepsEveryCharacter();
 
     void saveEmptyDocumentCreatesNoFile();
     void openOrCreate();
@@ -573,6 +576,61 @@ void tst_XmlFiler::insertFragment()
     QVERIFY(filer.GoToPath(QStringLiteral("B/C")));
     QVERIFY(filer.GoToPath(QStringLiteral("/Root/A")));
     QCOMPARE(filer.ReadInt(QStringLiteral("v")), 1);
+}
+
+void tst_XmlFiler::outerXmlIsTheElementWithItsSubtree()
+{
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root><Def LabelColumnWidth=\"90\"><PageElement/></Def></Root>")));
+    QVERIFY(filer.GoToFirstChild());
+    XmlFiler inner;
+    QVERIFY(inner.Parse(filer.ReadOuterXml()));
+    QCOMPARE(inner.GetElementName(), QStringLiteral("Def"));
+    QCOMPARE(inner.ReadInt(QStringLiteral("LabelColumnWidth")), 90);
+    QVERIFY(inner.GoToFirstChild(QStringLiteral("PageElement")));
+}
+
+void tst_XmlFiler::savingKeepsEveryCharacter_data()
+{
+    QTest::addColumn<QString>("declaration");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("expectedBytes");
+    QTest::addColumn<QString>("expectedEncoding");
+
+    QTest::newRow("latin-1 text in latin-1") << "ISO-8859-1" << QString::fromUtf8("caf\u00e9") << QByteArray("caf\xe9")
+                                             << "ISO-8859-1";
+    QTest::newRow("euro sign in latin-1") << "ISO-8859-1" << QString::fromUtf8("5 \u20ac") << QByteArray("5 \xe2\x82\xac")
+                                          << "UTF-8";
+    QTest::newRow("unknown encoding") << "x-no-such-encoding" << QString::fromUtf8("\u00e9") << QByteArray("\xc3\xa9")
+                                      << "UTF-8";
+    QTest::newRow("utf-8") << "UTF-8" << QString::fromUtf8("\u0436\u20ac") << QByteArray("\xd0\xb6\xe2\x82\xac")
+                           << "UTF-8";
+}
+
+void tst_XmlFiler::savingKeepsEveryCharacter()
+{
+    QFETCH(QString, declaration);
+    QFETCH(QString, text);
+    QFETCH(QByteArray, expectedBytes);
+    QFETCH(QString, expectedEncoding);
+
+    const QString path = mDir.filePath(QStringLiteral("encoding.xml"));
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?><Root/>").arg(declaration)));
+    QVERIFY(filer.WriteString(QStringLiteral("Text"), text));
+    if (declaration.startsWith(QLatin1String("x-")))
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Unsupported encoding")));
+    QVERIFY(filer.Save(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QVERIFY2(bytes.contains(expectedBytes), bytes.constData());
+    const QRegularExpression encoding(QStringLiteral("^<\\?xml [^>]*encoding=[\"']%1[\"']").arg(expectedEncoding));
+    QVERIFY2(encoding.match(QString::fromLatin1(bytes)).hasMatch(), bytes.constData());
+
+    XmlFiler reopened;
+    QVERIFY(reopened.Open(path));
+    QCOMPARE(reopened.ReadString(QStringLiteral("Text")), text);
 }
 
 void tst_XmlFiler::saveEmptyDocumentCreatesNoFile()

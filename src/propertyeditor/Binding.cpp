@@ -30,6 +30,12 @@ BindingImp::BindingImp(Binding* owner)
 {
 }
 
+BindingImp::~BindingImp()
+{
+    if (mpDeletedFlag)
+        *mpDeletedFlag = true;
+}
+
 bool BindingImp::ParseCallForm(const QString& text, QString* name, QStringList* arguments)
 {
     const qsizetype open = text.indexOf(QLatin1Char('('));
@@ -119,10 +125,23 @@ void BindingImp::Unbind(bool clearProperty)
         msSourceProperty.clear();
 }
 
-void BindingImp::NotifyRebound()
+bool BindingImp::NotifyRebound()
 {
+    // A receiver may delete the binding, for instance an element that drops
+    // its bindings while updating its widget.
+    bool deleted = false;
+    bool* outer = mpDeletedFlag;
+    mpDeletedFlag = &deleted;
     emit mpOwner->ValueChanged();
-    emit mpOwner->BindingModified();
+    if (!deleted)
+        emit mpOwner->BindingModified();
+    if (deleted) {
+        if (outer)
+            *outer = true;
+        return false;
+    }
+    mpDeletedFlag = outer;
+    return true;
 }
 
 void BindingImp::Reresolve()
@@ -197,8 +216,7 @@ QVariant BindingImp::ConvertLiteral(const QVariant& value, QMetaType::Type type)
 void BindingImp::SourceValueChangedSlot()
 {
     Internal::WriteDiagnostic(msSourceChangedText);
-    emit mpOwner->ValueChanged();
-    emit mpOwner->BindingModified();
+    NotifyRebound();
 }
 
 void BindingImp::ContextChanged()
@@ -305,8 +323,8 @@ bool Binding::SetValue(const QVariant& value)
         return true;
     if (!mpImp->msExpression.isEmpty() && !mpImp->mpSource) {
         mpImp->Resolve();
-        if (mpImp->mpSource)
-            mpImp->NotifyRebound();
+        if (mpImp->mpSource && !mpImp->NotifyRebound())
+            return true;
     }
     if (!mpImp->mpSource) {
         const QVariant stored =

@@ -15,6 +15,7 @@ class BindingImp : public QObject
 
 public:
     explicit BindingImp(Binding* owner);
+    ~BindingImp() override;
 
     // The parts of a text in call form: the name before the first "(", the
     // arguments between it and the last ")", split at "," and trimmed.
@@ -24,7 +25,9 @@ public:
     bool Bind(QObject* source, const QString& property);
     // Drops the source; the property name is cleared when clearProperty is set.
     void Unbind(bool clearProperty);
-    void NotifyRebound();
+    // Emits ValueChanged() and BindingModified(); false when a receiver
+    // deleted the binding meanwhile.
+    bool NotifyRebound();
     // Unbinds an expression and resolves it again; notifies when the source
     // or the property changed.
     void Reresolve();
@@ -50,6 +53,8 @@ public:
     QMetaObject::Connection mDestroyedConnection;
     QMetaObject::Connection mContextConnection;
     QMetaObject::Connection mContextDestroyedConnection;
+    // Set while signals are emitted; tells the emitter that the binding died.
+    bool* mpDeletedFlag = nullptr;
 
 public Q_SLOTS:
     void SourceValueChangedSlot();

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QStringConverter>
 #include <QStringList>
 #include <QTextStream>
 
@@ -67,6 +68,51 @@ public:
         return true;
     }
 
+    // The encoding named by the XML declaration; UTF-8 without one.
+    QString DeclaredEncoding() const
+    {
+        const QDomNode first = mDocument.firstChild();
+        if (first.isProcessingInstruction() && first.nodeName() == QLatin1String("xml")) {
+            const QRegularExpressionMatch match = EncodingPattern().match(first.toProcessingInstruction().data());
+            if (match.hasMatch())
+                return match.captured(2);
+        }
+        return QStringLiteral("UTF-8");
+    }
+
+    static const QRegularExpression& EncodingPattern()
+    {
+        // Group 1: up to the opening quote; group 2: the name.
+        static const QRegularExpression pattern(QStringLiteral("(encoding\\s*=\\s*[\"'])([^\"']*)"));
+        return pattern;
+    }
+
+    // The document's bytes in its declared encoding. Text the encoding can't
+    // hold, or an encoding that isn't known, would be lost or garbled: the
+    // document is then written as UTF-8 and its declaration says so.
+    QByteArray Serialize() const
+    {
+        QString text;
+        {
+            QTextStream stream(&text);
+            mDocument.save(stream, 4, QDomNode::EncodingFromDocument);
+        }
+        const QString encoding = DeclaredEncoding();
+        QStringEncoder encoder(encoding.toLatin1().constData());
+        if (encoder.isValid()) {
+            QByteArray bytes = encoder.encode(text);
+            if (!encoder.hasError())
+                return bytes;
+        }
+        const qsizetype end = text.indexOf(QLatin1String("?>"));
+        if (text.startsWith(QLatin1String("<?xml")) && end > 0) {
+            QString declaration = text.left(end);
+            declaration.replace(EncodingPattern(), QStringLiteral("\\1UTF-8"));
+            text.replace(0, end, declaration);
+        }
+        return text.toUtf8();
+    }
+
     bool WriteFile(const QString& fileName) const
     {
         if (mDocument.isNull() || mDocument.documentElement().isNull() || fileName.isEmpty())
@@ -76,14 +122,10 @@ public:
         QSaveFile file(fileName);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
             return false;
-        {
-            QTextStream stream(&file);
-            mDocument.save(stream, 4, QDomNode::EncodingFromDocument);
-            stream.flush();
-            if (stream.status() != QTextStream::Ok) {
-                file.cancelWriting();
-                return false;
-            }
+        const QByteArray bytes = Serialize();
+        if (file.write(bytes) != bytes.size()) {
+            file.cancelWriting();
+            return false;
         }
         return file.commit();
     }
@@ -148,7 +190,8 @@ public:
             const QString& component = components.at(i);
             if (component == QLatin1String("."))
                 continue;
-            QDomElement next = component == QLatin1String("..") ? Parent(element) : element.firstChildElement(component);
+            QDomElement next =
+                component == QLatin1String("..") ? Parent(element) : element.firstChildElement(component);
             if (next.isNull()) {
                 if (!create || component == QLatin1String(".."))
                     return false;
@@ -616,6 +659,18 @@ QString XmlFiler::ReadInnerXml() const
     QTextStream stream(&xml);
     for (QDomNode child = mpImp->Current().firstChild(); !child.isNull(); child = child.nextSibling())
         child.save(stream, 4);
+    stream.flush();
+    return xml;
+}
+
+QString XmlFiler::ReadOuterXml() const
+{
+    const QDomElement element = mpImp->Current();
+    if (element.isNull())
+        return QString();
+    QString xml;
+    QTextStream stream(&xml);
+    element.save(stream, 4);
     stream.flush();
     return xml;
 }

@@ -44,6 +44,9 @@ using XmlWordTable = QList<QPair<int, QString>>;
 //
 // Saving is atomic: the document goes to a temporary file that replaces the
 // target only once it is complete, so a failed save leaves the old file whole.
+// The document is written in the encoding its XML declaration names; when
+// that encoding is unknown or can't hold the text, it is written as UTF-8 and
+// the declaration is changed to say so, rather than losing characters.
 //
 // Not thread-safe; use it on one thread.
 class KVUICORE_EXPORT XmlFiler
@@ -143,6 +146,8 @@ public:
     QByteArray ReadBinary() const;
     // The element's child nodes as XML, indented by 4.
     QString ReadInnerXml() const;
+    // The element itself with its subtree as XML, indented by 4.
+    QString ReadOuterXml() const;
 
     // ---- Writing --------------------------------------------------------------
 
