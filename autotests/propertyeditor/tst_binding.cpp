@@ -4,6 +4,7 @@
 #include <KvUICore/util/Diagnostics_p.h>
 
 #include <QPointer>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -102,6 +103,7 @@ private Q_SLOTS:
     void sourceContextFollowsObjectProperties();
     void resolverAndNamesIgnoreCase();
     void receiverMayDeleteBinding();
+    void arbitraryExpressionsAreHandled();
 
 private:
     QStringList mMessages;
@@ -587,6 +589,38 @@ void tst_Binding::receiverMayDeleteBinding()
     QVERIFY(guard.isNull());
     QCOMPARE(modified, 0);
     source.SetWidth(4);
+}
+
+void tst_Binding::arbitraryExpressionsAreHandled()
+{
+    Source defaultObject(QStringLiteral("default"));
+    Source named(QStringLiteral("a"));
+    PropertyEditorContext context;
+    context.SetContextObject(&defaultObject);
+    context.SetContextObject(QStringLiteral("a"), &named);
+    const QStringList tokens = {QStringLiteral("Binding("), QStringLiteral("binding ("), QStringLiteral("("),
+                                QStringLiteral(")"),        QStringLiteral(","),          QStringLiteral("."),
+                                QStringLiteral(" "),        QStringLiteral("Width"),      QStringLiteral("Zoom"),
+                                QStringLiteral("a."),       QStringLiteral("Missing"),    QStringLiteral("\t")};
+    QRandomGenerator random(20260101);
+    int bound = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QString text;
+        const int length = 1 + int(random.bounded(6));
+        for (int i = 0; i < length; ++i)
+            text.append(tokens.at(int(random.bounded(tokens.size()))));
+        Binding binding(QVariant(text), QMetaType::Int);
+        binding.SetContext(&context);
+        if (binding.IsBound()) {
+            QVERIFY(binding.GetSource() == &defaultObject || binding.GetSource() == &named);
+            QVERIFY(binding.GetSource()->metaObject()->indexOfProperty(qPrintable(binding.GetSourceProperty())) >= 0);
+            QVERIFY(binding.GetValue().isValid());
+            ++bound;
+        }
+    }
+    // The generator reaches both outcomes.
+    QVERIFY(bound > 0);
+    QVERIFY(bound < 3000);
 }
 
 QTEST_MAIN(tst_Binding)

@@ -452,6 +452,13 @@ void tst_XmlFiler::writersRoundTripThroughFile()
     XmlFiler filer;
     QVERIFY(filer.Open(path));
     QCOMPARE(filer.GetFileName(), path);
+    {
+        XmlFiler parsed;
+        QVERIFY(parsed.Open(path));
+        QVERIFY(parsed.Parse(QStringLiteral("<Other/>")));
+        QVERIFY(parsed.GetFileName().isEmpty());
+        QVERIFY(!parsed.Save());
+    }
     QVERIFY(filer.GoToPath(QStringLiteral("Settings/Window")));
     QCOMPARE(filer.ReadString(QStringLiteral("s")), QStringLiteral("a \"quoted\" <text> & 'more'\n\ttab"));
     QCOMPARE(filer.ReadInt(QStringLiteral("i")), std::numeric_limits<int>::min());

@@ -287,6 +287,8 @@ bool XmlFiler::Parse(const QString& text)
     mpImp->mCurrentNode = document.documentElement();
     mpImp->mRememberedNodes.clear();
     mpImp->mbModified = false;
+    // Text has no file: a later Save() must not overwrite the one opened before.
+    mpImp->msFileName.clear();
     return true;
 }
 

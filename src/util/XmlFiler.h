@@ -61,7 +61,8 @@ public:
     // be read or isn't well-formed XML (the document is then empty). On
     // success the cursor is the document element and the name is remembered.
     bool Open(const QString& fileName);
-    // Parses XML text; on success the cursor is the document element.
+    // Parses XML text; on success the cursor is the document element and the
+    // filer has no file name.
     bool Parse(const QString& text);
     // Opens the file, or starts a new document for it when it doesn't exist
     // or is empty. A document without a document element gets a "Root"
