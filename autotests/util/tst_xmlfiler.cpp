@@ -606,8 +606,8 @@ void tst_XmlFiler::savingKeepsEveryCharacter_data()
 
     QTest::newRow("latin-1 text in latin-1") << "ISO-8859-1" << QString::fromUtf8("caf\u00e9") << QByteArray("caf\xe9")
                                              << "ISO-8859-1";
-    QTest::newRow("euro sign in latin-1") << "ISO-8859-1" << QString::fromUtf8("5 \u20ac") << QByteArray("5 \xe2\x82\xac")
-                                          << "UTF-8";
+    QTest::newRow("euro sign in latin-1") << "ISO-8859-1" << QString::fromUtf8("5 \u20ac")
+                                          << QByteArray("5 \xe2\x82\xac") << "UTF-8";
     QTest::newRow("unknown encoding") << "x-no-such-encoding" << QString::fromUtf8("\u00e9") << QByteArray("\xc3\xa9")
                                       << "UTF-8";
     QTest::newRow("utf-8") << "UTF-8" << QString::fromUtf8("\u0436\u20ac") << QByteArray("\xd0\xb6\xe2\x82\xac")
