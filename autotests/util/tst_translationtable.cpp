@@ -50,6 +50,7 @@ private Q_SLOTS:
     void cleanup();
 
     void readsTransUnits();
+    void readsXliff2Units();
     void malformedFileLeavesTableEmpty();
     void renamingEmptiesTable();
     void fileFoundByNameAndLocale_data();
@@ -85,6 +86,8 @@ void tst_TranslationTable::readsTransUnits()
                     + QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>")
                     + QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
                                      "<target>Fest</target></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
+                                     "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>")
                     + QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
                                      "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
     TranslationTable table(QStringLiteral("units"));
@@ -98,7 +101,22 @@ void tst_TranslationTable::readsTransUnits()
     QCOMPARE(table.GetText(QStringLiteral("Zoom")), QStringLiteral("Vergrößerung"));
     QCOMPARE(table.GetText(QStringLiteral("u7")), QStringLiteral("Vergrößerung"));
     QCOMPARE(table.GetText(QStringLiteral("general")), QStringLiteral("general"));
-    QCOMPARE(table.GetCount(), 4);
+    QCOMPARE(table.GetText(QStringLiteral("Height")), QStringLiteral("Höhe"));
+    QCOMPARE(table.GetCount(), 5);
+}
+
+void tst_TranslationTable::readsXliff2Units()
+{
+    const QString path = mDir.filePath(QStringLiteral("units2.xlf"));
+    QVERIFY(writeFile(path, QStringLiteral("<xliff version=\"2.0\" xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" "
+                                           "srcLang=\"en\" trgLang=\"de\"><file id=\"f\">"
+                                           "<unit id=\"Greeting\"><segment><source>Hello.</source>"
+                                           "<target>Hallo.</target></segment><segment><source> Bye.</source>"
+                                           "<target> Tschüss.</target></segment></unit>"
+                                           "</file></xliff>")));
+    TranslationTable table;
+    QVERIFY(table.LoadFile(path));
+    QCOMPARE(table.GetText(QStringLiteral("Greeting")), QStringLiteral("Hallo. Tschüss."));
 }
 
 void tst_TranslationTable::malformedFileLeavesTableEmpty()

@@ -96,7 +96,8 @@ public:
             const QXmlStreamReader::TokenType token = reader.readNext();
             if (token == QXmlStreamReader::StartElement) {
                 const QStringView name = reader.name();
-                if (name == QLatin1String("trans-unit")) {
+                // XLIFF 2 calls the unit <unit> and may split it in segments.
+                if (name == QLatin1String("trans-unit") || name == QLatin1String("unit")) {
                     inUnit = true;
                     const QXmlStreamAttributes attributes = reader.attributes();
                     ids.clear();
@@ -107,11 +108,15 @@ public:
                     }
                     skipUnit = attributes.value(QLatin1String("translate")) == QLatin1String("no");
                     target.clear();
+                } else if (inUnit && name == QLatin1String("alt-trans")) {
+                    // Suggested alternatives, not the translation.
+                    reader.skipCurrentElement();
                 } else if (inUnit && name == QLatin1String("target")) {
                     // Inline markup (<g>, <x/>, ...) contributes its text.
-                    target = reader.readElementText(QXmlStreamReader::IncludeChildElements);
+                    target += reader.readElementText(QXmlStreamReader::IncludeChildElements);
                 }
-            } else if (token == QXmlStreamReader::EndElement && reader.name() == QLatin1String("trans-unit")) {
+            } else if (token == QXmlStreamReader::EndElement
+                       && (reader.name() == QLatin1String("trans-unit") || reader.name() == QLatin1String("unit"))) {
                 if (!skipUnit && !target.isEmpty()) {
                     for (const QString& id : std::as_const(ids))
                         texts->insert(id, target);

@@ -24,7 +24,9 @@ class TranslationTableImp;
 // In the file every <trans-unit> gives one entry: its "id" attribute is the
 // id (the "resname" attribute counts as a second id), the text of its
 // <target> the translation. Units without an id or with an empty target are
-// skipped, and so are units that the file marks translate="no".
+// skipped, and so are units that the file marks translate="no". XLIFF 2
+// files are read the same way: a <unit> gives one entry, the targets of its
+// segments joined.
 //
 // An id without a translation reads as the id itself.
 class KVUICORE_EXPORT TranslationTable
