@@ -25,29 +25,14 @@ QString ListItem::GetText() const
     return mpImp->msText;
 }
 
-void ListItem::SetText(const QString& text)
-{
-    mpImp->msText = text;
-}
-
 QImage ListItem::GetImage() const
 {
     return mpImp->mImage;
 }
 
-void ListItem::SetImage(const QImage& image)
-{
-    mpImp->mImage = image;
-}
-
 QVariant ListItem::GetValue() const
 {
     return mpImp->mValue;
-}
-
-void ListItem::SetValue(const QVariant& value)
-{
-    mpImp->mValue = value;
 }
 
 } // namespace Kavrel::UICore

@@ -12,7 +12,8 @@ namespace Kavrel::UICore {
 
 class ListItemImp;
 
-// One row of a ListModel: a text, an image and a value.
+// One row of a ListModel: a text, an image and a value, fixed at construction
+// (a model's views are never told of changes to its rows).
 class KVUICORE_EXPORT ListItem
 {
 public:
@@ -20,11 +21,8 @@ public:
     ~ListItem();
 
     QString GetText() const;
-    void SetText(const QString& text);
     QImage GetImage() const;
-    void SetImage(const QImage& image);
     QVariant GetValue() const;
-    void SetValue(const QVariant& value);
 
 private:
     Q_DISABLE_COPY_MOVE(ListItem)
