@@ -305,11 +305,12 @@ void DropDownImp::DrawTriangleArrow(QPainter& painter) const
         color = themes->GetColor(ThemeFileKey::DropDownTriangle);
     if (!mpOwner->isEnabled())
         color = Internal::DimmedColor(color);
-    const QRectF column = ArrowColumn();
-    const qreal width = 7.0;
-    const qreal height = 4.0;
-    const qreal x = column.left() + (column.width() - width) / 2.0 - 1.0;
-    const qreal y = column.top() + (column.height() - height) / 2.0;
+    // Whole-pixel corners keep the arrow crisp.
+    const QRect column = ArrowColumn();
+    const int width = 8;
+    const int height = 4;
+    const qreal x = column.left() + (column.width() - width) / 2 - 1;
+    const qreal y = column.top() + (column.height() - height) / 2;
     const QPointF points[3] = {QPointF(x, y), QPointF(x + width, y), QPointF(x + width / 2.0, y + height)};
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
