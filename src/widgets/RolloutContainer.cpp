@@ -82,7 +82,10 @@ public:
         mpHiddenChildren->clear();
         const QList<QWidget*> children = mpOwner->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
         for (QWidget* child : children) {
-            if (child == mpCheckBox || child->isHidden() || child->isWindow())
+            // A child that was never shown explicitly is still to be shown by its
+            // layout; it counts as content, or it would appear in a collapsed container.
+            const bool hiddenBefore = child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide);
+            if (child == mpCheckBox || hiddenBefore || child->isWindow())
                 continue;
             mpHiddenChildren->append(child);
             child->hide();
@@ -436,9 +439,10 @@ void RolloutContainer::paintEvent(QPaintEvent*)
 
     const QRect column(title.left(), title.top(), kTriangleColumnWidth, titleHeight);
     if (mpImp->mbExpandButtonVisible) {
-        const QSizeF size = mpImp->mbCollapsed ? QSizeF(7, 10) : QSizeF(10, 7);
-        const QPointF origin(column.left() + (column.width() - size.width()) / 2.0,
-                             column.top() + (column.height() - size.height()) / 2.0);
+        // Whole-pixel placement keeps the triangle's edges crisp.
+        const QSize size = mpImp->mbCollapsed ? QSize(7, 10) : QSize(10, 7);
+        const QPointF origin(column.left() + (column.width() - size.width()) / 2,
+                             column.top() + (column.height() - size.height()) / 2);
         QPolygonF triangle;
         if (mpImp->mbCollapsed)
             triangle << QPointF(0, 0) << QPointF(0, 10) << QPointF(7, 5);
