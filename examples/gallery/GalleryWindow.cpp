@@ -4,8 +4,10 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -56,7 +58,15 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     body->addWidget(mpPages, 1);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    header->setContentsMargins(12, 8, 12, 8);
     layout->addLayout(header);
+    mpHeaderRule = new QFrame(this);
+    mpHeaderRule->setFixedHeight(1);
+    mpHeaderRule->setAutoFillBackground(true);
+    layout->addWidget(mpHeaderRule);
+    body->setSpacing(0);
     layout->addLayout(body, 1);
 
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &GalleryWindow::OnThemeChanged);
@@ -75,6 +85,11 @@ QString GalleryWindow::PageTitle(int index) const
 {
     QListWidgetItem* item = mpPageList->item(index);
     return item ? item->text() : QString();
+}
+
+QWidget* GalleryWindow::PageWidget(int index) const
+{
+    return mpPages->widget(index);
 }
 
 void GalleryWindow::ShowPage(int index)
@@ -100,16 +115,60 @@ void GalleryWindow::OnThemeChosen(int index)
 
 void GalleryWindow::OnThemeChanged()
 {
+    // The gallery frame follows the theme as a host application would: one
+    // palette for the window and everything in it (lists, scroll areas, the
+    // theme switcher and its pop-up), taken from the theme's keys.
     ThemeManager* themes = ThemeManager::GetInstance();
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, themes->GetColor(ThemeFileKey::Container1));
-    palette.setColor(QPalette::WindowText, themes->GetColor(ThemeFileKey::FontNormal1));
-    palette.setColor(QPalette::Base, themes->GetColor(ThemeFileKey::WidgetContainer4));
-    palette.setColor(QPalette::Text, themes->GetColor(ThemeFileKey::FontNormal1));
-    palette.setColor(QPalette::Button, themes->GetColor(ThemeFileKey::WidgetContainer4));
-    palette.setColor(QPalette::ButtonText, themes->GetColor(ThemeFileKey::FontNormal1));
-    palette.setColor(QPalette::Highlight, themes->GetColor(ThemeFileKey::FocusOutline1));
-    setPalette(palette);
+    const QColor window = themes->GetColor(ThemeFileKey::Container1);
+    const QColor field = themes->GetColor(ThemeFileKey::WidgetContainer9);
+    const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
+    const QColor disabled = themes->GetColor(ThemeFileKey::FontColorDisabled);
+    const QColor selection = themes->GetColor(ThemeFileKey::MBViewItemSelectionBackground);
+    const QColor accent = themes->GetColor(ThemeFileKey::FocusOutline1);
+
+    QPalette palette = QApplication::palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const bool off = group == QPalette::Disabled;
+        palette.setColor(group, QPalette::Window, window);
+        palette.setColor(group, QPalette::WindowText, off ? disabled : text);
+        palette.setColor(group, QPalette::Base, field);
+        palette.setColor(group, QPalette::AlternateBase, themes->GetColor(ThemeFileKey::Container6));
+        palette.setColor(group, QPalette::Text, off ? disabled : text);
+        palette.setColor(group, QPalette::PlaceholderText, themes->GetColor(ThemeFileKey::FontSearchPrompt));
+        palette.setColor(group, QPalette::Button, themes->GetColor(ThemeFileKey::Container3));
+        palette.setColor(group, QPalette::ButtonText, off ? disabled : text);
+        palette.setColor(group, QPalette::Highlight, selection);
+        palette.setColor(group, QPalette::HighlightedText, text);
+        palette.setColor(group, QPalette::Link, themes->GetColor(ThemeFileKey::FontUnderline1));
+        palette.setColor(group, QPalette::ToolTipBase, themes->GetColor(ThemeFileKey::ToolTipBackground));
+        palette.setColor(group, QPalette::ToolTipText, text);
+        palette.setColor(group, QPalette::Light, themes->GetColor(ThemeFileKey::Container3));
+        palette.setColor(group, QPalette::Midlight, themes->GetColor(ThemeFileKey::Separator1));
+        palette.setColor(group, QPalette::Mid, themes->GetColor(ThemeFileKey::WidgetOutline3));
+        palette.setColor(group, QPalette::Dark, themes->GetColor(ThemeFileKey::WidgetOutline3));
+        palette.setColor(group, QPalette::Shadow, themes->GetColor(ThemeFileKey::HoverOutline4));
+    }
+    // The gallery is the application here, so the palette is the application's.
+    // Widgets polished under the global style sheet keep the palette they had
+    // then; polishing them again after the change lets the new one reach them.
+    QApplication::setPalette(palette);
+    if (!qApp->styleSheet().isEmpty())
+        qApp->setStyleSheet(qApp->styleSheet());
+    QPalette rule = mpHeaderRule->palette();
+    rule.setColor(QPalette::Window, themes->GetColor(ThemeFileKey::Separator1));
+    mpHeaderRule->setPalette(rule);
+
+    // The page list: 24-pixel rows on the panel colour, the selection tinted
+    // and marked with the accent at its left edge.
+    mpPageList->setStyleSheet(
+        QStringLiteral("QListWidget { background: %1; border: none; border-right: 1px solid %2; outline: 0; }"
+                       "QListWidget::item { min-height: 24px; padding-left: 10px; color: %3; border: none; }"
+                       "QListWidget::item:hover { background: %4; }"
+                       "QListWidget::item:selected { background: %5; color: %3; border-left: 3px solid %6;"
+                       " padding-left: 7px; }")
+            .arg(themes->GetColor(ThemeFileKey::Container2).name(), themes->GetColor(ThemeFileKey::Separator1).name(),
+                 text.name(), themes->GetColor(ThemeFileKey::HoverContainer1).name(), selection.name(),
+                 accent.name()));
 
     const int index = kBuiltInThemes.indexOf(themes->GetCurrentTheme());
     if (index >= 0 && mpThemeBox->currentIndex() != index)

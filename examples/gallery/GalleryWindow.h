@@ -5,6 +5,7 @@
 class QComboBox;
 class QListWidget;
 class QStackedWidget;
+class QFrame;
 class QLabel;
 
 // The gallery's main window: a theme switcher, a list of pages and the page.
@@ -18,6 +19,7 @@ public:
     int PageCount() const;
     QString PageTitle(int index) const;
     void ShowPage(int index);
+    QWidget* PageWidget(int index) const;
     // Switches to a built-in theme and updates the switcher to match.
     bool SwitchTheme(const QString& theme);
 
@@ -29,4 +31,5 @@ private:
     QListWidget* mpPageList = nullptr;
     QStackedWidget* mpPages = nullptr;
     QLabel* mpTitle = nullptr;
+    QFrame* mpHeaderRule = nullptr;
 };

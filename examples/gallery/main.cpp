@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QScrollArea>
 #include <QTimer>
 
 #include <cstdio>
@@ -46,6 +47,27 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
             }
             std::printf("%s\n", qPrintable(path));
             ++written;
+            // A scrolling page is also written whole, as tall as its contents.
+            if (auto* area = qobject_cast<QScrollArea*>(window.PageWidget(page)); area && area->widget()) {
+                QWidget* contents = area->widget();
+                const int width = area->viewport()->width();
+                const int height = contents->hasHeightForWidth() ? contents->heightForWidth(width)
+                                                                 : contents->sizeHint().height();
+                if (height > area->viewport()->height()) {
+                    // Out of the scroll area for the moment, so that nothing sizes it back.
+                    area->takeWidget();
+                    contents->resize(width, height);
+                    const QPixmap shot = contents->grab();
+                    area->setWidget(contents);
+                    const QString full =
+                        QStringLiteral("%1/%2-%3-full.png").arg(folder, theme, slug(window.PageTitle(page)));
+                    if (!shot.save(full)) {
+                        std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(full));
+                        return 1;
+                    }
+                    std::printf("%s\n", qPrintable(full));
+                }
+            }
         }
     }
     return written > 0 ? 0 : 1;

@@ -1,0 +1,124 @@
+#pragma once
+
+// Pixel probes for the painting tests: rendered widgets are compared against
+// theme colours in device pixels, so that the checks hold at any scale.
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/core/DrawingHelpers_p.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QImage>
+#include <QList>
+#include <QPainter>
+#include <QWidget>
+#include <QtTest>
+
+#include <cmath>
+
+namespace Probe {
+
+inline void UseRepositoryThemes(const QString& theme = QStringLiteral("Light"))
+{
+    Kavrel::UICore::Internal::SetWarningHook([](const QString&, const QString&) { return true; });
+    auto* themes = Kavrel::UICore::ThemeManager::GetInstance();
+    // KVUICORE_TEST_THEMES_DIR lets a developer run the probes against themes
+    // being worked on; by default the repository's themes are used.
+    const QString folder = qEnvironmentVariable("KVUICORE_TEST_THEMES_DIR", QStringLiteral(KVUICORE_THEMES_DIR));
+    themes->SetThemeFilesPath(folder.toStdWString().c_str());
+    QVERIFY(themes->SetCurrentTheme(theme) || themes->GetCurrentTheme() == theme);
+}
+
+inline QImage Grab(QWidget* widget)
+{
+    return widget->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+// The bucket: how many device pixels wide a one-line stroke is at this image's scale.
+inline int Bucket(const QImage& image)
+{
+    const qreal ratio = image.devicePixelRatio();
+    const int percent = int(std::trunc((ratio * 100.0 + 2.5) / 5.0)) * 5;
+    const float factor = percent < 100 ? 1.0f : std::min(percent, 350) * 0.01f;
+    return int(Kavrel::UICore::Internal::ResolutionBucket(factor));
+}
+
+inline int DeviceFloor(const QImage& image, qreal logical)
+{
+    return int(std::floor(logical * image.devicePixelRatio() + 1e-6));
+}
+
+inline int DeviceCeil(const QImage& image, qreal logical)
+{
+    return int(std::ceil(logical * image.devicePixelRatio() - 0.01));
+}
+
+inline QColor Pixel(const QImage& image, int deviceX, int deviceY)
+{
+    return QColor::fromRgba(image.pixel(deviceX, deviceY));
+}
+
+// A colour painted over an opaque background, as the widget would show it.
+inline QColor Composite(const QColor& background, const QBrush& brush)
+{
+    QImage image(1, 1, QImage::Format_ARGB32);
+    image.fill(background);
+    QPainter painter(&image);
+    painter.fillRect(QRect(0, 0, 1, 1), brush.gradient() ? QBrush(brush.gradient()->stops().first().second) : brush);
+    painter.end();
+    return QColor::fromRgba(image.pixel(0, 0));
+}
+
+// The colour a brush (a gradient too) gives at a device pixel of an image of
+// the given size when it fills logicalRect over background.
+inline QColor Reference(const QImage& like, const QColor& background, const QBrush& brush, const QRectF& logicalRect,
+                        int deviceX, int deviceY)
+{
+    QImage image(like.size(), QImage::Format_ARGB32);
+    image.setDevicePixelRatio(like.devicePixelRatio());
+    image.fill(background);
+    QPainter painter(&image);
+    painter.fillRect(logicalRect, brush);
+    painter.end();
+    return QColor::fromRgba(image.pixel(deviceX, deviceY));
+}
+
+inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)
+{
+    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance
+           && std::abs(a.blue() - b.blue()) <= tolerance && std::abs(a.alpha() - b.alpha()) <= tolerance;
+}
+
+struct Run
+{
+    QRgb color;
+    int start;
+    int length;
+};
+
+// Runs of equal pixels along a device column (or row), from first to last.
+inline QList<Run> Runs(const QImage& image, int fixed, int first, int last, bool vertical = true)
+{
+    QList<Run> runs;
+    for (int i = first; i <= last; ++i) {
+        const QRgb pixel = vertical ? image.pixel(fixed, i) : image.pixel(i, fixed);
+        if (!runs.isEmpty() && runs.last().color == pixel)
+            ++runs.last().length;
+        else
+            runs.append(Run{pixel, i, 1});
+    }
+    return runs;
+}
+
+inline QString Describe(const QList<Run>& runs)
+{
+    QStringList parts;
+    for (const Run& run : runs)
+        parts << QStringLiteral("%1x%2@%3").arg(QColor::fromRgba(run.color).name(QColor::HexArgb)).arg(run.length).arg(run.start);
+    return parts.join(QLatin1Char(' '));
+}
+
+} // namespace Probe
+
+#define PROBE_COMPARE_COLOR(actual, expected)                                                                          \
+    QVERIFY2(Probe::Near((actual), (expected)),                                                                        \
+             qPrintable(QStringLiteral("%1 != %2").arg((actual).name(QColor::HexArgb), (expected).name(QColor::HexArgb))))

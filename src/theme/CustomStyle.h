@@ -1,0 +1,91 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QProxyStyle>
+
+class QCheckBox;
+class QDoubleSpinBox;
+class QMenu;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QSlider;
+
+namespace Kavrel::UICore {
+
+// The library's look of check boxes, radio tiles, push-button icons, tool
+// buttons, spin-box arrows, sliders, progress bars and menus, painted from the
+// theme. Everything else goes to the base style (the application's style).
+//
+// Controls install the shared instance on themselves:
+//     widget->setStyle(CustomStyle::GetInstance());
+// It is never meant to be set for the whole application. It holds no state:
+// every paint asks the theme manager again, so theme switches need no notice.
+//
+// Menu items and their sizes are painted by this style only for the drop-down
+// menu of the library (a widget whose class is "Kavrel::UICore::DropDownMenu").
+// That menu paints its items itself after the standard menu painting; while it
+// runs the standard painting it sets the dynamic property named by
+// StandardMenuPaintProperty to true, and CE_MenuItem then paints nothing. An
+// item is a group label when it is a separator with a text, or when its action
+// carries the dynamic property named by GroupLabelProperty set to true.
+class KVUICORE_EXPORT CustomStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    static CustomStyle* GetInstance();
+
+    static constexpr const char* DropDownMenuClassName = "Kavrel::UICore::DropDownMenu";
+    static constexpr const char* StandardMenuPaintProperty = "kvStandardMenuPaint";
+    static constexpr const char* GroupLabelProperty = "kvGroupLabel";
+
+    // The rectangle in which a pen of penWidth strokes inside rect: left and top
+    // move in by penWidth / 2, right and bottom by (penWidth + 1) / 2.
+    static QRect AdjustedRectToPaint(const QRect& rect, int penWidth);
+
+    ~CustomStyle() override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                         const QWidget* widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                    const QWidget* widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contentsSize,
+                           const QWidget* widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* returnData = nullptr) const override;
+
+private:
+    CustomStyle();
+    Q_DISABLE_COPY_MOVE(CustomStyle)
+
+    void DrawCheckBoxIndicator(const QStyleOption* option, QPainter* painter, const QCheckBox* widget) const;
+    void DrawCheckBoxLabel(const QStyleOption* option, QPainter* painter, const QCheckBox* widget) const;
+    void DrawRadioButton(const QStyleOption* option, QPainter* painter, const QRadioButton* widget) const;
+    void DrawPushButton(const QStyleOption* option, QPainter* painter, const QPushButton* widget) const;
+    void DrawToolButton(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
+    void DrawDoubleSpinBoxComplexControl(const QStyleOptionComplex* option, QPainter* painter,
+                                         const QDoubleSpinBox* widget) const;
+    void DrawIndicatorSpinUp(const QStyleOption* option, QPainter* painter, const QDoubleSpinBox* widget) const;
+    void DrawIndicatorSpinDown(const QStyleOption* option, QPainter* painter, const QDoubleSpinBox* widget) const;
+    void DrawSliderComplexControl(const QStyleOptionComplex* option, QPainter* painter, const QSlider* widget) const;
+    void DrawProgressBarGroove(const QStyleOption* option, QPainter* painter, const QProgressBar* widget) const;
+    void DrawProgressBarContents(const QStyleOption* option, QPainter* painter, const QProgressBar* widget) const;
+    void DrawMenuFrame(const QStyleOption* option, QPainter* painter, const QMenu* widget) const;
+    void DrawMenuPanel(const QStyleOption* option, QPainter* painter, const QMenu* widget) const;
+    void DrawMenuItem(const QStyleOption* option, QPainter* painter, const QMenu* widget) const;
+
+    QRect SubControlRectDoubleSpinBox(const QStyleOptionComplex* option, SubControl subControl,
+                                      const QWidget* widget) const;
+    QRect SubControlRectSlider(const QStyleOptionComplex* option, SubControl subControl,
+                               const QWidget* widget) const;
+};
+
+} // namespace Kavrel::UICore

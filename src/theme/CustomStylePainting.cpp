@@ -1,0 +1,169 @@
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/core/DrawingHelpers_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
+
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QIcon>
+#include <QPainter>
+#include <QPaintDevice>
+#include <QWidget>
+
+#include <cmath>
+
+namespace Kavrel::UICore::Internal {
+
+namespace {
+
+// A small allowance so that edges a rounding error off the grid are not moved
+// by a whole pixel.
+constexpr qreal kGridTolerance = 0.01;
+
+bool IsPlainScale(const QTransform& transform)
+{
+    return transform.type() <= QTransform::TxScale && transform.m11() > 0 && transform.m22() > 0;
+}
+
+} // namespace
+
+StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter)
+{
+    StrokeGrid grid;
+    if (widget) {
+        grid.factor = DeviceScaleFactor(widget);
+    } else if (painter && painter->device()) {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        grid.factor = ratio < 1.0 ? 1.0f : float(std::min(3.5, std::trunc((ratio * 100.0 + 2.5) / 5.0) * 0.05));
+    }
+    grid.bucket = ResolutionBucket(grid.factor);
+    grid.unit = StrokeUnit(grid.factor);
+    return grid;
+}
+
+QPen CosmeticPen(const QBrush& brush, const StrokeGrid& grid, qreal widthFactor, Qt::PenCapStyle cap,
+                 Qt::PenJoinStyle join)
+{
+    QPen pen(brush, qreal(grid.bucket) * widthFactor, Qt::SolidLine, cap, join);
+    pen.setCosmetic(true);
+    return pen;
+}
+
+QPointF StrokeUnits(const QPainter* painter, const StrokeGrid& grid)
+{
+    const QTransform transform = painter->deviceTransform();
+    if (!IsPlainScale(transform))
+        return QPointF(grid.unit, grid.unit);
+    return QPointF(grid.bucket / transform.m11(), grid.bucket / transform.m22());
+}
+
+QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid, int inset)
+{
+    const QTransform transform = painter->deviceTransform();
+    if (!IsPlainScale(transform)) {
+        const qreal half = grid.unit * (0.5 + inset);
+        return rect.adjusted(half, half, -half, -half);
+    }
+    const qreal sx = transform.m11();
+    const qreal sy = transform.m22();
+    const qreal stroke = grid.bucket;
+    const qreal in = stroke * (0.5 + inset);
+    qreal left = std::ceil(rect.left() * sx + transform.dx() - kGridTolerance) + in;
+    qreal top = std::ceil(rect.top() * sy + transform.dy() - kGridTolerance) + in;
+    qreal right = std::floor(rect.right() * sx + transform.dx() + kGridTolerance) - in;
+    qreal bottom = std::floor(rect.bottom() * sy + transform.dy() + kGridTolerance) - in;
+    right = std::max(right, left);
+    bottom = std::max(bottom, top);
+    // Work from an origin on the device grid, so that the snapping helper sees
+    // edges on its unit grid and cuts the size to whole strokes.
+    const QPointF origin((left - stroke * 0.5 - transform.dx()) / sx, (top - stroke * 0.5 - transform.dy()) / sy);
+    const float unitX = float(stroke / sx);
+    const float unitY = float(stroke / sy);
+    const QRectF snappedX = SnappedRect(QRectF(0, 0, (right - left) / sx + unitX * 0.01, 1), 0, 0, 0, 0, unitX);
+    const QRectF snappedY = SnappedRect(QRectF(0, 0, 1, (bottom - top) / sy + unitY * 0.01), 0, 0, 0, 0, unitY);
+    return QRectF(origin.x() + snappedX.left(), origin.y() + snappedY.top(), snappedX.width() - 0.001,
+                  snappedY.height() - 0.001);
+}
+
+// Edges are filled as stroke-wide rectangles on whole device pixels rather
+// than stroked: antialiased lines leave a percent or so of coverage on the
+// neighbouring pixel row, which shows as a faint seam at fractional scales.
+void StrokeOutline(QPainter* painter, const QRectF& strokeRect, const QColor& color, const StrokeGrid& grid)
+{
+    if (!color.isValid())
+        return;
+    const QPointF units = StrokeUnits(painter, grid);
+    const qreal hx = units.x() / 2;
+    const qreal hy = units.y() / 2;
+    const QRectF outer = strokeRect.adjusted(-hx, -hy, hx, hy);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    const QRectF edges[4] = {
+        QRectF(outer.left(), outer.top(), outer.width(), units.y()),
+        QRectF(outer.left(), outer.bottom() - units.y(), outer.width(), units.y()),
+        QRectF(outer.left(), outer.top() + units.y(), units.x(), outer.height() - 2 * units.y()),
+        QRectF(outer.right() - units.x(), outer.top() + units.y(), units.x(), outer.height() - 2 * units.y()),
+    };
+    painter->drawRects(edges, 4);
+    painter->restore();
+}
+
+void DrawFramedRect(QPainter* painter, const QRectF& strokeRect, const QBrush& fill, const QColor& outline,
+                    const StrokeGrid& grid)
+{
+    const QPointF units = StrokeUnits(painter, grid);
+    const qreal ux = units.x();
+    const qreal uy = units.y();
+    const QRectF outer = strokeRect.adjusted(-ux / 2, -uy / 2, ux / 2, uy / 2);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setPen(Qt::NoPen);
+    if (fill.style() != Qt::NoBrush) {
+        const QRectF inside = outer.adjusted(ux, uy, -ux, -uy);
+        if (inside.width() > 0 && inside.height() > 0)
+            painter->fillRect(inside, fill);
+    }
+    if (outline.isValid()) {
+        // Each edge stops one stroke short of the corners.
+        painter->setBrush(outline);
+        const QRectF edges[4] = {
+            QRectF(outer.left() + ux, outer.top(), outer.width() - 2 * ux, uy),
+            QRectF(outer.left() + ux, outer.bottom() - uy, outer.width() - 2 * ux, uy),
+            QRectF(outer.left(), outer.top() + uy, ux, outer.height() - 2 * uy),
+            QRectF(outer.right() - ux, outer.top() + uy, ux, outer.height() - 2 * uy),
+        };
+        painter->drawRects(edges, 4);
+    }
+    painter->restore();
+}
+
+QBrush DimmedBrush(const QBrush& brush)
+{
+    if (const QGradient* gradient = brush.gradient()) {
+        QGradient dimmed = *gradient;
+        QGradientStops stops = dimmed.stops();
+        for (QGradientStop& stop : stops)
+            stop.second = DimmedColor(stop.second);
+        dimmed.setStops(stops);
+        return QBrush(dimmed);
+    }
+    QBrush dimmed = brush;
+    if (brush.style() != Qt::NoBrush)
+        dimmed.setColor(DimmedColor(brush.color()));
+    return dimmed;
+}
+
+QIcon IconFromTheme(const QString& key, const QSize& size)
+{
+    if (key.isEmpty())
+        return QIcon();
+    ThemeManager* themes = ThemeManager::GetInstance();
+    const QImage image = themes->GetImage(key, size);
+    if (!image.isNull())
+        return QIcon(QPixmap::fromImage(image));
+    const QString path = themes->GetString(key);
+    return path.isEmpty() ? QIcon() : QIcon(path);
+}
+
+} // namespace Kavrel::UICore::Internal

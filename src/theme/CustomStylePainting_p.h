@@ -1,0 +1,63 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QBrush>
+#include <QColor>
+#include <QPen>
+#include <QRectF>
+
+class QPainter;
+class QWidget;
+
+namespace Kavrel::UICore::Internal {
+
+// How strokes land on the device: the widget's scale factor, the width of a
+// cosmetic stroke in device pixels (the resolution bucket) and that width in
+// logical pixels.
+struct StrokeGrid
+{
+    float factor = 1.0f;
+    float bucket = 1.0f;
+    float unit = 1.0f;
+};
+
+KVUICORE_EXPORT StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter);
+
+// The cosmetic pen of the grid's width: square caps and mitre joins.
+KVUICORE_EXPORT QPen CosmeticPen(const QBrush& brush, const StrokeGrid& grid, qreal widthFactor = 1.0,
+                                 Qt::PenCapStyle cap = Qt::SquareCap, Qt::PenJoinStyle join = Qt::MiterJoin);
+
+// The centre lines of one-stroke-wide edges lying inside rect on whole device
+// pixels of the painter, `inset` strokes further in. Drawn antialiased with the
+// grid's cosmetic pen, such edges cover whole device pixels: no blurred halves.
+KVUICORE_EXPORT QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid,
+                                  int inset = 0);
+
+// The width and height of one stroke in the painter's logical coordinates.
+KVUICORE_EXPORT QPointF StrokeUnits(const QPainter* painter, const StrokeGrid& grid);
+
+// Strokes the four edges of a StrokeRect (a plain outline, corners included).
+KVUICORE_EXPORT void StrokeOutline(QPainter* painter, const QRectF& strokeRect, const QColor& color,
+                                   const StrokeGrid& grid);
+
+// The library's framed rectangle around a StrokeRect: the inside filled, the
+// four edges drawn as separate lines that stop one stroke short of the corners,
+// so the corners stay empty and the frame looks slightly rounded. An invalid
+// colour or an empty brush leaves its part out.
+KVUICORE_EXPORT void DrawFramedRect(QPainter* painter, const QRectF& strokeRect, const QBrush& fill,
+                                    const QColor& outline, const StrokeGrid& grid);
+
+// The brush with its colour (or every gradient stop) dimmed as for a disabled control.
+KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
+
+} // namespace Kavrel::UICore::Internal
+
+class QIcon;
+namespace Kavrel::UICore::Internal {
+
+// The icon behind a theme key: an "Icon" entry's image of that size, or the
+// file a "String" entry names. A null icon when the key holds neither.
+KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);
+
+} // namespace Kavrel::UICore::Internal

@@ -1,0 +1,100 @@
+#include <KvUICore/widgets/CheckBox.h>
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QEvent>
+
+namespace Kavrel::UICore {
+
+class CheckBoxImp
+{
+public:
+    QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
+    bool mbAlwaysShowTooltip = false;
+};
+
+CheckBox::CheckBox(QWidget* parent)
+    : QCheckBox(parent)
+    , mpImp(std::make_unique<CheckBoxImp>())
+{
+    Initialize();
+}
+
+CheckBox::CheckBox(const QString& text, QWidget* parent)
+    : QCheckBox(text, parent)
+    , mpImp(std::make_unique<CheckBoxImp>())
+{
+    Initialize();
+}
+
+CheckBox::~CheckBox() = default;
+
+void CheckBox::Initialize()
+{
+    setFont(Internal::ItemViewFont());
+    setAttribute(Qt::WA_Hover);
+    setStyle(CustomStyle::GetInstance());
+    setFocusPolicy(Qt::StrongFocus);
+    SetTextColorThemeKey(ThemeFileKey::FontNormal1);
+    ApplyTextColor();
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &CheckBox::OnThemeChanged);
+}
+
+QString CheckBox::GetTextColorThemeKey() const
+{
+    return mpImp->msTextColorThemeKey;
+}
+
+void CheckBox::SetTextColorThemeKey(const QString& key)
+{
+    if (key == mpImp->msTextColorThemeKey)
+        return;
+    mpImp->msTextColorThemeKey = key;
+    ApplyTextColor();
+}
+
+bool CheckBox::IsAlwaysShowTooltip() const
+{
+    return mpImp->mbAlwaysShowTooltip;
+}
+
+void CheckBox::SetAlwaysShowTooltip(bool alwaysShow)
+{
+    if (alwaysShow == mpImp->mbAlwaysShowTooltip)
+        return;
+    mpImp->mbAlwaysShowTooltip = alwaysShow;
+    update();
+}
+
+void CheckBox::OnThemeChanged()
+{
+    ApplyTextColor();
+    update();
+}
+
+void CheckBox::ApplyTextColor()
+{
+    const QString& key = isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled;
+    const QColor color = ThemeManager::GetInstance()->GetColor(key);
+    if (color.isValid())
+        Internal::SetTextColor(this, color);
+}
+
+bool CheckBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTipChange)
+        Q_EMIT ToolTipChanged();
+    return QCheckBox::event(event);
+}
+
+void CheckBox::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        ApplyTextColor();
+    QCheckBox::changeEvent(event);
+}
+
+} // namespace Kavrel::UICore

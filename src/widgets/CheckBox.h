@@ -1,0 +1,53 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QCheckBox>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class CheckBoxImp;
+
+// A check box in the library's look (painted by CustomStyle), with its text
+// colour from the theme. A label that does not fit is cut and shows its full
+// text as a tool tip, unless the always-show-tool-tip flag keeps the tool tip
+// the host set.
+class KVUICORE_EXPORT CheckBox : public QCheckBox
+{
+    Q_OBJECT
+    Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
+    Q_PROPERTY(bool alwaysShowTooltip READ IsAlwaysShowTooltip WRITE SetAlwaysShowTooltip)
+
+public:
+    explicit CheckBox(QWidget* parent = nullptr);
+    explicit CheckBox(const QString& text, QWidget* parent = nullptr);
+    ~CheckBox() override;
+
+    QString GetTextColorThemeKey() const;
+    void SetTextColorThemeKey(const QString& key);
+
+    // When true the whole label is drawn and the tool tip is left alone.
+    bool IsAlwaysShowTooltip() const;
+    void SetAlwaysShowTooltip(bool alwaysShow);
+
+Q_SIGNALS:
+    void ToolTipChanged();
+
+public Q_SLOTS:
+    void OnThemeChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(CheckBox)
+    void Initialize();
+    void ApplyTextColor();
+
+    std::unique_ptr<CheckBoxImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore

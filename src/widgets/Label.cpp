@@ -1,0 +1,292 @@
+#include <KvUICore/widgets/Label.h>
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QBitmap>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace Kavrel::UICore {
+
+namespace {
+// The room kept at the right for the right pixmap, and the largest side it gets.
+constexpr int kRightPixmapSpace = 18;
+constexpr int kRightPixmapSide = 16;
+constexpr int kStandardControlHeight = 24;
+} // namespace
+
+class LabelImp
+{
+public:
+    explicit LabelImp(Label* owner)
+        : mpOwner(owner)
+    {
+    }
+
+    bool HasRightPixmapSpace() const
+    {
+        return !mRightPixmap.isNull() && !mpOwner->wordWrap() && mpOwner->width() > kRightPixmapSpace;
+    }
+
+    QRect RightPixmapRect() const
+    {
+        if (!HasRightPixmapSpace())
+            return QRect();
+        const QRect r = mpOwner->rect();
+        const int side = std::min(r.height(), kRightPixmapSide);
+        return QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side);
+    }
+
+    int AvailableTextWidth() const
+    {
+        return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0);
+    }
+
+    bool PaintsAsPlainLabel() const
+    {
+        const QString text = mpOwner->text();
+        if (mpOwner->wordWrap() || text.isEmpty())
+            return true;
+        const Qt::TextFormat format = mpOwner->textFormat();
+        return format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(text));
+    }
+
+    void ApplyColor()
+    {
+        const QColor color = ThemeManager::GetInstance()->GetColor(msTextColorThemeKey);
+        if (color.isValid())
+            Internal::SetTextColor(mpOwner, color);
+    }
+
+    // The right pixmap at the size it is drawn, with white made transparent.
+    const QPixmap& PreparedRightPixmap(const QSize& size)
+    {
+        if (mPreparedPixmap.isNull() || mPreparedPixmap.size() != size) {
+            mPreparedPixmap = mRightPixmap.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+            mPreparedPixmap.setMask(mPreparedPixmap.createMaskFromColor(Qt::white));
+        }
+        return mPreparedPixmap;
+    }
+
+    void UpdateFixedWidth()
+    {
+        if (!mbAutoFixedWidth)
+            return;
+        msFixedWidthText = mpOwner->text();
+        const QMargins margins = mpOwner->contentsMargins();
+        int width = mpOwner->getTextWidth() + margins.left() + margins.right() + 2 * mpOwner->margin();
+        if (!mRightPixmap.isNull())
+            width += kRightPixmapSpace;
+        mpOwner->setFixedWidth(std::max(width, 1));
+    }
+
+    Label* mpOwner;
+    QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
+    QString msReservedToolTip;
+    QPixmap mRightPixmap;
+    QPixmap mPreparedPixmap;
+    QString msRightPixmapToolTip;
+    QString msFixedWidthText;
+    bool mbAutoFixedWidth = false;
+};
+
+Label::Label(QWidget* parent, Qt::WindowFlags flags)
+    : QLabel(parent, flags)
+    , mpImp(std::make_unique<LabelImp>(this))
+{
+    Initialize();
+}
+
+Label::Label(const QString& text, QWidget* parent, Qt::WindowFlags flags)
+    : QLabel(text, parent, flags)
+    , mpImp(std::make_unique<LabelImp>(this))
+{
+    Initialize();
+}
+
+Label::~Label() = default;
+
+void Label::Initialize()
+{
+    setFont(Internal::ItemViewFont());
+    if (ThemeManager::GetInstance()->Exists(ThemeFileKey::FontNormal1)) {
+        mpImp->msTextColorThemeKey = ThemeFileKey::FontNormal1;
+        mpImp->ApplyColor();
+    }
+    setMinimumHeight(kStandardControlHeight);
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &Label::OnThemeChanged);
+}
+
+QString Label::GetTextColorThemeKey() const
+{
+    return mpImp->msTextColorThemeKey;
+}
+
+void Label::SetTextColorThemeKey(const QString& key, bool force)
+{
+    if (!ThemeManager::GetInstance()->Exists(key))
+        return;
+    if (key == mpImp->msTextColorThemeKey && !force)
+        return;
+    mpImp->msTextColorThemeKey = key;
+    mpImp->ApplyColor();
+    update();
+}
+
+QString Label::GetReservedToolTip() const
+{
+    return mpImp->msReservedToolTip;
+}
+
+void Label::SetReservedToolTip(const QString& toolTip)
+{
+    mpImp->msReservedToolTip = toolTip;
+}
+
+QPixmap Label::GetRightPixmap() const
+{
+    return mpImp->mRightPixmap;
+}
+
+void Label::SetRightPixmap(const QPixmap& pixmap)
+{
+    mpImp->mRightPixmap = pixmap;
+    mpImp->mPreparedPixmap = QPixmap();
+    mpImp->UpdateFixedWidth();
+    update();
+}
+
+QString Label::GetRightPixmapTooltip() const
+{
+    return mpImp->msRightPixmapToolTip;
+}
+
+void Label::SetRightPixmapTooltip(const QString& toolTip)
+{
+    mpImp->msRightPixmapToolTip = toolTip;
+}
+
+bool Label::GetAutoFixedWidth() const
+{
+    return mpImp->mbAutoFixedWidth;
+}
+
+void Label::SetAutoFixedWidth(bool autoFixedWidth)
+{
+    if (autoFixedWidth == mpImp->mbAutoFixedWidth)
+        return;
+    mpImp->mbAutoFixedWidth = autoFixedWidth;
+    if (autoFixedWidth) {
+        mpImp->UpdateFixedWidth();
+    } else {
+        setMinimumWidth(0);
+        setMaximumWidth(QWIDGETSIZE_MAX);
+    }
+}
+
+int Label::getTextWidth() const
+{
+    return fontMetrics().boundingRect(text()).width();
+}
+
+void Label::OnThemeChanged()
+{
+    mpImp->ApplyColor();
+    update();
+}
+
+bool Label::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+
+    auto* help = static_cast<QHelpEvent*>(event);
+    QString tip;
+    if (mpImp->RightPixmapRect().contains(help->pos())) {
+        tip = mpImp->msRightPixmapToolTip;
+    } else {
+        const QString full = text();
+        const QString elided = fontMetrics().elidedText(full, Qt::ElideRight, mpImp->AvailableTextWidth());
+        tip = elided == full ? mpImp->msReservedToolTip : full;
+    }
+    if (tip.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), tip, this);
+    return true;
+}
+
+void Label::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange) {
+        const QString& key = isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled;
+        if (key != mpImp->msTextColorThemeKey && ThemeManager::GetInstance()->Exists(key)) {
+            mpImp->msTextColorThemeKey = key;
+            mpImp->ApplyColor();
+        }
+    } else if (event->type() == QEvent::FontChange) {
+        mpImp->UpdateFixedWidth();
+    }
+    QLabel::changeEvent(event);
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLabel::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && mpImp->RightPixmapRect().contains(event->position().toPoint()))
+        Q_EMIT RightPixmapClicked();
+}
+
+void Label::moveEvent(QMoveEvent* event)
+{
+    QLabel::moveEvent(event);
+    Q_EMIT GeometryChanged();
+}
+
+void Label::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    Q_EMIT GeometryChanged();
+}
+
+void Label::showEvent(QShowEvent* event)
+{
+    Q_EMIT AboutToShow();
+    if (mpImp->mbAutoFixedWidth && mpImp->msFixedWidthText != text())
+        mpImp->UpdateFixedWidth();
+    QLabel::showEvent(event);
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    if (mpImp->mbAutoFixedWidth && mpImp->msFixedWidthText != text())
+        mpImp->UpdateFixedWidth();
+    if (mpImp->PaintsAsPlainLabel()) {
+        QLabel::paintEvent(event);
+    } else {
+        QPainter painter(this);
+        const QRect contents = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+        const int textWidth = std::min(contents.width(), mpImp->AvailableTextWidth() - contents.left());
+        const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, textWidth);
+        const QString& key = isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled;
+        QColor color = ThemeManager::GetInstance()->GetColor(key);
+        if (!color.isValid())
+            color = palette().color(QPalette::WindowText);
+        painter.setPen(color);
+        painter.drawText(QRect(contents.left(), contents.top(), textWidth, contents.height()),
+                         int(alignment()) | Qt::TextSingleLine, elided);
+    }
+    const QRect pixmapRect = mpImp->RightPixmapRect();
+    if (pixmapRect.isValid()) {
+        QPainter painter(this);
+        painter.drawPixmap(pixmapRect.topLeft(), mpImp->PreparedRightPixmap(pixmapRect.size()));
+    }
+}
+
+} // namespace Kavrel::UICore

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QLabel>
+#include <QPixmap>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class LabelImp;
+
+// A single-line label in the theme's text colour. Text that does not fit is
+// cut at the right and shown whole as a tool tip; text that fits shows the
+// reserved tool tip instead. An optional small pixmap at the right edge has a
+// tool tip of its own and reports clicks. Word-wrapping and rich-text labels
+// paint as a plain QLabel.
+class KVUICORE_EXPORT Label : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
+
+public:
+    explicit Label(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    explicit Label(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    ~Label() override;
+
+    QString GetTextColorThemeKey() const;
+    // Ignored for a key the theme lacks, and for the current key unless force.
+    void SetTextColorThemeKey(const QString& key, bool force = false);
+
+    QString GetReservedToolTip() const;
+    void SetReservedToolTip(const QString& toolTip);
+
+    QPixmap GetRightPixmap() const;
+    void SetRightPixmap(const QPixmap& pixmap);
+    QString GetRightPixmapTooltip() const;
+    void SetRightPixmapTooltip(const QString& toolTip);
+
+    // When true the label keeps its width fixed to what its text (and right
+    // pixmap) needs, following text and font changes.
+    bool GetAutoFixedWidth() const;
+    void SetAutoFixedWidth(bool autoFixedWidth);
+
+    // The width of the text's bounding rectangle in the label's font.
+    int getTextWidth() const;
+
+Q_SIGNALS:
+    void GeometryChanged();
+    void AboutToShow();
+    void RightPixmapClicked();
+
+public Q_SLOTS:
+    void OnThemeChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(Label)
+    void Initialize();
+
+    friend class LabelImp;
+    std::unique_ptr<LabelImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore

@@ -1,0 +1,123 @@
+#include <KvUICore/widgets/RadioButton.h>
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QEvent>
+
+namespace Kavrel::UICore {
+
+namespace {
+// The tile's margin around its contents and the gap between icon and text.
+constexpr int kTileMargin = 4;
+constexpr int kIconTextGap = 4;
+} // namespace
+
+class RadioButtonImp
+{
+public:
+    QString msIconThemeKey;
+};
+
+RadioButton::RadioButton(QWidget* parent)
+    : QRadioButton(parent)
+    , mpImp(std::make_unique<RadioButtonImp>())
+{
+    Initialize();
+}
+
+RadioButton::RadioButton(const QString& text, QWidget* parent)
+    : QRadioButton(text, parent)
+    , mpImp(std::make_unique<RadioButtonImp>())
+{
+    Initialize();
+}
+
+RadioButton::~RadioButton() = default;
+
+void RadioButton::Initialize()
+{
+    setFont(Internal::ItemViewFont());
+    setAttribute(Qt::WA_Hover);
+    setStyle(CustomStyle::GetInstance());
+    setFocusPolicy(Qt::StrongFocus);
+    setIconSize(ThemeFileKey::NormalIconSize);
+    ApplyTheme();
+    connect(this, &QAbstractButton::toggled, this, &RadioButton::ApplyTheme);
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &RadioButton::OnThemeChanged);
+}
+
+QString RadioButton::GetIconThemeKey() const
+{
+    return mpImp->msIconThemeKey;
+}
+
+void RadioButton::SetIconThemeKey(const QString& key)
+{
+    if (key == mpImp->msIconThemeKey)
+        return;
+    mpImp->msIconThemeKey = key;
+    ApplyTheme();
+    updateGeometry();
+}
+
+QSize RadioButton::sizeHint() const
+{
+    // The style centres a block of this size in the tile and insets it by 2
+    // for the icon, which it draws at the block's top-left.
+    const bool hasIcon = !icon().isNull();
+    const bool hasText = !text().isEmpty();
+    const QSize icon = hasIcon ? iconSize() : QSize(0, 0);
+    int width = icon.width() + kTileMargin;
+    if (hasText)
+        width += fontMetrics().horizontalAdvance(text()) + (hasIcon ? kIconTextGap : 0) + 2 * kTileMargin;
+    const int height = std::max(icon.height(), fontMetrics().height()) + kTileMargin;
+    return QSize(std::max(width, height), height);
+}
+
+QSize RadioButton::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+bool RadioButton::hitButton(const QPoint& pos) const
+{
+    // The whole tile is the button, not only an indicator.
+    return rect().contains(pos);
+}
+
+void RadioButton::OnThemeChanged()
+{
+    ApplyTheme();
+}
+
+void RadioButton::ApplyTheme()
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    QString key = ThemeFileKey::FontNormal1;
+    if (!isEnabled())
+        key = ThemeFileKey::FontColorDisabled;
+    else if (isChecked() && themes->Exists(ThemeFileKey::FontActive1))
+        key = ThemeFileKey::FontActive1;
+    const QColor color = themes->GetColor(key);
+    if (color.isValid())
+        Internal::SetTextColor(this, color);
+    if (!mpImp->msIconThemeKey.isEmpty()) {
+        const QIcon icon = Internal::IconFromTheme(mpImp->msIconThemeKey, iconSize());
+        if (!icon.isNull())
+            setIcon(icon);
+    }
+    update();
+}
+
+void RadioButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        ApplyTheme();
+    QRadioButton::changeEvent(event);
+}
+
+} // namespace Kavrel::UICore

@@ -1,0 +1,73 @@
+#include <KvUICore/widgets/ToolButton.h>
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QEvent>
+
+namespace Kavrel::UICore {
+
+class ToolButtonImp
+{
+public:
+    QString msIconThemeKey;
+};
+
+ToolButton::ToolButton(QWidget* parent)
+    : QToolButton(parent)
+    , mpImp(std::make_unique<ToolButtonImp>())
+{
+    setFont(Internal::ItemViewFont());
+    setAttribute(Qt::WA_Hover);
+    setStyle(CustomStyle::GetInstance());
+    setFocusPolicy(Qt::TabFocus);
+    setIconSize(ThemeFileKey::NormalIconSize);
+    ApplyTheme();
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &ToolButton::OnThemeChanged);
+}
+
+ToolButton::~ToolButton() = default;
+
+QString ToolButton::GetIconThemeKey() const
+{
+    return mpImp->msIconThemeKey;
+}
+
+void ToolButton::SetIconThemeKey(const QString& key)
+{
+    if (key == mpImp->msIconThemeKey)
+        return;
+    mpImp->msIconThemeKey = key;
+    ApplyTheme();
+}
+
+void ToolButton::OnThemeChanged()
+{
+    ApplyTheme();
+}
+
+void ToolButton::ApplyTheme()
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    const QColor color = themes->GetColor(isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled);
+    if (color.isValid())
+        Internal::SetTextColor(this, color);
+    if (!mpImp->msIconThemeKey.isEmpty()) {
+        const QIcon icon = Internal::IconFromTheme(mpImp->msIconThemeKey, iconSize());
+        if (!icon.isNull())
+            setIcon(icon);
+    }
+    update();
+}
+
+void ToolButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        ApplyTheme();
+    QToolButton::changeEvent(event);
+}
+
+} // namespace Kavrel::UICore

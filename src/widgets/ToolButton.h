@@ -1,0 +1,42 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QToolButton>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class ToolButtonImp;
+
+// A small flat tool button (28 by 24) painted by CustomStyle: invisible until
+// hovered, pressed or checked. Its icon comes from a theme key and follows
+// theme switches.
+class KVUICORE_EXPORT ToolButton : public QToolButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QString iconThemeKey READ GetIconThemeKey WRITE SetIconThemeKey)
+
+public:
+    explicit ToolButton(QWidget* parent = nullptr);
+    ~ToolButton() override;
+
+    QString GetIconThemeKey() const;
+    // An "Icon" entry or a "String" entry holding an icon path.
+    void SetIconThemeKey(const QString& key);
+
+public Q_SLOTS:
+    void OnThemeChanged();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(ToolButton)
+    void ApplyTheme();
+
+    std::unique_ptr<ToolButtonImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
