@@ -1,6 +1,7 @@
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/CheckBox.h>
 #include <KvUICore/widgets/RolloutContainer.h>
 
 #include <QAbstractButton>
@@ -258,7 +259,7 @@ void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
     QLabel* label = container->findChild<QLabel*>();
     label->setEnabled(false);
     QAbstractButton* checkBox = checkBoxOf(container);
-    QVERIFY(checkBox);
+    QVERIFY(qobject_cast<CheckBox*>(checkBox));
     QVERIFY(checkBox->isHidden());
     QVERIFY(container->IsChecked());
 

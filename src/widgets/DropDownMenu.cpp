@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/DropDownMenu.h>
 
 #include <KvUICore/core/DrawingHelpers_p.h>
+#include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -23,6 +24,9 @@ constexpr int kTextRightPadding = 12;
 constexpr int kSubMenuArrowWidth = 12;
 
 } // namespace
+
+const char* const DropDownMenu::GroupLabelProperty = CustomStyle::GroupLabelProperty;
+const char* const DropDownMenu::StandardMenuPaintProperty = CustomStyle::StandardMenuPaintProperty;
 
 class DropDownMenuImp
 {
@@ -184,6 +188,7 @@ DropDownMenu::DropDownMenu(QWidget* parent)
     : QMenu(parent)
     , mpImp(std::make_unique<DropDownMenuImp>(this))
 {
+    setStyle(CustomStyle::GetInstance());
     // The width follows the items; it is settled before every opening, since
     // the style sizes the items from the menu's current width.
     connect(this, &QMenu::aboutToShow, this, &DropDownMenu::UpdateWidth);

@@ -18,11 +18,12 @@ class KVUICORE_EXPORT DropDownMenu : public QMenu
     Q_OBJECT
 
 public:
-    // The dynamic property that marks an action as a group label row.
-    static constexpr const char* GroupLabelProperty = "kvGroupLabel";
+    // The dynamic property that marks an action as a group label row (the
+    // custom style reads the same name).
+    static const char* const GroupLabelProperty;
     // The dynamic property raised while the standard menu painting runs, so
-    // that the style paints no items then.
-    static constexpr const char* StandardMenuPaintProperty = "kvStandardMenuPaint";
+    // that the custom style paints no items then.
+    static const char* const StandardMenuPaintProperty;
 
     explicit DropDownMenu(QWidget* parent = nullptr);
     ~DropDownMenu() override;

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/LineEdit.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
@@ -153,6 +154,7 @@ LineEdit::LineEdit(QWidget* parent, bool embedded)
         setStyle(LineEditStyle::GetInstance());
     } else {
         setFocusPolicy(Qt::StrongFocus);
+        setStyle(CustomStyle::GetInstance());
         setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         QPalette pal = palette();
         pal.setColor(QPalette::Text, mpImp->mTextColor);

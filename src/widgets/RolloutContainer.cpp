@@ -2,9 +2,9 @@
 
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/CheckBox.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -149,7 +149,7 @@ public:
     Qt::TextElideMode mElideMode = Qt::ElideNone;
     bool mbCheckable = false;
     bool mbExpandableWhenDisabled = false;
-    QCheckBox* mpCheckBox = nullptr;
+    CheckBox* mpCheckBox = nullptr;
     QList<QPointer<QWidget>>* mpHiddenChildren = nullptr;
     QString msTitleToolTip;
     int mIndentLevel = 0;
@@ -167,7 +167,7 @@ RolloutContainer::RolloutContainer(QWidget* parent)
     mpImp->miTitleHeight = mpImp->ComputeTitleHeight();
     QWidget::setContentsMargins(0, mpImp->miTitleHeight, 0, 0);
 
-    mpImp->mpCheckBox = new QCheckBox(this);
+    mpImp->mpCheckBox = new CheckBox(this);
     mpImp->mpCheckBox->setChecked(true);
     mpImp->mpCheckBox->hide();
     mpImp->mpCheckBox->setAccessibleName(QStringLiteral("RolloutContainer_CheckBox"));
