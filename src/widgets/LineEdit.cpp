@@ -132,6 +132,8 @@ public:
     bool mbPreventContextMenu = false;
     const bool mbEmbedded;
     int miHoverState = 0;
+    // The prompting colour follows the theme until someone sets one.
+    bool mbUseDefaultPromptingColor = true;
 };
 
 LineEdit::LineEdit(QWidget* parent, bool embedded)
@@ -257,8 +259,11 @@ QFont LineEdit::GetPromptingFont() const
 
 void LineEdit::SetPromptingColor(const QColor& color)
 {
-    if (mpImp->mPromptingColor == color)
+    if (mpImp->mPromptingColor == color) {
+        mpImp->mbUseDefaultPromptingColor = false;
         return;
+    }
+    mpImp->mbUseDefaultPromptingColor = false;
     mpImp->mPromptingColor = color;
     if (mpImp->mbIsPrompting)
         mpImp->ApplyLook();
@@ -378,6 +383,11 @@ void LineEdit::UpdateAccessibleName(const QString& name)
 
 void LineEdit::OnThemeChanged()
 {
+    if (mpImp->mbUseDefaultPromptingColor) {
+        mpImp->mPromptingColor = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+        if (mpImp->mbIsPrompting)
+            Internal::SetTextColor(this, mpImp->mPromptingColor);
+    }
     if (mpImp->mbUseDefaultTextColor) {
         mpImp->mTextColor = mpImp->ThemedTextColor();
         if (!mpImp->mbIsPrompting)
