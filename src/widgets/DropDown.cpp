@@ -88,28 +88,45 @@ public:
         return mGroups.isEmpty() ? 0 : int(mGroups.size()) - 1;
     }
 
-    void RebuildIndex()
+    // The map from action to index is rebuilt on the first lookup after a
+    // change, so that filling a long list stays linear.
+    void InvalidateIndex() { mbIndexDirty = true; }
+
+    int IndexOf(QAction* action)
     {
-        mItemIndex.clear();
-        const QList<QAction*> actions = MenuActions();
-        for (int i = 0; i < actions.size(); ++i)
-            mItemIndex.insert(actions.at(i), i);
+        if (mbIndexDirty) {
+            mItemIndex.clear();
+            const QList<QAction*> actions = MenuActions();
+            mItemIndex.reserve(actions.size());
+            for (int i = 0; i < actions.size(); ++i)
+                mItemIndex.insert(actions.at(i), i);
+            mbIndexDirty = false;
+        }
+        return mItemIndex.value(action, -1);
+    }
+
+    void UpdateSeparatorVisibility(ItemGroup* group)
+    {
+        QAction* separator = group->GetTrailingSeparator();
+        if (!separator)
+            return;
+        // A group label row separates by itself, and a hidden group takes its separator along.
+        const bool wanted = group->IsSeparatorVisible() && group->GetItemType() != DropDown::GroupLabelItem
+            && !mHiddenGroups.contains(group);
+        bool anyShown = false;
+        for (QAction* action : group->GetActions()) {
+            if (action != separator && action->isVisible()) {
+                anyShown = true;
+                break;
+            }
+        }
+        separator->setVisible(wanted && anyShown);
     }
 
     void UpdateSeparatorVisibility()
     {
-        for (int g = 0; g < mGroups.size(); ++g) {
-            ItemGroup* group = mGroups.at(g);
-            QAction* separator = group->GetTrailingSeparator();
-            if (!separator)
-                continue;
-            // A group label row separates by itself, and a hidden group takes its separator along.
-            bool visible = group->IsSeparatorVisible() && group->GetItemType() != DropDown::GroupLabelItem;
-            bool anyShown = false;
-            for (QAction* action : group->GetActions())
-                anyShown = anyShown || (action != separator && action->isVisible());
-            separator->setVisible(visible && anyShown && !mHiddenGroups.contains(group));
-        }
+        for (ItemGroup* group : std::as_const(mGroups))
+            UpdateSeparatorVisibility(group);
     }
 
     void ApplyItemType(ItemGroup* group, QAction* action)
@@ -214,6 +231,7 @@ public:
     DropDown::AlignmentMode mAlignment = DropDown::AlignRight;
     int miCurrentIndex = -1;
     QHash<QAction*, int> mItemIndex;
+    bool mbIndexDirty = false;
     QHash<QAction*, ItemInfo> mItems;
     QList<ItemGroup*> mGroups;
     QSet<ItemGroup*> mHiddenGroups;
@@ -433,9 +451,11 @@ bool DropDown::AddAction(QAction* action, int group, const QVariant& data)
     d->ApplyItemType(itemGroup, action);
     if (d->mHiddenGroups.contains(itemGroup))
         action->setVisible(false);
-    d->RebuildIndex();
+    d->InvalidateIndex();
     d->ShiftCurrentAfterInsert(position);
-    d->UpdateSeparatorVisibility();
+    d->UpdateSeparatorVisibility(itemGroup);
+    if (group > 0)
+        d->UpdateSeparatorVisibility(d->mGroups.at(group - 1));
     updateGeometry();
     return true;
 }
@@ -458,16 +478,17 @@ bool DropDown::InsertAction(int index, QAction* action)
     itemGroup->GetActionGroup()->addAction(action);
     d->mItems.insert(action, DropDownImp::ItemInfo{group, QVariant()});
     d->ApplyItemType(itemGroup, action);
-    d->RebuildIndex();
+    d->InvalidateIndex();
     d->ShiftCurrentAfterInsert(position);
-    d->UpdateSeparatorVisibility();
+    d->UpdateSeparatorVisibility(itemGroup);
     updateGeometry();
     return true;
 }
 
 bool DropDown::InsertAction(QAction* before, QAction* action)
 {
-    const int index = mpImp->mItemIndex.value(before, Count());
+    const int found = mpImp->IndexOf(before);
+    const int index = found >= 0 ? found : Count();
     return InsertAction(index, action);
 }
 
@@ -476,7 +497,7 @@ void DropDown::RemoveAction(QAction* action)
     DropDownImp* d = mpImp.get();
     if (!action || !d->mpMenu || !d->mItems.contains(action))
         return;
-    const int position = d->mItemIndex.value(action, -1);
+    const int position = d->IndexOf(action);
     const DropDownImp::ItemInfo info = d->mItems.take(action);
     if (ItemGroup* group = d->mGroups.value(info.group)) {
         group->Actions().removeOne(action);
@@ -485,7 +506,7 @@ void DropDown::RemoveAction(QAction* action)
     d->mpMenu->removeAction(action);
     action->setProperty(DropDownMenu::GroupLabelProperty, QVariant());
     d->DisposeAction(action);
-    d->RebuildIndex();
+    d->InvalidateIndex();
     d->UpdateSeparatorVisibility();
     if (position >= 0 && position < d->miCurrentIndex)
         --d->miCurrentIndex;
@@ -514,7 +535,7 @@ void DropDown::RemoveAllActions()
     d->mGroups.clear();
     d->mHiddenGroups.clear();
     d->mItems.clear();
-    d->mItemIndex.clear();
+    d->InvalidateIndex();
     d->ChangeCurrent(-1);
     updateGeometry();
 }
@@ -552,7 +573,7 @@ int DropDown::AddMenu(int group, const QIcon& icon, const QString& text)
     QAction* action = subMenu->menuAction();
     if (!AddAction(action, group))
         return -1;
-    return d->mItemIndex.value(action, -1);
+    return d->IndexOf(action);
 }
 
 QAction* DropDown::AddSubMenuItem(int menuIndex, const QString& text, const QVariant& data)
@@ -890,10 +911,10 @@ QSize DropDown::minimumSizeHint() const
 
 void DropDown::ActionTriggered(QAction* action)
 {
-    const auto it = mpImp->mItemIndex.constFind(action);
+    const int index = mpImp->IndexOf(action);
     // Items of sub-menus are not items of the drop-down: they only announce themselves.
-    if (it != mpImp->mItemIndex.constEnd() && it.value() != mpImp->miCurrentIndex) {
-        mpImp->ChangeCurrent(it.value());
+    if (index >= 0 && mpImp->mItems.contains(action) && index != mpImp->miCurrentIndex) {
+        mpImp->ChangeCurrent(index);
         if (!IsLive(this))
             return;
     }
