@@ -4,6 +4,8 @@
 #include <KvUICore/widgets/LineEdit.h>
 
 #include <QApplication>
+#include <QMenu>
+#include <QTimer>
 #include <QContextMenuEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -29,6 +31,8 @@ private Q_SLOTS:
     void homeAlwaysKeepsTheCursorAtTheStart();
     void hoverStateAndEnterSignal();
     void preventedContextMenuDoesNotOpen();
+    void contextMenuFollowsTheThemeAndKeepsTheSelection_data();
+    void contextMenuFollowsTheThemeAndKeepsTheSelection();
     void textColourFollowsThemeAndEnabledState();
     void sizeHints();
 
@@ -236,6 +240,56 @@ void tst_LineEdit::preventedContextMenuDoesNotOpen()
     QApplication::sendEvent(edit, &event);
     QVERIFY(event.isAccepted());
     QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("Light") << "Light";
+    QTest::newRow("Dark") << "Dark";
+    QTest::newRow("HIGLight") << "HIGLight";
+}
+
+void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
+{
+    QFETCH(QString, theme);
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetText(QStringLiteral("keep me selected"));
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(edit->hasFocus());
+    edit->selectAll();
+
+    QString styleSheet;
+    QTimer timer;
+    timer.setInterval(10);
+    connect(&timer, &QTimer::timeout, this, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu || !menu->isVisible())
+            return;
+        timer.stop();
+        styleSheet = menu->styleSheet();
+        QTest::keyClick(menu, Qt::Key_Escape);
+    });
+    timer.start();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(3, 3), edit->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(edit, &event);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+
+    const QColor background = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBackgroundColor1);
+    const QColor border = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBorderColor1);
+    const QColor separator = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInSeparator1);
+    QVERIFY(background.isValid() && border.isValid() && separator.isValid());
+    QVERIFY2(styleSheet.startsWith(QStringLiteral("QMenu{background-color: ") + background.name(QColor::HexArgb)
+                                   + QStringLiteral("; border:")),
+             qPrintable(styleSheet));
+    QVERIFY(styleSheet.contains(border.name(QColor::HexArgb) + QStringLiteral("; border-radius: 4px} ")));
+    QVERIFY(styleSheet.contains(QStringLiteral("QMenu::separator{height: 1px; background-color: ")
+                                + separator.name(QColor::HexArgb) + QStringLiteral("}")));
+    // Opening the menu took the focus for a moment; the selection is still there.
+    QTRY_VERIFY(edit->hasFocus());
+    QCOMPARE(edit->selectedText(), QStringLiteral("keep me selected"));
 }
 
 void tst_LineEdit::textColourFollowsThemeAndEnabledState()
