@@ -4,11 +4,11 @@
 #include <KvUICore/widgets/LineEdit.h>
 
 #include <QApplication>
-#include <QMenu>
-#include <QTimer>
 #include <QContextMenuEvent>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Kavrel::UICore;
@@ -281,12 +281,12 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     const QColor border = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBorderColor1);
     const QColor separator = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInSeparator1);
     QVERIFY(background.isValid() && border.isValid() && separator.isValid());
-    QVERIFY2(styleSheet.startsWith(QStringLiteral("QMenu{background-color: ") + background.name(QColor::HexArgb)
-                                   + QStringLiteral("; border:")),
+    QVERIFY2(styleSheet.startsWith(QStringLiteral("QMenu{background-color: ") + background.name(QColor::HexArgb) +
+                                   QStringLiteral("; border:")),
              qPrintable(styleSheet));
     QVERIFY(styleSheet.contains(border.name(QColor::HexArgb) + QStringLiteral("; border-radius: 4px} ")));
-    QVERIFY(styleSheet.contains(QStringLiteral("QMenu::separator{height: 1px; background-color: ")
-                                + separator.name(QColor::HexArgb) + QStringLiteral("}")));
+    QVERIFY(styleSheet.contains(QStringLiteral("QMenu::separator{height: 1px; background-color: ") +
+                                separator.name(QColor::HexArgb) + QStringLiteral("}")));
     // Opening the menu took the focus for a moment; the selection is still there.
     QTRY_VERIFY(edit->hasFocus());
     QCOMPARE(edit->selectedText(), QStringLiteral("keep me selected"));

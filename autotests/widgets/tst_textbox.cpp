@@ -119,14 +119,18 @@ void tst_TextBox::validateText_data()
     QTest::addColumn<QString>("out");
     QTest::addColumn<QString>("error");
 
-    QTest::newRow("plain") << "name" << true << "name" << "";
-    QTest::newRow("empty") << "" << true << "" << "";
-    QTest::newRow("leading and trailing blanks") << " name " << true << "name" << "";
-    QTest::newRow("inner blank kept") << "my name" << true << "my name" << "";
+    QTest::newRow("plain") << "name" << true << "name"
+                           << "";
+    QTest::newRow("empty") << "" << true << ""
+                           << "";
+    QTest::newRow("leading and trailing blanks") << " name " << true << "name"
+                                                 << "";
+    QTest::newRow("inner blank kept") << "my name" << true << "my name"
+                                      << "";
     QTest::newRow("exactly the maximum") << QString(10, QLatin1Char('a')) << true << QString(10, QLatin1Char('a'))
                                          << "";
-    QTest::newRow("one above the maximum") << QString(11, QLatin1Char('a')) << false
-                                           << QString(11, QLatin1Char('a')) << kTooLong;
+    QTest::newRow("one above the maximum")
+        << QString(11, QLatin1Char('a')) << false << QString(11, QLatin1Char('a')) << kTooLong;
     const QString forbidden = QStringLiteral("\\/:*?\"<>|;=`,");
     for (QChar c : forbidden) {
         const QString text = QStringLiteral("a") + c + QStringLiteral("b");
@@ -517,8 +521,8 @@ void tst_TextBox::outerIconStaysOutsideTheFrame()
     // The frame starts 4 pixels left of the editor; the icon column left of it is not painted.
     const QPoint frameLeft(editor.left() - 4, box->height() / 2);
     QCOMPARE(pixelAt(image, frameLeft + QPoint(3, 0)).rgb(), background.rgb());
-    QVERIFY(pixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb()
-            || pixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
+    QVERIFY(pixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb() ||
+            pixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
 }
 
 void tst_TextBox::promptingTextShowsWhileEmptyAndUnfocused()
@@ -558,17 +562,16 @@ void tst_TextBox::metaObjectInterface()
         if (meta.method(i).methodType() == QMetaMethod::Signal)
             signalNames << QString::fromLatin1(meta.method(i).methodSignature());
     }
-    const QStringList expected = {
-        "Enter()",          "TextChanged(QString)", "TextEdited(QString)",
-        "FocusIn()",        "TabFocusIn()",         "ClickFocusIn()",
-        "FocusOut()",       "ImageClicked()",       "CursorPositionChanged(int,int)",
-        "EditingFinished()", "ReturnPressed()",     "EscapePressed()",
-        "SelectionChanged()"};
+    const QStringList expected = {"Enter()",           "TextChanged(QString)", "TextEdited(QString)",
+                                  "FocusIn()",         "TabFocusIn()",         "ClickFocusIn()",
+                                  "FocusOut()",        "ImageClicked()",       "CursorPositionChanged(int,int)",
+                                  "EditingFinished()", "ReturnPressed()",      "EscapePressed()",
+                                  "SelectionChanged()"};
     QCOMPARE(signalNames, expected);
-    for (const char* slot : {"UpdateText(QString)", "setTabFocus()", "UpdateAccessibleName(QString)",
-                             "OnTextChanged(QString)", "OnEditingFinished()", "ImageActionChanged()",
-                             "OnTextEdited(QString)", "OnCursorPositionChanged(int,int)", "OnReturnPressed()",
-                             "OnSelectionChanged()"})
+    for (const char* slot :
+         {"UpdateText(QString)", "setTabFocus()", "UpdateAccessibleName(QString)", "OnTextChanged(QString)",
+          "OnEditingFinished()", "ImageActionChanged()", "OnTextEdited(QString)", "OnCursorPositionChanged(int,int)",
+          "OnReturnPressed()", "OnSelectionChanged()"})
         QVERIFY2(meta.indexOfSlot(slot) >= 0, slot);
     for (const char* property : {"icon", "iconPosition", "readOnly", "imageAction"})
         QVERIFY2(meta.indexOfProperty(property) >= 0, property);

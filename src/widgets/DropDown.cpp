@@ -50,8 +50,7 @@ class DropDownImp
 public:
     explicit DropDownImp(DropDown* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     struct ItemInfo
     {
@@ -111,8 +110,8 @@ public:
         if (!separator)
             return;
         // A group label row separates by itself, and a hidden group takes its separator along.
-        const bool wanted = group->IsSeparatorVisible() && group->GetItemType() != DropDown::GroupLabelItem
-            && !mHiddenGroups.contains(group);
+        const bool wanted = group->IsSeparatorVisible() && group->GetItemType() != DropDown::GroupLabelItem &&
+                            !mHiddenGroups.contains(group);
         bool anyShown = false;
         for (QAction* action : group->GetActions()) {
             if (action != separator && action->isVisible()) {
@@ -1005,8 +1004,8 @@ void DropDown::keyPressEvent(QKeyEvent* event)
 void DropDown::keyReleaseEvent(QKeyEvent* event)
 {
     const int key = event->key();
-    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Down)
-        && !event->isAutoRepeat() && mpImp->mbKeyArmed;
+    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Down) &&
+                       !event->isAutoRepeat() && mpImp->mbKeyArmed;
     mpImp->mbKeyArmed = false;
     if (opens) {
         event->accept();

@@ -77,8 +77,7 @@ public:
     int AddMenu(int group, const QIcon& icon, const QString& text);
     // Adds an item to the sub-menu of the item at menuIndex.
     QAction* AddSubMenuItem(int menuIndex, const QString& text, const QVariant& data = QVariant());
-    QAction* AddSubMenuItem(int menuIndex, const QIcon& icon, const QString& text,
-                            const QVariant& data = QVariant());
+    QAction* AddSubMenuItem(int menuIndex, const QIcon& icon, const QString& text, const QVariant& data = QVariant());
     void EnableSubMenu(int menuIndex, bool enable);
     void HideOrShowSubMenuItem(int menuIndex, int subIndex, bool show);
     void HideOrShowSubMenuItem(int menuIndex, const QVariant& data, bool show);

@@ -7,9 +7,9 @@
 
 #include <QActionEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPaintEvent>
 #include <QPointer>
 #include <QStyle>
 
@@ -33,8 +33,7 @@ class DropDownMenuImp
 public:
     explicit DropDownMenuImp(DropDownMenu* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     struct Columns
     {
@@ -62,10 +61,7 @@ public:
         return font;
     }
 
-    int LineWidth() const
-    {
-        return int(Internal::ResolutionBucket(Internal::DeviceScaleFactor(mpOwner)));
-    }
+    int LineWidth() const { return int(Internal::ResolutionBucket(Internal::DeviceScaleFactor(mpOwner))); }
 
     void DrawSeparator(QPainter& painter, const QRect& rect) const
     {
@@ -138,10 +134,10 @@ public:
         const bool pressed = enabled && mpPressedAction == action;
         const bool selected = enabled && mpOwner->activeAction() == action;
         if (pressed || selected) {
-            const QString& fill = pressed ? ThemeFileKey::DropDownMenuClickedBackground
-                                          : ThemeFileKey::DropDownMenuHoverBackground;
-            const QString& border = pressed ? ThemeFileKey::DropDownMenuClickedBorder
-                                            : ThemeFileKey::DropDownMenuHoverBorder;
+            const QString& fill =
+                pressed ? ThemeFileKey::DropDownMenuClickedBackground : ThemeFileKey::DropDownMenuHoverBackground;
+            const QString& border =
+                pressed ? ThemeFileKey::DropDownMenuClickedBorder : ThemeFileKey::DropDownMenuHoverBorder;
             const QRect box = rect.adjusted(1, 0, -1, -1);
             painter.fillRect(box, themes->GetBrush(fill, box));
             QPen pen(themes->GetColor(border), LineWidth());
@@ -169,9 +165,9 @@ public:
         const QRect textRect = rect.adjusted(kTextLeft + column * kColumnWidth, 0, -right, 0);
         painter.setFont(mpOwner->font());
         painter.setPen(textColor);
-        painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextShowMnemonic,
-                         painter.fontMetrics().elidedText(action->text(), Qt::ElideRight, textRect.width(),
-                                                          Qt::TextShowMnemonic));
+        painter.drawText(
+            textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextShowMnemonic,
+            painter.fontMetrics().elidedText(action->text(), Qt::ElideRight, textRect.width(), Qt::TextShowMnemonic));
         if (action->menu())
             DrawSubMenuArrow(painter, rect, themes->GetColor(ThemeFileKey::DropDownTriangle));
     }
@@ -251,8 +247,8 @@ int DropDownMenu::ContentWidth() const
         } else {
             QString text = action->text();
             text.remove(QLatin1Char('&'));
-            width = kTextLeft + columns.Count() * kColumnWidth + metrics.horizontalAdvance(text)
-                + (action->menu() ? kSubMenuArrowWidth + 4 : kTextRightPadding);
+            width = kTextLeft + columns.Count() * kColumnWidth + metrics.horizontalAdvance(text) +
+                    (action->menu() ? kSubMenuArrowWidth + 4 : kTextRightPadding);
         }
         widest = qMax(widest, width);
     }

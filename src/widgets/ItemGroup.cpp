@@ -8,8 +8,7 @@ namespace Kavrel::UICore {
 ItemGroup::ItemGroup(QObject* parent)
     : QObject(parent)
     , mpActionGroup(new QActionGroup(this))
-{
-}
+{}
 
 ItemGroup::~ItemGroup() = default;
 

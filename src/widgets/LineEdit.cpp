@@ -23,8 +23,7 @@ public:
     explicit LineEditImp(LineEdit* owner, bool embedded)
         : mpOwner(owner)
         , mbEmbedded(embedded)
-    {
-    }
+    {}
 
     // Puts text on the display without announcing it: prompting texts and
     // elided forms are presentation, not edits.
@@ -77,38 +76,37 @@ public:
     {
         ThemeManager* themes = ThemeManager::GetInstance();
         const auto name = [themes](const QString& key) { return themes->GetColor(key).name(QColor::HexArgb); };
-        const QString common =
-            QStringLiteral("QMenu{background-color: %1; border:%2; border-radius: 4px} "
-                           "QMenu::separator{height: 1px; background-color: %3}");
+        const QString common = QStringLiteral("QMenu{background-color: %1; border:%2; border-radius: 4px} "
+                                              "QMenu::separator{height: 1px; background-color: %3}");
         const QString theme = themes->GetCurrentTheme();
-        if (theme.compare(QStringLiteral("Dark"), Qt::CaseInsensitive) == 0
-            || theme.compare(QStringLiteral("HigLight"), Qt::CaseInsensitive) == 0) {
+        if (theme.compare(QStringLiteral("Dark"), Qt::CaseInsensitive) == 0 ||
+            theme.compare(QStringLiteral("HigLight"), Qt::CaseInsensitive) == 0) {
             return common.arg(name(ThemeFileKey::MenuBuiltInBackgroundColor1),
                               QStringLiteral("1px solid ") + name(ThemeFileKey::MenuBuiltInBorderColor1),
-                              name(ThemeFileKey::MenuBuiltInSeparator1))
-                + QStringLiteral(" QMenu::item{color: %1; padding: 4px 24px 4px 20px; background: transparent}"
-                                 " QMenu::item:selected{background-color: %2}"
-                                 " QMenu::item:pressed{background-color: %3}"
-                                 " QMenu::item:disabled{color: %4}"
-                                 " QMenu::item:disabled:selected{background-color: %5}")
-                      .arg(name(ThemeFileKey::FontBuiltInNormal1),
-                           name(ThemeFileKey::MenuBuiltInItemSelectedBackgroundColor1),
-                           name(ThemeFileKey::MenuBuiltInItemPressedBackgroundColor1),
-                           name(ThemeFileKey::FontBuiltInDisable1),
-                           name(ThemeFileKey::MenuBuiltInDisabledItemSelectedBackgroundColor1));
+                              name(ThemeFileKey::MenuBuiltInSeparator1)) +
+                   QStringLiteral(" QMenu::item{color: %1; padding: 4px 24px 4px 20px; background: transparent}"
+                                  " QMenu::item:selected{background-color: %2}"
+                                  " QMenu::item:pressed{background-color: %3}"
+                                  " QMenu::item:disabled{color: %4}"
+                                  " QMenu::item:disabled:selected{background-color: %5}")
+                       .arg(name(ThemeFileKey::FontBuiltInNormal1),
+                            name(ThemeFileKey::MenuBuiltInItemSelectedBackgroundColor1),
+                            name(ThemeFileKey::MenuBuiltInItemPressedBackgroundColor1),
+                            name(ThemeFileKey::FontBuiltInDisable1),
+                            name(ThemeFileKey::MenuBuiltInDisabledItemSelectedBackgroundColor1));
         }
         return common.arg(name(ThemeFileKey::MenuBuiltInBackgroundColor1),
                           QStringLiteral("1px solid ") + name(ThemeFileKey::MenuBuiltInBorderColor1),
-                          name(ThemeFileKey::MenuBuiltInSeparator1))
-            + QStringLiteral(" QMenu{padding: 2px 0px} QMenu::item{color: %1; padding: 3px 24px 3px 18px;"
-                             " margin: 0px 2px; background: transparent}"
-                             " QMenu::item:selected{background-color: %2; border-radius: 2px}"
-                             " QMenu::item:pressed{background-color: %3}"
-                             " QMenu::item:disabled{color: %4}")
-                  .arg(name(ThemeFileKey::FontBuiltInNormal1),
-                       name(ThemeFileKey::MenuBuiltInEnabledItemSelectedBackgroundColor1),
-                       name(ThemeFileKey::MenuBuiltInItemPressedBackgroundColor1),
-                       name(ThemeFileKey::FontBuiltInDisable1));
+                          name(ThemeFileKey::MenuBuiltInSeparator1)) +
+               QStringLiteral(" QMenu{padding: 2px 0px} QMenu::item{color: %1; padding: 3px 24px 3px 18px;"
+                              " margin: 0px 2px; background: transparent}"
+                              " QMenu::item:selected{background-color: %2; border-radius: 2px}"
+                              " QMenu::item:pressed{background-color: %3}"
+                              " QMenu::item:disabled{color: %4}")
+                   .arg(name(ThemeFileKey::FontBuiltInNormal1),
+                        name(ThemeFileKey::MenuBuiltInEnabledItemSelectedBackgroundColor1),
+                        name(ThemeFileKey::MenuBuiltInItemPressedBackgroundColor1),
+                        name(ThemeFileKey::FontBuiltInDisable1));
     }
 
     LineEdit* const mpOwner;

@@ -48,8 +48,7 @@ class RolloutContainerImp
 public:
     explicit RolloutContainerImp(RolloutContainer* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     ~RolloutContainerImp() { delete mpHiddenChildren; }
 
@@ -293,12 +292,11 @@ int RolloutContainer::TitleHeight() const
 QRect RolloutContainer::GetTitleRect() const
 {
     const QFontMetrics metrics(mpImp->TitleFont());
-    const QRect text =
-        metrics.boundingRect(QRect(), Qt::TextSingleLine | Qt::TextShowMnemonic, mpImp->msDisplayTitle);
+    const QRect text = metrics.boundingRect(QRect(), Qt::TextSingleLine | Qt::TextShowMnemonic, mpImp->msDisplayTitle);
     ThemeManager* themes = ThemeManager::GetInstance();
     const int height = themes->Exists(ThemeFileKey::RolloutcontainerTitleHeight)
-        ? themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight)
-        : text.height();
+                           ? themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight)
+                           : text.height();
     const int width = text.width() + kTitleExtraWidth + (mpImp->mbCheckable ? kCheckableExtraWidth : 0);
     return QRect(rect().left() + kTitleLeft, rect().top(), width, height);
 }

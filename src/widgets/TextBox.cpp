@@ -89,8 +89,7 @@ QColor DisabledColor(const QColor& normal, const QColor& disabled)
 TextBoxEventFilter::TextBoxEventFilter(TextBox* box)
     : QObject(box)
     , mpBox(box)
-{
-}
+{}
 
 bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
 {
@@ -116,8 +115,7 @@ bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
 ImageEventFilter::ImageEventFilter(TextBox* box)
     : QObject(box)
     , mpBox(box)
-{
-}
+{}
 
 bool ImageEventFilter::eventFilter(QObject* watched, QEvent* event)
 {
@@ -151,8 +149,7 @@ bool ImageEventFilter::eventFilter(QObject* watched, QEvent* event)
 
 TextBoxImp::TextBoxImp(TextBox* owner)
     : mpOwner(owner)
-{
-}
+{}
 
 QRect TextBoxImp::FrameRect() const
 {
@@ -205,7 +202,8 @@ void TextBoxImp::UpdateEditorTooltip(const QString& text)
 void TextBoxImp::ShowIcon()
 {
     const int side = qMax(1, mpImageControl->width());
-    mpImageControl->setPixmap(mIcon.isNull() ? QPixmap() : mIcon.pixmap(QSize(side, side), mpOwner->devicePixelRatio()));
+    mpImageControl->setPixmap(mIcon.isNull() ? QPixmap()
+                                             : mIcon.pixmap(QSize(side, side), mpOwner->devicePixelRatio()));
 }
 
 // ---- TextBox --------------------------------------------------------------

@@ -19,8 +19,7 @@ template <typename Style> Style* MakeAppOwnedStyle(Style* style)
 
 TextBoxStyle::TextBoxStyle()
     : QProxyStyle()
-{
-}
+{}
 
 TextBoxStyle* TextBoxStyle::GetInstance()
 {
@@ -50,8 +49,7 @@ int TextBoxStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 
 LineEditStyle::LineEditStyle()
     : QProxyStyle()
-{
-}
+{}
 
 LineEditStyle* LineEditStyle::GetInstance()
 {
