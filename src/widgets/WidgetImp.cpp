@@ -302,8 +302,9 @@ bool WidgetImp::LoadState(const QString& filePath, const QString& nodePath)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     QDomDocument document;
-    // A broken file reads as an empty document.
-    document.setContent(&file);
+    // A broken file reads as an empty document, not as the part before the error.
+    if (!document.setContent(&file))
+        document.clear();
     QDomElement element = GetElement(document.documentElement(), nodePath);
     if (element.isNull())
         return false;
@@ -318,8 +319,8 @@ bool WidgetImp::SaveState(const QString& filePath, const QString& nodePath) cons
     {
         // A missing or broken file counts as empty.
         QFile file(filePath);
-        if (file.open(QIODevice::ReadOnly))
-            document.setContent(&file);
+        if (file.open(QIODevice::ReadOnly) && !document.setContent(&file))
+            document.clear();
     }
     QDomElement element;
     QDomElement root = document.documentElement();
