@@ -1,6 +1,7 @@
 #include <KvUICore/platform/NativeWindow_p.h>
 #include <KvUICore/platform/WinWidget_p.h>
 
+#include <QMoveEvent>
 #include <QWindow>
 
 namespace Kavrel::UICore::Platform {
@@ -65,6 +66,16 @@ bool WinWidget::focusNextPrevChild(bool next)
         return QWidget::focusNextPrevChild(next);
     FocusParentWindow();
     return true;
+}
+
+void WinWidget::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    // A plain move of a visible top-level widget does not always reach a
+    // window with a foreign parent; the widget's position is the one that counts.
+    QWindow* window = windowHandle();
+    if (mpForeignParent && window && window->position() != pos())
+        window->setPosition(pos());
 }
 
 bool WinWidget::HasTabStopBeyond(QWidget* current, bool next) const

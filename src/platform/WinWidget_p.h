@@ -44,6 +44,7 @@ protected:
     // Leaving the last (or, backwards, the first) tab stop inside gives focus
     // back to the host, so the host's own tab order continues from here.
     bool focusNextPrevChild(bool next) override;
+    void moveEvent(QMoveEvent* event) override;
 
 private:
     bool HasTabStopBeyond(QWidget* current, bool next) const;

@@ -8,7 +8,7 @@
 // that the dialog manager leaves them to the embedded content. On X11 there
 // is no dialog manager: keys go to the window that has input focus, and
 // tabbing out of the content hands focus back to the host window.
-class WinWidgetImp : public Kavrel::UICore::Platform::WinWidget
+class KVUICORE_EXPORT WinWidgetImp : public Kavrel::UICore::Platform::WinWidget
 {
     Q_OBJECT
 
