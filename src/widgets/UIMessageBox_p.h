@@ -3,6 +3,9 @@
 #include <KvUICore/KvUICoreExport.h>
 
 #include <QMessageBox>
+#include <QPointer>
+
+class QSpacerItem;
 
 namespace Kavrel::UICore {
 
@@ -27,6 +30,9 @@ protected:
 
 private:
     int miRequestedWidth = 0;
+    // Owned by the layout, which QMessageBox rebuilds when its texts change.
+    QSpacerItem* mpWidthSpacer = nullptr;
+    QPointer<QLayout> mpSpacerLayout;
 };
 
 } // namespace Kavrel::UICore
