@@ -1,13 +1,19 @@
 // test-options: XVFB SCALES 1.5 LIBS xcb
 // A WidgetImp hosted in a foreign X11 window, as a host that is not a Qt
 // application creates it with its own connection.
+#include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/widgets/KvMessageBox.h>
 #include <KvUICore/platform/WinWidget_p.h>
 #include <KvUICore/widgets/WidgetImp.h>
 #include <KvUICore/widgets/WinWidgetImp.h>
 
 #include <QApplication>
+#include <QAbstractButton>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -16,6 +22,7 @@
 #include <xcb/xcb.h>
 
 #include <cmath>
+#include <memory>
 #include <cstdlib>
 
 using namespace Kavrel::UICore;
@@ -132,6 +139,8 @@ private Q_SLOTS:
     void tabbingPastTheLastFieldHandsFocusToHost();
     void noFocusedChildLeavesFocusToHost();
     void parentWidgetForNativeHandle();
+    void hostWindowGoingFirstIsSurvived();
+    void messageBoxOverForeignWindow();
 
 private:
     qreal Ratio() const { return qApp->devicePixelRatio(); }
@@ -291,11 +300,69 @@ void tst_WidgetHosting::parentWidgetForNativeHandle()
 
     ForeignWindow host(600, 300);
     QWidget* wrapper = Internal::ParentWidgetForNativeHandle(host.Handle());
-    QVERIFY(qobject_cast<Platform::WinWidget*>(wrapper));
+    auto* owner = qobject_cast<Platform::WinWidget*>(wrapper);
+    QVERIFY(owner);
+    QCOMPARE(owner->GetRole(), Platform::WinWidget::Role::DialogOwner);
     QVERIFY(!wrapper->isVisible());
-    // Sized like the host window, so dialogs centre on it.
-    QCOMPARE(wrapper->size(), QSize(qRound(600 / Ratio()), qRound(300 / Ratio())));
+    QVERIFY(!wrapper->internalWinId());
+    // Covering the host window on the screen, so dialogs centre on it.
+    QCOMPARE(wrapper->geometry(),
+             QRect(qRound(20 / Ratio()), qRound(20 / Ratio()), qRound(600 / Ratio()), qRound(300 / Ratio())));
     delete wrapper;
+}
+
+void tst_WidgetHosting::hostWindowGoingFirstIsSurvived()
+{
+    auto host = std::make_unique<ForeignWindow>(300, 200);
+    auto* imp = new WidgetImp(host->Handle());
+    QPointer<QWidget> wrapper(imp->parentWidget());
+    imp->Show();
+    QTRY_COMPARE(host->ParentOf(wrapper->winId()), host->Window());
+    // The server destroys the embedded window with the host's; Qt may report
+    // the stale window id, which is harmless.
+    host.reset();
+    QTest::qWait(50);
+    delete imp;
+    QTRY_VERIFY(wrapper.isNull());
+}
+
+void tst_WidgetHosting::messageBoxOverForeignWindow()
+{
+    CoreUIManager::Initialize();
+    ForeignWindow host(700, 500);
+    QWidget* parent = nullptr;
+    QPoint boxCentre;
+    QWindow* transientParent = nullptr;
+    auto* timer = new QTimer(this);
+    timer->setInterval(10);
+    connect(timer, &QTimer::timeout, this, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        timer->stop();
+        parent = box->parentWidget();
+        transientParent = box->windowHandle()->transientParent();
+        boxCentre = box->frameGeometry().center();
+        box->button(QMessageBox::Ok)->click();
+    });
+    timer->start();
+    {
+        KvMessageBox box;
+        box.SetMainInstruction(L"Over a native window");
+        QCOMPARE(box.Show(host.Handle()), 1);
+    }
+    auto* owner = qobject_cast<Platform::WinWidget*>(parent);
+    QVERIFY(owner);
+    // Above the host's window, and centred on it (the host sits at 20, 20).
+    QVERIFY(transientParent);
+    QCOMPARE(transientParent, owner->ForeignParent());
+    QCOMPARE(transientParent->winId(), WId(host.Window()));
+    const QPoint hostCentre(qRound((20 + 350) / Ratio()), qRound((20 + 250) / Ratio()));
+    // QMessageBox settles its size after it was placed.
+    QVERIFY2((boxCentre - hostCentre).manhattanLength() < 80,
+             qPrintable(QStringLiteral("%1,%2").arg(boxCentre.x()).arg(boxCentre.y())));
+    delete parent;
+    CoreUIManager::Uninitialize();
 }
 
 QTEST_MAIN(tst_WidgetHosting)

@@ -11,15 +11,9 @@ QWidget* ParentWidgetForNativeHandle(HWND handle)
         return nullptr;
     if (QWidget* owner = QWidget::find(Platform::WIdFromHandle(handle)))
         return owner;
-    auto* wrapper = new Platform::WinWidget(handle);
-    // Covering the host window lets a dialog centre itself on the host; the
-    // wrapper is never shown, so it hides nothing.
-    const QSize nativeSize = wrapper->ParentWindowSize();
-    if (nativeSize.isValid()) {
-        const qreal ratio = wrapper->devicePixelRatioF() > 0 ? wrapper->devicePixelRatioF() : 1.0;
-        wrapper->resize(qMax(1, qRound(nativeSize.width() / ratio)), qMax(1, qRound(nativeSize.height() / ratio)));
-    }
-    return wrapper;
+    // Library UI parented here is dialogs: they centre on the host window and
+    // stay above it.
+    return new Platform::WinWidget(handle, Qt::WindowFlags(), Platform::WinWidget::Role::DialogOwner);
 }
 
 } // namespace Kavrel::UICore::Internal

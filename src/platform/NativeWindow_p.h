@@ -13,6 +13,10 @@ namespace Kavrel::UICore::Platform {
 // pixels; false when the windowing system cannot tell.
 bool TranslateToAncestor(WId window, HWND ancestor, QPoint* position);
 
+// Where the client area's origin of a native window lies on the screen, in
+// native pixels; false when the windowing system cannot tell.
+bool ScreenPosition(HWND window, QPoint* position);
+
 // The client size of a native window in native pixels; invalid when unknown.
 QSize NativeClientSize(HWND window);
 

@@ -14,6 +14,16 @@ bool TranslateToAncestor(WId window, HWND ancestor, QPoint* position)
     return true;
 }
 
+bool ScreenPosition(HWND window, QPoint* position)
+{
+    POINT point = {0, 0};
+    if (!window || !::ClientToScreen(window, &point))
+        return false;
+    if (position)
+        *position = QPoint(point.x, point.y);
+    return true;
+}
+
 QSize NativeClientSize(HWND window)
 {
     RECT rect;

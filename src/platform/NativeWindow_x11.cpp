@@ -52,6 +52,22 @@ bool TranslateToAncestor(WId window, HWND ancestor, QPoint* position)
     return true;
 }
 
+bool ScreenPosition(HWND window, QPoint* position)
+{
+    xcb_connection_t* connection = qtConnection();
+    if (!connection || !window)
+        return false;
+    xcb_generic_error_t* error = nullptr;
+    xcb_query_tree_reply_t* tree =
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, windowOf(window)), &error);
+    std::free(error);
+    if (!tree)
+        return false;
+    const xcb_window_t root = tree->root;
+    std::free(tree);
+    return TranslateToAncestor(WId(windowOf(window)), HandleFromWId(WId(root)), position);
+}
+
 QSize NativeClientSize(HWND window)
 {
     xcb_connection_t* connection = qtConnection();
@@ -89,6 +105,11 @@ void SetNativeFocus(HWND window)
 
 // Without X11 support in Qt there is no native window system to ask.
 bool TranslateToAncestor(WId, HWND, QPoint*)
+{
+    return false;
+}
+
+bool ScreenPosition(HWND, QPoint*)
 {
     return false;
 }

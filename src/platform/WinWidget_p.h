@@ -19,17 +19,31 @@ namespace Kavrel::UICore::Platform {
 // foreign one, so moving and sizing it places it in the host's client area.
 // On a platform without foreign windows the widget stays an ordinary
 // top-level widget and IsEmbedded() is false.
+//
+// As the owner of dialogs (message boxes over a host window) the wrapper is
+// not embedded and never gets a native window: it only covers the host
+// window's area, so dialogs centre on it, and makes the host window the
+// transient parent of every dialog shown over it.
 class KVUICORE_EXPORT WinWidget : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit WinWidget(HWND parentWindow, Qt::WindowFlags flags = {});
+    enum class Role
+    {
+        Embedded,
+        DialogOwner,
+    };
+
+    explicit WinWidget(HWND parentWindow, Qt::WindowFlags flags = {}, Role role = Role::Embedded);
     ~WinWidget() override;
 
     // The host window this widget sits in.
     HWND parentWindow() const;
     bool IsEmbedded() const;
+    Role GetRole() const;
+    // The host window as Qt sees it; null where foreign windows are not supported.
+    QWindow* ForeignParent() const;
 
     // The origin of this widget's native window in the client pixels of the
     // parent window: native pixels, as the host sees them.
@@ -45,11 +59,15 @@ protected:
     // back to the host, so the host's own tab order continues from here.
     bool focusNextPrevChild(bool next) override;
     void moveEvent(QMoveEvent* event) override;
+    void childEvent(QChildEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool HasTabStopBeyond(QWidget* current, bool next) const;
+    void CoverParentWindow();
 
     HWND mhParentWindow;
+    Role meRole;
     QWindow* mpForeignParent = nullptr;
 };
 
