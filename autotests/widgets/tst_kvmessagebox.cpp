@@ -391,9 +391,9 @@ void tst_KvMessageBox::textsAndWidthAreShown()
         shown->button(QMessageBox::Ok)->click();
     });
     QCOMPARE(box.Show(nullptr), 1);
-    QCOMPARE(seen, (QStringList{QStringLiteral("Save changes"), QStringLiteral("The drawing was modified."),
-                                QStringLiteral("Do you want to keep the changes?"),
-                                QStringLiteral("Three views changed.")}));
+    QCOMPARE(seen,
+             (QStringList{QStringLiteral("Save changes"), QStringLiteral("The drawing was modified."),
+                          QStringLiteral("Do you want to keep the changes?"), QStringLiteral("Three views changed.")}));
     QVERIFY2(width >= 720, qPrintable(QString::number(width)));
 }
 

@@ -386,7 +386,8 @@ void tst_Widget::savingTwiceLeavesNoLeftovers()
     QVERIFY(imp.SaveState(path, QStringLiteral("A/B")));
     // Something written by an older version of the widget must go too.
     QDomDocument document = parse(path);
-    elementAt(document, {QStringLiteral("A"), QStringLiteral("B")}).setAttribute(QStringLiteral("stale"), QStringLiteral("x"));
+    elementAt(document, {QStringLiteral("A"), QStringLiteral("B")})
+        .setAttribute(QStringLiteral("stale"), QStringLiteral("x"));
     writeAll(path, document.toByteArray());
 
     imp.msNote = QStringLiteral("second");

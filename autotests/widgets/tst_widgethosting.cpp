@@ -3,27 +3,27 @@
 // application creates it with its own connection.
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
-#include <KvUICore/widgets/KvMessageBox.h>
 #include <KvUICore/platform/WinWidget_p.h>
+#include <KvUICore/widgets/KvMessageBox.h>
 #include <KvUICore/widgets/WidgetImp.h>
 #include <KvUICore/widgets/WinWidgetImp.h>
 
-#include <QApplication>
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTimer>
-#include <QWindow>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <xcb/xcb.h>
 
 #include <cmath>
-#include <memory>
 #include <cstdlib>
+#include <memory>
 
 using namespace Kavrel::UICore;
 

@@ -123,7 +123,8 @@ void tst_WidgetStateFile::killedWhileSavingKeepsAWholeFile()
                  QStringLiteral("keep me"));
 
         // The busy element holds one complete write.
-        const QDomElement busy = root.firstChildElement(QStringLiteral("Busy")).firstChildElement(QStringLiteral("Widget"));
+        const QDomElement busy =
+            root.firstChildElement(QStringLiteral("Busy")).firstChildElement(QStringLiteral("Widget"));
         QVERIFY(!busy.isNull());
         const int round = busy.attribute(QStringLiteral("round")).toInt();
         QVERIFY(round >= 1);

@@ -32,8 +32,9 @@ HostWindow::HostWindow(const std::string& title, int width, int height)
     xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(mpConnection)).data;
 
     mWindow = xcb_generate_id(mpConnection);
-    const std::uint32_t values[] = {kBackground, XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY
-                                                     | XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS};
+    const std::uint32_t values[] = {kBackground,
+                                    XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_KEY_PRESS
+                                        | XCB_EVENT_MASK_BUTTON_PRESS};
     xcb_create_window(mpConnection, XCB_COPY_FROM_PARENT, mWindow, screen->root, 0, 0, std::uint16_t(width),
                       std::uint16_t(height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual,
                       XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);

@@ -37,7 +37,7 @@ std::wstring defaultStatePath()
     const char* config = std::getenv("XDG_CONFIG_HOME");
     const char* home = std::getenv("HOME");
     std::filesystem::path folder = config && *config ? std::filesystem::path(config)
-                                   : home            ? std::filesystem::path(home) / ".config"
+        : home                                       ? std::filesystem::path(home) / ".config"
                                                      : std::filesystem::temp_directory_path();
     folder /= "kvuicore-native-host";
     std::error_code error;
@@ -114,8 +114,8 @@ int main(int argc, char* argv[])
             // Qt's own connection has its own descriptor: wake up often enough to give it a turn.
             ::poll(&descriptor, 1, 10);
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
-                std::chrono::steady_clock::now() - start);
+            const auto elapsed =
+                std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
             if (quitAfter >= 0 && elapsed.count() >= quitAfter)
                 break;
         }

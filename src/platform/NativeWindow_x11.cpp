@@ -91,8 +91,8 @@ void SetNativeFocus(HWND window)
         return;
     // A host window that is not viewable refuses focus with an error; ask
     // first so that no error reaches Qt's error handler.
-    xcb_get_window_attributes_reply_t* attributes = xcb_get_window_attributes_reply(
-        connection, xcb_get_window_attributes(connection, windowOf(window)), nullptr);
+    xcb_get_window_attributes_reply_t* attributes =
+        xcb_get_window_attributes_reply(connection, xcb_get_window_attributes(connection, windowOf(window)), nullptr);
     const bool viewable = attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
     std::free(attributes);
     if (!viewable)

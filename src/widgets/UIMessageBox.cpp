@@ -21,8 +21,8 @@ void UIMessageBox::SetRequestedWidth(int width)
         resize(miRequestedWidth, height());
     if (mpWidthSpacer && mpSpacerLayout == layout()) {
         const QMargins margins = layout()->contentsMargins();
-        mpWidthSpacer->changeSize(qMax(0, miRequestedWidth - margins.left() - margins.right()), 0,
-                                  QSizePolicy::Minimum, QSizePolicy::Minimum);
+        mpWidthSpacer->changeSize(qMax(0, miRequestedWidth - margins.left() - margins.right()), 0, QSizePolicy::Minimum,
+                                  QSizePolicy::Minimum);
         layout()->invalidate();
     }
 }

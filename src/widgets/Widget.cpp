@@ -161,13 +161,13 @@ void Widget::SetFocus()
 bool Widget::LoadState(const wchar_t* filePath, const wchar_t* nodePath)
 {
     return mpImp->mpObject
-           && mpImp->mpObject->LoadState(StringUtil::WcharToQString(filePath), StringUtil::WcharToQString(nodePath));
+        && mpImp->mpObject->LoadState(StringUtil::WcharToQString(filePath), StringUtil::WcharToQString(nodePath));
 }
 
 bool Widget::SaveState(const wchar_t* filePath, const wchar_t* nodePath) const
 {
     return mpImp->mpObject
-           && mpImp->mpObject->SaveState(StringUtil::WcharToQString(filePath), StringUtil::WcharToQString(nodePath));
+        && mpImp->mpObject->SaveState(StringUtil::WcharToQString(filePath), StringUtil::WcharToQString(nodePath));
 }
 
 bool Widget::LoadState(const wchar_t* xml)
