@@ -116,6 +116,8 @@ private Q_SLOTS:
     void nullHandleGivesTopLevelWidget();
     void handleOfQtWidgetFillsThatWidget();
     void qtParentLosesItsOldLayout();
+    void handleOfQtWidgetWithLayoutKeepsIt();
+    void metaObjectName();
     void copiesShareOneImplementation();
     void viewOutlivingOwnerSeesNoImplementation();
     void setImpObjReplacesImplementation();
@@ -165,6 +167,30 @@ void tst_Widget::handleOfQtWidgetFillsThatWidget()
     owner.show();
     QVERIFY(QTest::qWaitForWindowExposed(&owner));
     QTRY_COMPARE(imp->geometry(), owner.rect());
+}
+
+void tst_Widget::handleOfQtWidgetWithLayoutKeepsIt()
+{
+    QWidget owner;
+    auto* ownLayout = new QVBoxLayout(&owner);
+    auto* label = new QLabel(QStringLiteral("kept"));
+    ownLayout->addWidget(label);
+    auto* imp = new WidgetImp(Platform::HandleFromWId(owner.winId()));
+    QCOMPARE(owner.layout(), ownLayout);
+    QCOMPARE(ownLayout->count(), 1);
+    QCOMPARE(imp->parentWidget(), &owner);
+    QVERIFY(!imp->isWindow());
+    QVERIFY(!imp->IsParentWindowsNativeWindow());
+    imp->Move(5, 7);
+    QCOMPARE(QPoint(imp->GetX(), imp->GetY()), QPoint(5, 7));
+}
+
+void tst_Widget::metaObjectName()
+{
+    WidgetImp imp;
+    QCOMPARE(imp.metaObject()->className(), "WidgetImp");
+    StateWidget subclass;
+    QVERIFY(subclass.inherits("WidgetImp"));
 }
 
 void tst_Widget::qtParentLosesItsOldLayout()

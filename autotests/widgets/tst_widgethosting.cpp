@@ -140,6 +140,7 @@ private Q_SLOTS:
     void noFocusedChildLeavesFocusToHost();
     void parentWidgetForNativeHandle();
     void hostWindowGoingFirstIsSurvived();
+    void handleOfNoWindowIsSurvived();
     void messageBoxOverForeignWindow();
 
 private:
@@ -322,6 +323,19 @@ void tst_WidgetHosting::hostWindowGoingFirstIsSurvived()
     // the stale window id, which is harmless.
     host.reset();
     QTest::qWait(50);
+    delete imp;
+    QTRY_VERIFY(wrapper.isNull());
+}
+
+void tst_WidgetHosting::handleOfNoWindowIsSurvived()
+{
+    // An id no window has: X reports errors, nothing else happens.
+    auto* imp = new WidgetImp(Platform::HandleFromWId(WId(0x7ffffff)));
+    QVERIFY(imp->IsParentWindowsNativeWindow());
+    imp->Resize(10, 10, 100, 50);
+    imp->GetX();
+    QCOMPARE(imp->GetWidth(), 100);
+    QPointer<QWidget> wrapper(imp->parentWidget());
     delete imp;
     QTRY_VERIFY(wrapper.isNull());
 }

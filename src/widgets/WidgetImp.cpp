@@ -28,13 +28,14 @@ WidgetImp::WidgetImp(HWND parentWindow)
         mpHostWidget = this;
     } else if (QWidget* owner = QWidget::find(Kavrel::UICore::Platform::WIdFromHandle(parentWindow))) {
         mpHostWidget = this;
-        // The owner's existing layout is kept; Qt then refuses the new one.
-        QHBoxLayout* layout = newFillLayout();
-        layout->addWidget(this);
-        owner->setLayout(layout);
-        if (owner->layout() != layout) {
-            delete layout;
+        if (owner->layout()) {
+            // The owner's own layout is kept, and a widget has room for one
+            // layout only: the widget becomes a plain child the host places.
             setParent(owner);
+        } else {
+            QHBoxLayout* layout = newFillLayout();
+            layout->addWidget(this);
+            owner->setLayout(layout);
         }
     } else {
         auto* wrapper = new WinWidgetImp(parentWindow);
