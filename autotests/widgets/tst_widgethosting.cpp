@@ -279,6 +279,15 @@ void tst_WidgetHosting::tabbingPastTheLastFieldHandsFocusToHost()
     QCOMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
     QTest::keyClick(second, Qt::Key_Tab);
     QTRY_COMPARE(host.FocusWindow(), host.Window());
+
+    // Backwards out of the first field as well.
+    host.GiveFocusTo(wrapper->winId());
+    QTRY_COMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
+    first->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(first->hasFocus());
+    QTest::keyClick(first, Qt::Key_Backtab, Qt::ShiftModifier);
+    QTRY_COMPARE(host.FocusWindow(), host.Window());
+    QVERIFY(!second->hasFocus());
 }
 
 void tst_WidgetHosting::noFocusedChildLeavesFocusToHost()
