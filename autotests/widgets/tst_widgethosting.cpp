@@ -384,7 +384,9 @@ void tst_WidgetHosting::messageBoxOverForeignWindow()
     // QMessageBox settles its size after it was placed.
     QVERIFY2((boxCentre - hostCentre).manhattanLength() < 80,
              qPrintable(QStringLiteral("%1,%2").arg(boxCentre.x()).arg(boxCentre.y())));
-    delete parent;
+    // The owner goes by itself once its box is gone.
+    QPointer<QWidget> guard(parent);
+    QTRY_VERIFY(guard.isNull());
     CoreUIManager::Uninitialize();
 }
 

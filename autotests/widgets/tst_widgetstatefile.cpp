@@ -102,8 +102,13 @@ void tst_WidgetStateFile::killedWhileSavingKeepsAWholeFile()
         saver.setProcessEnvironment(environment);
         saver.start(QCoreApplication::applicationFilePath(), {QStringLiteral("-silent")});
         QVERIFY2(saver.waitForStarted(), qPrintable(saver.errorString()));
-        while (!saver.canReadLine())
-            QVERIFY2(saver.waitForReadyRead(30000), "the saving process did not start saving");
+        // Anything else the child prints comes before its first complete save.
+        bool ready = false;
+        while (!ready) {
+            while (!saver.canReadLine())
+                QVERIFY2(saver.waitForReadyRead(30000), "the saving process did not start saving");
+            ready = saver.readLine().trimmed() == "ready";
+        }
         // Somewhere inside a save, or between two.
         QThread::usleep(QRandomGenerator::global()->bounded(40000));
         saver.kill();

@@ -129,6 +129,11 @@ void WinWidget::childEvent(QChildEvent* event)
         event->child()->installEventFilter(this);
     else if (event->type() == QEvent::ChildRemoved)
         event->child()->removeEventFilter(this);
+    // Nobody deletes a dialog owner: it goes once the last dialog over it has gone.
+    // (A child being destroyed no longer tells whether it was a widget.)
+    if (event->type() == QEvent::ChildRemoved && meRole == Role::DialogOwner
+        && findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).isEmpty())
+        deleteLater();
 }
 
 bool WinWidget::eventFilter(QObject* watched, QEvent* event)

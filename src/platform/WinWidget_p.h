@@ -23,7 +23,8 @@ namespace Kavrel::UICore::Platform {
 // As the owner of dialogs (message boxes over a host window) the wrapper is
 // not embedded and never gets a native window: it only covers the host
 // window's area, so dialogs centre on it, and makes the host window the
-// transient parent of every dialog shown over it.
+// transient parent of every dialog shown over it. It deletes itself later
+// when the last widget parented to it is gone.
 class KVUICORE_EXPORT WinWidget : public QWidget
 {
     Q_OBJECT
