@@ -1,0 +1,812 @@
+#include <KvUICore/core/CoreUIManager.h>
+#include <KvUICore/propertyeditor/Binding.h>
+#include <KvUICore/propertyeditor/CheckBoxElement.h>
+#include <KvUICore/propertyeditor/ElementRegistry_p.h>
+#include <KvUICore/propertyeditor/GroupElement.h>
+#include <KvUICore/propertyeditor/PageElement.h>
+#include <KvUICore/propertyeditor/PropertyEditor.h>
+#include <KvUICore/propertyeditor/PropertyEditorContext.h>
+#include <KvUICore/propertyeditor/TextBoxElement.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/util/Diagnostics_p.h>
+#include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/widgets/Divider.h>
+#include <KvUICore/widgets/Label.h>
+#include <KvUICore/widgets/RolloutContainer.h>
+
+#include <QApplication>
+#include <QDomElement>
+#include <QGridLayout>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+using Element = PropertyEditorElement;
+
+// A whole definition around the elements of one group.
+QString GroupDocument(const QString& groupChildren, const QString& head = QString(),
+                      const QString& beforePage = QString())
+{
+    return QStringLiteral("<Editor %1>%2<PageElement><GroupElement Id=\"g\" Label=\"Group\">%3</GroupElement>"
+                          "</PageElement></Editor>")
+        .arg(head, beforePage, groupChildren);
+}
+
+// Builds the page as the first paint would.
+void Build(PropertyEditor& editor)
+{
+    editor.grab();
+}
+
+struct Cell
+{
+    int row = -2;
+    int column = -2;
+    int rowSpan = 0;
+    int columnSpan = 0;
+};
+
+Cell CellOf(QGridLayout* grid, QWidget* widget)
+{
+    Cell cell;
+    const int index = grid ? grid->indexOf(widget) : -1;
+    if (index >= 0)
+        grid->getItemPosition(index, &cell.row, &cell.column, &cell.rowSpan, &cell.columnSpan);
+    return cell;
+}
+
+// An element type of another module that reads an attribute of its own and
+// fails to load when it is missing.
+class StrictElement : public PropertyEditorElement
+{
+    Q_OBJECT
+
+public:
+    StrictElement()
+        : PropertyEditorElement(Leaf)
+    {
+    }
+
+    QString msRequired;
+
+protected:
+    bool Load(const QDomElement& element) override
+    {
+        if (!PropertyEditorElement::Load(element))
+            return false;
+        msRequired = element.attribute(QStringLiteral("Required"));
+        return !msRequired.isEmpty();
+    }
+};
+
+} // namespace
+
+class tst_PropertyEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void registeredKinds_data();
+    void registeredKinds();
+    void columnWidths_data();
+    void columnWidths();
+    void columnWidthRule();
+    void layoutAttributes_data();
+    void layoutAttributes();
+    void commonAttributesBecomeBindings();
+    void duplicateIdsKeepPreviousName();
+    void unknownAndListTagsAreSkipped();
+    void failingChildStopsTheLoad();
+    void missingPageFails();
+    void malformedXmlFailsSilently();
+    void secondLoadAddsToPage();
+    void translatedTexts();
+
+    void gridPlacement_data();
+    void gridPlacement();
+    void explicitColumnOnFirstChild();
+    void controlIndentWrapsControl();
+    void columnKeepersAndStretch();
+    void dividerMarks();
+
+    void buildIsDeferredToPaint();
+    void loadFileWithElementPath();
+    void loadFileFailures();
+    void labelColumnDragIsRemembered();
+
+    void namespaceUris_data();
+    void namespaceUris();
+    void moduleNamesWithPathsAreRefused_data();
+    void moduleNamesWithPathsAreRefused();
+    void foreignTypesNeedRegistration();
+
+private:
+    QStringList mMessages;
+};
+
+void tst_PropertyEditor::initTestCase()
+{
+    CoreUIManager::Initialize(nullptr);
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    PropertyEditorElement::RegisterElementType<StrictElement>("StrictElement");
+}
+
+void tst_PropertyEditor::init()
+{
+    mMessages.clear();
+    Internal::SetDiagnosticHook([this](const QString& text) { mMessages.append(text); });
+}
+
+void tst_PropertyEditor::cleanup()
+{
+    Internal::SetDiagnosticHook({});
+}
+
+void tst_PropertyEditor::registeredKinds_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<QString>("className");
+
+    QTest::newRow("group") << "GroupElement" << "Kavrel::UICore::GroupElement";
+    QTest::newRow("check box") << "CheckBoxElement" << "Kavrel::UICore::CheckBoxElement";
+    QTest::newRow("combo box") << "ComboBoxElement" << "Kavrel::UICore::ComboBoxElement";
+    QTest::newRow("button") << "ButtonElement" << "Kavrel::UICore::ButtonElement";
+    QTest::newRow("label") << "LabelElement" << "Kavrel::UICore::LabelElement";
+    QTest::newRow("text box") << "TextBoxElement" << "Kavrel::UICore::TextBoxElement";
+    QTest::newRow("panel") << "PanelElement" << "Kavrel::UICore::PanelElement";
+    QTest::newRow("radio buttons") << "RadioButtonGroupElement" << "Kavrel::UICore::RadioButtonGroupElement";
+    QTest::newRow("list: deliberately not") << "ListElement" << "";
+    QTest::newRow("page: root only") << "PageElement" << "";
+    QTest::newRow("other meta type") << "QString" << "";
+    QTest::newRow("unknown") << "SpinnerElement" << "";
+}
+
+void tst_PropertyEditor::registeredKinds()
+{
+    QFETCH(QString, tag);
+    QFETCH(QString, className);
+    std::unique_ptr<PropertyEditorElement> element(Internal::ElementTypeRegistry::Instance().Create(tag, QString()));
+    QCOMPARE(element ? QString::fromLatin1(element->metaObject()->className()) : QString(), className);
+    if (!className.isEmpty())
+        QVERIFY(QMetaType::fromName(tag.toLatin1()).isValid());
+}
+
+void tst_PropertyEditor::columnWidths_data()
+{
+    QTest::addColumn<QString>("head");
+    QTest::addColumn<QString>("widths");
+    QTest::addColumn<QList<int>>("expected");
+
+    QTest::newRow("defaults") << "" << "" << QList<int>{100, -1, -1};
+    QTest::newRow("label column width") << "LabelColumnWidth=\"120\"" << "" << QList<int>{120, -1, -1};
+    QTest::newRow("first width overrides label column width")
+        << "LabelColumnWidth=\"120\"" << "<W Width=\"90\"/>" << QList<int>{90, -1, -1};
+    QTest::newRow("only one column stretches")
+        << "" << "<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>" << QList<int>{0, -1, 80};
+    QTest::newRow("missing width keeps the current one")
+        << "LabelColumnWidth=\"70\"" << "<W/><W Width=\"0\"/>" << QList<int>{70, 0, -1};
+    QTest::newRow("fourth child is read and ignored")
+        << "" << "<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>" << QList<int>{1, 2, 3};
+    QTest::newRow("non-numeric keeps the default")
+        << "LabelColumnWidth=\"wide\"" << "<W Width=\"x\"/><W Width=\"40\"/>" << QList<int>{100, 40, -1};
+}
+
+void tst_PropertyEditor::columnWidths()
+{
+    QFETCH(QString, head);
+    QFETCH(QString, widths);
+    QFETCH(QList<int>, expected);
+
+    PropertyEditor editor;
+    const QString columnWidths = widths.isEmpty() ? QString() : QStringLiteral("<ColumnWidths>%1</ColumnWidths>").arg(widths);
+    QVERIFY(editor.LoadUI(QStringLiteral("<Editor %1>%2<PageElement/></Editor>").arg(head, columnWidths)));
+    QCOMPARE((QList<int>{editor.GetColumnWidth(0), editor.GetColumnWidth(1), editor.GetColumnWidth(2)}), expected);
+    QCOMPARE(editor.GetColumnWidth(3), -1);
+    QCOMPARE(editor.GetColumnWidth(-1), -1);
+}
+
+void tst_PropertyEditor::columnWidthRule()
+{
+    PropertyEditor editor;
+    editor.SetColumnWidth(2, 0);
+    QCOMPARE(editor.GetColumnWidth(2), 0);
+    editor.SetColumnWidth(1, 0);
+    QCOMPARE(editor.GetColumnWidth(1), -1);
+    editor.SetColumnWidth(3, 40);
+    QCOMPARE(editor.GetColumnWidth(2), 0);
+    editor.SetColumnWidth(2, 60);
+    editor.SetColumnWidth(1, 0);
+    QCOMPARE(editor.GetColumnWidth(1), 0);
+}
+
+void tst_PropertyEditor::layoutAttributes_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<int>("controlPlacement");
+    QTest::addColumn<int>("labelPlacement");
+    QTest::addColumn<int>("labelAlignment");
+    QTest::addColumn<int>("labelWrap");
+    QTest::addColumn<int>("controlAlignment");
+    QTest::addColumn<int>("indent");
+
+    QTest::newRow("defaults") << "" << 0 << 0 << 0x82 << 1 << 0x81 << 0;
+    QTest::newRow("words ignore case") << "ControlPlacement=\"fullrow\" LabelPlacement=\"LEFT\"" << 1 << 1 << 0x82 << 1
+                                       << 0x81 << 0;
+    QTest::newRow("alignment list") << "LabelAlignment=\"alignleft,AlignTop\"" << 0 << 0 << 0x21 << 1 << 0x81 << 0;
+    QTest::newRow("double comma") << "ControlAlignment=\"AlignRight,,AlignBottom\"" << 0 << 0 << 0x82 << 1 << 0x42
+                                  << 0;
+    QTest::newRow("unknown alignment keeps default") << "LabelAlignment=\"Diagonal\"" << 0 << 0 << 0x82 << 1 << 0x81
+                                                     << 0;
+    QTest::newRow("unknown placement keeps default") << "LabelPlacement=\"Above\"" << 0 << 0 << 0x82 << 1 << 0x81 << 0;
+    QTest::newRow("full row label defaults") << "LabelPlacement=\"FullRow\"" << 0 << 2 << 0x81 << 0 << 0x81 << 0;
+    QTest::newRow("full row label with explicit wrap and alignment")
+        << "LabelPlacement=\"FullRow\" LabelWrap=\"WordWrap\" LabelAlignment=\"AlignCenter\"" << 0 << 2 << 0x84 << 1
+        << 0x81 << 0;
+    QTest::newRow("indent") << "ControlIndent=\"12\"" << 0 << 0 << 0x82 << 1 << 0x81 << 12;
+    QTest::newRow("label placement control") << "LabelPlacement=\"Control\" LabelWrap=\"nowrap\"" << 0 << 3 << 0x82
+                                             << 0 << 0x81 << 0;
+}
+
+void tst_PropertyEditor::layoutAttributes()
+{
+    QFETCH(QString, attributes);
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" %1/>").arg(attributes))));
+    auto* element = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")));
+    QVERIFY(element);
+    const PropertyEditorElement::LayoutInfo info = element->GetLayoutInfo();
+    QTEST(int(info.miControlPlacement), "controlPlacement");
+    QTEST(int(info.miLabelPlacement), "labelPlacement");
+    QTEST(int(info.miLabelAlignment), "labelAlignment");
+    QTEST(int(info.miLabelWrap), "labelWrap");
+    QTEST(int(info.miControlAlignment), "controlAlignment");
+    QTEST(int(info.miControlIndent), "indent");
+}
+
+void tst_PropertyEditor::commonAttributesBecomeBindings()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(
+        GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Label=\"Check\" IsEnabled=\"False\" "
+                                     "Tooltip=\"Binding(Hint)\"/><LabelElement Id=\"l\"/>"))));
+    auto* check = qobject_cast<CheckBoxElement*>(editor.FindElement(QStringLiteral("C")));
+    QVERIFY(check);
+    QCOMPARE(check->GetLabel(), QStringLiteral("Check"));
+    QVERIFY(!check->IsEnabled());
+    QVERIFY(check->IsVisible());
+    QVERIFY(check->GetBinding(QStringLiteral("IsEnabled")));
+    QCOMPARE(check->GetBinding(QStringLiteral("IsVisible"))->GetValueType(), QMetaType::Bool);
+    QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetExpression(), QStringLiteral("Binding(Hint)"));
+    QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetContext(), editor.GetContext());
+
+    auto* label = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("l")));
+    QCOMPARE(label->GetBinding(QStringLiteral("Tooltip"))->GetValue().toString(), QString());
+    QCOMPARE(label->GetParent(), editor.FindElement(QStringLiteral("g")));
+    QCOMPARE(label->GetEditor(), &editor);
+}
+
+void tst_PropertyEditor::duplicateIdsKeepPreviousName()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<LabelElement Id=\"a\" Label=\"first\"/>"
+                                                       "<LabelElement Id=\"A\" Label=\"second\"/>"
+                                                       "<LabelElement Id=\"b\" Label=\"third\"/>"))));
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QCOMPARE(group->GetChildCount(), 3);
+    QCOMPARE(group->GetChild(0)->GetId(), QStringLiteral("a"));
+    QCOMPARE(group->GetChild(1)->GetId(), QString());
+    QCOMPARE(group->GetChild(2)->GetId(), QStringLiteral("b"));
+    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("a")))->GetLabel(),
+             QStringLiteral("first"));
+
+    // A later load that reuses a name leaves it with its first owner.
+    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><LabelElement Id=\"b\" Label=\"again\"/></PageElement></E>")));
+    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("b")))->GetLabel(),
+             QStringLiteral("third"));
+}
+
+void tst_PropertyEditor::unknownAndListTagsAreSkipped()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<ListElement Id=\"list\"/><Spinner Id=\"s\"/>"
+                                                       "<TextBoxElement Id=\"t\"/><PageElement Id=\"p\"/>"))));
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QCOMPARE(group->GetChildCount(), 1);
+    QVERIFY(qobject_cast<TextBoxElement*>(group->GetChild(0)));
+    QVERIFY(!editor.FindElement(QStringLiteral("list")));
+}
+
+void tst_PropertyEditor::failingChildStopsTheLoad()
+{
+    PropertyEditor editor;
+    QVERIFY(!editor.LoadUI(GroupDocument(QStringLiteral("<LabelElement Id=\"before\"/>"
+                                                        "<StrictElement Id=\"strict\"/>"
+                                                        "<LabelElement Id=\"after\"/>"))));
+    // What loaded before the failure stays.
+    QVERIFY(editor.FindElement(QStringLiteral("before")));
+    QVERIFY(editor.FindElement(QStringLiteral("strict")));
+    QVERIFY(!editor.FindElement(QStringLiteral("after")));
+
+    PropertyEditor other;
+    QVERIFY(other.LoadUI(GroupDocument(QStringLiteral("<StrictElement Id=\"strict\" Required=\"yes\" Label=\"S\"/>"))));
+    auto* strict = qobject_cast<StrictElement*>(other.FindElement(QStringLiteral("strict")));
+    QVERIFY(strict);
+    QCOMPARE(strict->msRequired, QStringLiteral("yes"));
+    QCOMPARE(strict->GetLabel(), QStringLiteral("S"));
+}
+
+void tst_PropertyEditor::missingPageFails()
+{
+    PropertyEditor editor;
+    QVERIFY(!editor.LoadUI(QStringLiteral("<Editor LabelColumnWidth=\"80\"><Page/></Editor>")));
+    // The widths before the page were read all the same.
+    QCOMPARE(editor.GetColumnWidth(0), 80);
+}
+
+void tst_PropertyEditor::malformedXmlFailsSilently()
+{
+    PropertyEditor editor;
+    QVERIFY(!editor.LoadUI(QStringLiteral("<Editor><PageElement></Editor>")));
+    QVERIFY(!editor.LoadUI(QString()));
+    QVERIFY(!editor.LoadUI(QStringLiteral("not xml at all")));
+    QVERIFY(mMessages.isEmpty());
+    // No message box came up.
+    QCOMPARE(QApplication::topLevelWidgets(), QWidgetList{&editor});
+    QCOMPARE(editor.GetPage()->GetChildCount(), 0);
+}
+
+void tst_PropertyEditor::secondLoadAddsToPage()
+{
+    PropertyEditor editor;
+    editor.resize(400, 300);
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" LabelPlacement=\"Left\"/>"))));
+    Build(editor);
+    QWidget* firstGroupWidget = editor.GetPage()->GetChild(0)->GetWidget();
+    QVERIFY(firstGroupWidget);
+
+    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"h\"><CheckBoxElement Id=\"c\"/>"
+                                         "</GroupElement></PageElement></E>")));
+    QCOMPARE(editor.GetPage()->GetChildCount(), 2);
+    Build(editor);
+    // The first group's widget survives; the new one joins the page.
+    QCOMPARE(editor.GetPage()->GetChild(0)->GetWidget(), firstGroupWidget);
+    auto* layout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->indexOf(editor.GetPage()->GetChild(1)->GetWidget()), 1);
+    QVERIFY(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("c")))->GetWidget());
+}
+
+void tst_PropertyEditor::translatedTexts()
+{
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile file(folder.filePath(QStringLiteral("editortexts.xlf")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"(<?xml version="1.0"?>
+<xliff version="1.2"><file source-language="en" target-language="de"><body>
+<trans-unit id="title"><source>Title</source><target>Titel</target></trans-unit>
+<trans-unit id="tip"><source>Tip</source><target>Hinweis</target></trans-unit>
+</body></file></xliff>)");
+    file.close();
+
+    const QString document = GroupDocument(
+        QStringLiteral("<LabelElement Id=\"l\" Label=\" TR ( title ) \" Tooltip=\"tr(tip)\" Text=\"tr(missing)\"/>"
+                       "<LabelElement Id=\"m\" Label=\"tr(title) and more\"/>"));
+    PropertyEditor translated;
+    QVERIFY(translated.LoadUI(document, file.fileName()));
+    auto* label = qobject_cast<PropertyEditorElement*>(translated.FindElement(QStringLiteral("l")));
+    QCOMPARE(label->GetLabel(), QStringLiteral("Titel"));
+    QCOMPARE(label->GetTooltip(), QStringLiteral("Hinweis"));
+    QCOMPARE(label->GetValue(QStringLiteral("Text")).toString(), QStringLiteral("missing"));
+    QCOMPARE(qobject_cast<PropertyEditorElement*>(translated.FindElement(QStringLiteral("m")))->GetLabel(),
+             QStringLiteral("tr(title) and more"));
+
+    PropertyEditor untranslated;
+    QVERIFY(untranslated.LoadUI(document));
+    QCOMPARE(qobject_cast<PropertyEditorElement*>(untranslated.FindElement(QStringLiteral("l")))->GetLabel(),
+             QStringLiteral("title"));
+    TranslationTable::ClearCache();
+}
+
+void tst_PropertyEditor::gridPlacement_data()
+{
+    QTest::addColumn<QString>("children");
+    // Per child: row, column, row span, column span of the control, then of
+    // its label (row -2 when it has none).
+    QTest::addColumn<QList<QList<int>>>("cells");
+
+    QTest::newRow("default placement has no label")
+        << "<TextBoxElement/><TextBoxElement/>"
+        << QList<QList<int>>{{0, 1, 1, 1, -2, -2, 0, 0}, {1, 1, 1, 1, -2, -2, 0, 0}};
+    QTest::newRow("left label")
+        << "<TextBoxElement LabelPlacement=\"Left\"/><CheckBoxElement LabelPlacement=\"Control\"/>"
+        << QList<QList<int>>{{0, 1, 1, 1, 0, 0, 1, 1}, {1, 1, 1, 1, -2, -2, 0, 0}};
+    QTest::newRow("full row label takes a row")
+        << "<TextBoxElement LabelPlacement=\"FullRow\"/><TextBoxElement LabelPlacement=\"Left\"/>"
+        << QList<QList<int>>{{1, 1, 1, 1, 0, 0, 1, 2}, {2, 1, 1, 1, 2, 0, 1, 1}};
+    QTest::newRow("full row control below its left label")
+        << "<TextBoxElement LabelPlacement=\"Left\" ControlPlacement=\"FullRow\"/><TextBoxElement/>"
+        << QList<QList<int>>{{1, 0, 1, -1, 0, 0, 1, 1}, {2, 1, 1, 1, -2, -2, 0, 0}};
+    QTest::newRow("full row control without label")
+        << "<TextBoxElement ControlPlacement=\"FullRow\"/>" << QList<QList<int>>{{0, 0, 1, -1, -2, -2, 0, 0}};
+    QTest::newRow("explicit column shares the previous row")
+        << "<TextBoxElement LabelPlacement=\"Left\"/><CheckBoxElement Column=\"2\" LabelPlacement=\"Left\"/>"
+           "<TextBoxElement/>"
+        << QList<QList<int>>{{0, 1, 1, 1, 0, 0, 1, 1}, {0, 2, 1, 1, -2, -2, 0, 0}, {1, 1, 1, 1, -2, -2, 0, 0}};
+    QTest::newRow("explicit column with span")
+        << "<TextBoxElement/><LabelElement Column=\"1\" ColumnSpan=\"2\"/>"
+        << QList<QList<int>>{{0, 1, 1, 1, -2, -2, 0, 0}, {0, 1, 1, 2, -2, -2, 0, 0}};
+}
+
+void tst_PropertyEditor::gridPlacement()
+{
+    QFETCH(QString, children);
+    QFETCH(QList<QList<int>>, cells);
+
+    PropertyEditor editor;
+    editor.resize(500, 400);
+    QVERIFY(editor.LoadUI(GroupDocument(children)));
+    Build(editor);
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QGridLayout* grid = group->GetGridLayout();
+    QVERIFY(grid);
+    QCOMPARE(group->GetChildCount(), cells.size());
+    for (int i = 0; i < cells.size(); ++i) {
+        PropertyEditorElement* child = group->GetChild(i);
+        QList<int> expected = cells.at(i);
+        const Cell control = CellOf(grid, child->GetWidget());
+        // A span of -1 reaches the last column the grid has.
+        if (expected.at(3) == -1)
+            expected[3] = grid->columnCount() - expected.at(1);
+        QCOMPARE((QList<int>{control.row, control.column, control.rowSpan, control.columnSpan}), expected.mid(0, 4));
+        const Cell label = CellOf(grid, child->GetLabelWidget());
+        QCOMPARE((QList<int>{label.row, label.column, label.rowSpan, label.columnSpan}), expected.mid(4, 4));
+        if (child->GetLabelWidget())
+            QCOMPARE(child->GetLabelWidget()->parentWidget(), grid->parentWidget());
+    }
+}
+
+void tst_PropertyEditor::explicitColumnOnFirstChild()
+{
+    // By design the first child with an explicit column lands on row -1.
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Column=\"2\" "
+                                                       "LabelPlacement=\"Left\" Label=\"no label here\"/>"))));
+    Build(editor);
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    auto* check = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("c")));
+    const Cell cell = CellOf(group->GetGridLayout(), check->GetWidget());
+    QCOMPARE(cell.row, -1);
+    QCOMPARE(cell.column, 2);
+    QVERIFY(!check->GetLabelWidget());
+}
+
+void tst_PropertyEditor::controlIndentWrapsControl()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" ControlIndent=\"16\"/>"
+                                                       "<TextBoxElement Id=\"u\" ControlIndent=\"0\"/>"))));
+    Build(editor);
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QGridLayout* grid = group->GetGridLayout();
+    QWidget* indented = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+    QWidget* wrapper = indented->parentWidget();
+    QVERIFY(wrapper != grid->parentWidget());
+    QCOMPARE(wrapper->layout()->contentsMargins().left(), 16);
+    QVERIFY(qobject_cast<QVBoxLayout*>(wrapper->layout()));
+    QCOMPARE(CellOf(grid, wrapper).row, 0);
+    QCOMPARE(CellOf(grid, wrapper).column, 1);
+    QWidget* plain = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("u")))->GetWidget();
+    QCOMPARE(plain->parentWidget(), grid->parentWidget());
+
+    // Hiding the element hides its wrapper, so no empty margin stays behind.
+    qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->SetVisible(false);
+    QVERIFY(indented->isHidden());
+    QVERIFY(wrapper->isHidden());
+}
+
+void tst_PropertyEditor::columnKeepersAndStretch()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" Column=\"1\"/>"), QString(),
+                                        QStringLiteral("<ColumnWidths><W Width=\"90\"/><W Width=\"0\"/>"
+                                                       "<W Width=\"60\"/></ColumnWidths>"))));
+    Build(editor);
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QGridLayout* grid = group->GetGridLayout();
+    QCOMPARE(grid->columnMinimumWidth(0), 90);
+    QCOMPARE(grid->columnStretch(0), 0);
+    QCOMPARE(grid->columnStretch(1), 100);
+    QCOMPARE(grid->columnStretch(2), 0);
+    QCOMPARE(grid->columnMinimumWidth(2), 60);
+    QCOMPARE(grid->contentsMargins(), QMargins(7, 1, 0, 0));
+    // Empty keepers sit in row 0 of the columns with a minimum width.
+    int keepers = 0;
+    for (int i = 0; i < grid->count(); ++i) {
+        QWidget* widget = grid->itemAt(i)->widget();
+        int row, column, rowSpan, columnSpan;
+        grid->getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
+        if (widget && qobject_cast<QHBoxLayout*>(widget->layout()) && widget->layout()->count() == 0) {
+            ++keepers;
+            QCOMPARE(row, 0);
+            QVERIFY(column == 0 || column == 2);
+        }
+    }
+    QCOMPARE(keepers, 2);
+
+    // A group without children keeps no columns.
+    PropertyEditor empty;
+    QVERIFY(empty.LoadUI(GroupDocument(QString())));
+    Build(empty);
+    QCOMPARE(qobject_cast<GroupElement*>(empty.FindElement(QStringLiteral("g")))->GetGridLayout()->count(), 0);
+}
+
+void tst_PropertyEditor::dividerMarks()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<GroupElement Id=\"first\"/><TextBoxElement/>"
+                                                       "<GroupElement Id=\"middle\"/><GroupElement Id=\"last\"/>"
+                                                       "<CheckBoxElement/>"))));
+    Build(editor);
+    auto mark = [&editor](const char* id) {
+        return qobject_cast<GroupElement*>(editor.FindElement(QString::fromLatin1(id)))->GetDividerMark();
+    };
+    QCOMPARE(mark("first"), int(GroupElement::NoDivider));
+    QCOMPARE(mark("middle"), int(GroupElement::DividerAbove));
+    QCOMPARE(mark("last"), int(GroupElement::DividerBelow));
+
+    auto dividers = [&editor](const char* id) {
+        QWidget* widget = qobject_cast<GroupElement*>(editor.FindElement(QString::fromLatin1(id)))->GetWidget();
+        auto* layout = qobject_cast<QVBoxLayout*>(widget->layout());
+        QString shape;
+        for (int i = 0; i < layout->count(); ++i) {
+            QWidget* item = layout->itemAt(i)->widget();
+            shape += qobject_cast<Divider*>(item) ? QLatin1Char('-') : qobject_cast<RolloutContainer*>(item) ? QLatin1Char('R') : QLatin1Char('?');
+        }
+        return shape;
+    };
+    QCOMPARE(dividers("first"), QStringLiteral("R"));
+    QCOMPARE(dividers("middle"), QStringLiteral("-R"));
+    QCOMPARE(dividers("last"), QStringLiteral("R-"));
+
+    // When the last child is a group, the groups keep their marks above.
+    PropertyEditor other;
+    QVERIFY(other.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement/><GroupElement Id=\"x\"/>"))));
+    Build(other);
+    QCOMPARE(qobject_cast<GroupElement*>(other.FindElement(QStringLiteral("x")))->GetDividerMark(),
+             int(GroupElement::DividerAbove));
+}
+
+void tst_PropertyEditor::buildIsDeferredToPaint()
+{
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\"/>"))));
+    QVERIFY(!editor.GetPage()->GetWidget());
+    QVERIFY(!editor.layout());
+    Build(editor);
+    QWidget* page = editor.GetPage()->GetWidget();
+    QVERIFY(page);
+    auto* layout = qobject_cast<QVBoxLayout*>(editor.layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins(5, 5, 0, 0));
+    QCOMPARE(layout->indexOf(page), 0);
+
+    // Nothing is rebuilt until something changes.
+    QWidget* text = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+    Build(editor);
+    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget(), text);
+
+    // Deleting an element removes its widget at once and replaces the rest at the next paint.
+    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    QPointer<QWidget> watched = text;
+    group->DeleteChild(0);
+    QVERIFY(watched.isNull());
+    QVERIFY(!editor.FindElement(QStringLiteral("t")));
+    Build(editor);
+    // A group without children keeps no columns either.
+    QCOMPARE(group->GetGridLayout()->count(), 0);
+}
+
+void tst_PropertyEditor::loadFileWithElementPath()
+{
+    QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("definitions.xml"));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"(<Definitions>
+  <Material LabelColumnWidth="77">
+    <PageElement><GroupElement Id="m"><TextBoxElement Id="name"/></GroupElement></PageElement>
+  </Material>
+  <Light><PageElement><CheckBoxElement Id="on"/></PageElement></Light>
+</Definitions>)");
+    file.close();
+
+    PropertyEditor editor;
+    QVERIFY(editor.LoadUIFile(fileName, QStringLiteral("Material"), QString()));
+    QCOMPARE(editor.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
+    QCOMPARE(editor.GetColumnWidth(0), 77);
+    QVERIFY(editor.FindElement(QStringLiteral("name")));
+    QVERIFY(!editor.FindElement(QStringLiteral("on")));
+
+    PropertyEditor absolute;
+    QVERIFY(absolute.LoadUIFile(fileName, QStringLiteral("/Definitions/Light"), QString()));
+    QVERIFY(absolute.FindElement(QStringLiteral("on")));
+
+    // The whole document has no PageElement of its own.
+    PropertyEditor whole;
+    QVERIFY(!whole.LoadUIFile(fileName, QString(), QString()));
+    QCOMPARE(whole.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
+}
+
+void tst_PropertyEditor::loadFileFailures()
+{
+    QTemporaryDir folder;
+    PropertyEditor editor;
+    QVERIFY(!editor.LoadUIFile(folder.filePath(QStringLiteral("missing.xml")), QString(), QString()));
+    QVERIFY(editor.GetUIFile().isEmpty());
+    QVERIFY(mMessages.isEmpty());
+
+    const QString fileName = folder.filePath(QStringLiteral("ok.xml"));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<Root><PageElement/></Root>");
+    file.close();
+    QVERIFY(!editor.LoadUIFile(fileName, QStringLiteral("Nowhere"), QString()));
+    // The file was open: it is recorded even though the path is missing.
+    QCOMPARE(editor.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
+    QVERIFY(editor.LoadUIFile(fileName, QString(), QString()));
+}
+
+void tst_PropertyEditor::labelColumnDragIsRemembered()
+{
+    QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("drag.xml"));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    // The control column stretches, so the label column is as wide as set.
+    file.write(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" Label=\"Name\" LabelPlacement=\"Left\"/>"),
+                             QStringLiteral("LabelColumnWidth=\"100\""),
+                             QStringLiteral("<ColumnWidths><W/><W Width=\"0\"/></ColumnWidths>"))
+                   .toUtf8());
+    file.close();
+
+    {
+        PropertyEditor editor;
+        editor.resize(500, 300);
+        QVERIFY(editor.LoadUIFile(fileName, QString(), QString()));
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&editor));
+        QTRY_VERIFY(editor.GetPage()->GetWidget());
+        auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+        QWidget* gridWidget = group->GetGridLayout()->parentWidget();
+        QWidget* text = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+        QTRY_VERIFY(text->isVisible() && text->x() > 100);
+        const int spacing = group->GetGridLayout()->horizontalSpacing();
+        // The controls start one spacing right of the label column.
+        QCOMPARE(text->x(), 7 + 100 + spacing);
+        const int edge = text->x() - (spacing + 1) / 2;
+        const int y = text->geometry().center().y();
+        QTest::mousePress(gridWidget, Qt::LeftButton, {}, QPoint(edge, y));
+        QTest::mouseMove(gridWidget, QPoint(edge + 40, y));
+        QTest::mouseRelease(gridWidget, Qt::LeftButton, {}, QPoint(edge + 40, y));
+        QVERIFY(qAbs(editor.GetColumnWidth(0) - 140) <= 1);
+        QCOMPARE(group->GetGridLayout()->columnMinimumWidth(0), editor.GetColumnWidth(0));
+    }
+    const int remembered = Internal::RememberedColumnWidths().value(
+        QFileInfo(fileName).absoluteFilePath() + QLatin1Char('\n'))[0];
+    QVERIFY(qAbs(remembered - 140) <= 1);
+
+    // The next editor of the same definition opens with the width; others don't.
+    PropertyEditor again;
+    QVERIFY(again.LoadUIFile(fileName, QString(), QString()));
+    QCOMPARE(again.GetColumnWidth(0), remembered);
+    PropertyEditor fromText;
+    QVERIFY(fromText.LoadUI(GroupDocument(QString(), QStringLiteral("LabelColumnWidth=\"100\""))));
+    QCOMPARE(fromText.GetColumnWidth(0), 100);
+
+    // Shutting the library down forgets them.
+    CoreUIManager::Uninitialize();
+    QVERIFY(Internal::RememberedColumnWidths().isEmpty());
+    CoreUIManager::Initialize(nullptr);
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+}
+
+void tst_PropertyEditor::namespaceUris_data()
+{
+    QTest::addColumn<QString>("uri");
+    QTest::addColumn<bool>("valid");
+    QTest::addColumn<QString>("ns");
+    QTest::addColumn<QString>("module");
+
+    QTest::newRow("library") << "namespace=Kavrel::UICore;module=KvUICore" << true << "Kavrel::UICore" << "KvUICore";
+    QTest::newRow("keys ignore case and blanks") << " NameSpace =Acme;; MODULE=AcmeElements;" << true << "Acme"
+                                                 << "AcmeElements";
+    QTest::newRow("one part") << "namespace=Acme" << false << "" << "";
+    QTest::newRow("three parts") << "namespace=A;module=B;extra=C" << false << "" << "";
+    QTest::newRow("swapped") << "module=B;namespace=A" << false << "" << "";
+    QTest::newRow("empty value") << "namespace=;module=B" << false << "" << "";
+    QTest::newRow("no equals") << "namespace;module=B" << false << "" << "";
+}
+
+void tst_PropertyEditor::namespaceUris()
+{
+    QFETCH(QString, uri);
+    QFETCH(bool, valid);
+    Internal::ElementNamespace ns;
+    QCOMPARE(Internal::ElementTypeRegistry::ParseNamespaceUri(uri, &ns), valid);
+    if (valid) {
+        QTEST(ns.msNamespace, "ns");
+        QTEST(ns.msModule, "module");
+    }
+}
+
+void tst_PropertyEditor::moduleNamesWithPathsAreRefused_data()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<bool>("acceptable");
+
+    QTest::newRow("bare name") << "AcmeElements" << true;
+    QTest::newRow("dotted name") << "acme.elements-2" << true;
+    QTest::newRow("absolute path") << "/tmp/evil" << false;
+    QTest::newRow("relative path") << "plugins/evil" << false;
+    QTest::newRow("parent folder") << "../evil" << false;
+    QTest::newRow("backslash") << "plugins\\evil" << false;
+    QTest::newRow("drive") << "C:evil" << false;
+    QTest::newRow("scheme") << "http://example.com/evil" << false;
+    QTest::newRow("file scheme") << "file:evil" << false;
+    QTest::newRow("dots only") << ".." << false;
+    QTest::newRow("blank") << "evil module" << false;
+    QTest::newRow("empty") << "" << false;
+}
+
+void tst_PropertyEditor::moduleNamesWithPathsAreRefused()
+{
+    QFETCH(QString, module);
+    QFETCH(bool, acceptable);
+    QCOMPARE(Internal::ElementTypeRegistry::IsAcceptableModuleName(module), acceptable);
+    if (acceptable)
+        return;
+    // A refused module is never loaded and says why.
+    QVERIFY(!Internal::ElementTypeRegistry::Instance().LoadModule(module));
+    QVERIFY(!Internal::ElementTypeRegistry::Instance().IsModuleLoaded(module));
+    QCOMPARE(mMessages.size(), 1);
+    QVERIFY(mMessages.first().contains(QStringLiteral("refused")));
+
+    mMessages.clear();
+    const QString uri = QStringLiteral("namespace=Acme;module=%1").arg(module);
+    if (Internal::ElementTypeRegistry::ParseNamespaceUri(uri, nullptr)) {
+        QVERIFY(!Internal::ElementTypeRegistry::Instance().Create(QStringLiteral("GroupElement"), uri));
+        QVERIFY(!Internal::ElementTypeRegistry::Instance().IsModuleLoaded(module));
+    }
+}
+
+void tst_PropertyEditor::foreignTypesNeedRegistration()
+{
+    Internal::ElementTypeRegistry& registry = Internal::ElementTypeRegistry::Instance();
+    // The library's own namespace names the bare kinds.
+    std::unique_ptr<PropertyEditorElement> group(
+        registry.Create(QStringLiteral("GroupElement"), QStringLiteral("namespace=Kavrel::UICore;module=KvUICore")));
+    QVERIFY(qobject_cast<GroupElement*>(group.get()));
+
+    // Another namespace prefixes the tag; a missing module is reported, not fatal.
+    PropertyEditorElement::RegisterElementType<StrictElement>("Acme::Strict");
+    std::unique_ptr<PropertyEditorElement> strict(
+        registry.Create(QStringLiteral("Strict"), QStringLiteral("namespace=Acme;module=AcmeMissingModule")));
+    QVERIFY(qobject_cast<StrictElement*>(strict.get()));
+    QVERIFY(!registry.IsModuleLoaded(QStringLiteral("AcmeMissingModule")));
+    QVERIFY(std::any_of(mMessages.cbegin(), mMessages.cend(),
+                        [](const QString& text) { return text.contains(QStringLiteral("could not be loaded")); }));
+    QVERIFY(!registry.Create(QStringLiteral("GroupElement"), QStringLiteral("namespace=Acme;module=KvUICore")));
+}
+
+QTEST_MAIN(tst_PropertyEditor)
+#include "tst_propertyeditor.moc"

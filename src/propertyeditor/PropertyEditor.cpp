@@ -1,0 +1,331 @@
+#include <KvUICore/propertyeditor/PropertyEditorImp.h>
+
+#include <KvUICore/core/LibraryHooks_p.h>
+#include <KvUICore/propertyeditor/GroupElementImp.h>
+#include <KvUICore/propertyeditor/PageElement.h>
+#include <KvUICore/propertyeditor/PropertyEditorContext.h>
+#include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
+#include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/util/XmlFiler.h>
+
+#include <QFileInfo>
+#include <QVBoxLayout>
+
+namespace Kavrel::UICore {
+
+namespace {
+
+// The key remembered column widths are kept under: the definition's file and
+// the element path inside it.
+QString DefinitionKey(const QString& absoluteFile, const QString& elementPath)
+{
+    QString path = elementPath.trimmed();
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return absoluteFile + QLatin1Char('\n') + path;
+}
+
+} // namespace
+
+// ---- PropertyEditorImp -------------------------------------------------------
+
+PropertyEditorImp::PropertyEditorImp(PropertyEditor* host)
+    : mpHost(host)
+{
+    // Hosts that never initialised the library can still build pages.
+    Internal::RegisterPropertyEditorElementTypes();
+    mpContext = new PropertyEditorContext(this);
+    mpContext->SetResolver([this](const QString& name) -> QObject* { return FindElement(name); });
+    mpPage = new PageElement();
+    PropertyEditorElementImp::Of(mpPage)->mpEditor = this;
+    RegisterSubtree(mpPage);
+}
+
+PropertyEditorImp::~PropertyEditorImp()
+{
+    // The page's bindings must not resolve through a context that is going away.
+    mpContext->SetResolver({});
+    delete mpPage;
+    mpPage = nullptr;
+    mNameIndex.clear();
+    delete mpContext;
+    mpContext = nullptr;
+}
+
+bool PropertyEditorImp::Load(XmlFiler& filer, const QString& translationFile)
+{
+    TranslationTable* table = translationFile.isEmpty() ? nullptr : TranslationTable::GetCached(translationFile);
+    filer.SetTranslationTable(table);
+    mpLoadTable = table;
+
+    filer.GoToDocumentElement();
+    SetColumnWidth(0, filer.ReadInt(QStringLiteral("LabelColumnWidth"), mColumnWidths[0]));
+
+    filer.RememberPosition();
+    if (filer.GoToFirstChild(QStringLiteral("ColumnWidths")) && filer.GetCurrentElement().hasChildNodes()) {
+        int column = 0;
+        for (bool more = filer.GoToFirstChild(); more; more = filer.GoToNextSibling(), ++column) {
+            const int current = column < 3 ? mColumnWidths[size_t(column)] : -1;
+            const int width = filer.ReadInt(QStringLiteral("Width"), current);
+            if (column < 3)
+                SetColumnWidth(column, width);
+        }
+    }
+    filer.RestorePosition();
+
+    bool result = false;
+    filer.RememberPosition();
+    if (filer.GoToFirstChild(QStringLiteral("PageElement"))) {
+        ++miLoadDepth;
+        result = PropertyEditorElementImp::Of(mpPage)->Load(filer);
+        --miLoadDepth;
+    }
+    filer.RestorePosition();
+    mpLoadTable = nullptr;
+
+    // Bindings that name elements defined further down resolve now.
+    mpContext->NotifyContextChanged();
+    ApplyColumnWidthsToGroups();
+    return result;
+}
+
+int PropertyEditorImp::GetColumnWidth(int column) const
+{
+    return column >= 0 && column < 3 ? mColumnWidths[size_t(column)] : -1;
+}
+
+void PropertyEditorImp::SetColumnWidth(int column, int width)
+{
+    if (column < 0 || column >= 3)
+        return;
+    if (width == 0) {
+        // Only one column stretches.
+        for (int other = 0; other < 3; ++other) {
+            if (other != column && mColumnWidths[size_t(other)] == 0)
+                return;
+        }
+    }
+    mColumnWidths[size_t(column)] = width;
+}
+
+void PropertyEditorImp::SetLabelColumnWidthByUser(int width)
+{
+    width = qMax(width, 1);
+    if (width == mColumnWidths[0])
+        return;
+    SetColumnWidth(0, width);
+    ApplyColumnWidthsToGroups();
+    if (!msDefinitionKey.isEmpty())
+        Internal::RememberedColumnWidths().insert(msDefinitionKey, mColumnWidths);
+}
+
+void PropertyEditorImp::ApplyColumnWidthsToGroups()
+{
+    QList<PropertyEditorElement*> pending{mpPage};
+    while (!pending.isEmpty()) {
+        PropertyEditorElement* element = pending.takeLast();
+        if (auto* group = qobject_cast<GroupElement*>(element))
+            GroupElementApplyColumnWidths(group, mColumnWidths);
+        for (int i = 0; i < element->GetChildCount(); ++i)
+            pending.append(element->GetChild(i));
+    }
+}
+
+void PropertyEditorImp::Invalidate()
+{
+    if (miFlags & InvalidFlag)
+        return;
+    miFlags |= InvalidFlag;
+    mpHost->update();
+}
+
+void PropertyEditorImp::Rebuild()
+{
+    if (!(miFlags & InvalidFlag) || (miFlags & BuildingFlag))
+        return;
+    miFlags |= BuildingFlag;
+    PropertyEditorElementImp::Of(mpPage)->BuildWidgetTree(mpHost);
+    if (!mpHost->layout()) {
+        auto* layout = new QVBoxLayout();
+        layout->setContentsMargins(5, 5, 0, 0);
+        mpHost->setLayout(layout);
+        layout->addWidget(mpPage->GetWidget());
+    }
+    miFlags &= ~quint32(InvalidFlag | BuildingFlag);
+}
+
+void PropertyEditorImp::RegisterSubtree(PropertyEditorElement* element)
+{
+    const QString id = element->GetId();
+    if (!id.isEmpty())
+        mNameIndex[id.toLower()].append(element);
+    for (int i = 0; i < element->GetChildCount(); ++i)
+        RegisterSubtree(element->GetChild(i));
+}
+
+void PropertyEditorImp::UnregisterSubtree(PropertyEditorElement* element)
+{
+    const QString id = element->GetId();
+    if (!id.isEmpty()) {
+        const auto it = mNameIndex.find(id.toLower());
+        if (it != mNameIndex.end()) {
+            it->removeOne(element);
+            if (it->isEmpty())
+                mNameIndex.erase(it);
+        }
+    }
+    for (int i = 0; i < element->GetChildCount(); ++i)
+        UnregisterSubtree(element->GetChild(i));
+}
+
+void PropertyEditorImp::Rename(PropertyEditorElement* element, const QString& oldId, const QString& newId)
+{
+    if (!oldId.isEmpty()) {
+        const auto it = mNameIndex.find(oldId.toLower());
+        if (it != mNameIndex.end()) {
+            it->removeOne(element);
+            if (it->isEmpty())
+                mNameIndex.erase(it);
+        }
+    }
+    if (!newId.isEmpty())
+        mNameIndex[newId.toLower()].append(element);
+    // A binding may have been waiting for this name. During a load all of
+    // them are resolved once at its end.
+    if (miLoadDepth == 0 && !newId.isEmpty())
+        mpContext->NotifyContextChanged();
+}
+
+PropertyEditorElement* PropertyEditorImp::FindElement(const QString& id) const
+{
+    if (id.isEmpty())
+        return nullptr;
+    const auto it = mNameIndex.constFind(id.toLower());
+    if (it == mNameIndex.constEnd() || it->isEmpty())
+        return nullptr;
+    if (it->size() == 1)
+        return it->first();
+    // Names given twice through SetId: the first in tree order wins.
+    QList<PropertyEditorElement*> pending{mpPage};
+    while (!pending.isEmpty()) {
+        PropertyEditorElement* element = pending.takeFirst();
+        if (it->contains(element))
+            return element;
+        for (int i = element->GetChildCount() - 1; i >= 0; --i)
+            pending.prepend(element->GetChild(i));
+    }
+    return nullptr;
+}
+
+bool PropertyEditorImp::IsNameTaken(const QString& id) const
+{
+    return !id.isEmpty() && mNameIndex.contains(id.toLower());
+}
+
+void PropertyEditorImp::ReportPropertyModified(PropertyEditorElement* element, const QString& attribute)
+{
+    emit mpHost->PropertyModified(element, attribute);
+}
+
+// ---- PropertyEditor ----------------------------------------------------------
+
+PropertyEditor::PropertyEditor(QWidget* parent)
+    : QWidget(parent)
+    , mpImp(std::make_unique<PropertyEditorImp>(this))
+{
+}
+
+PropertyEditor::~PropertyEditor() = default;
+
+bool PropertyEditor::LoadUI(const QString& uiDefinition, const QString& translationFile)
+{
+    XmlFiler filer;
+    if (!filer.Parse(uiDefinition))
+        return false;
+    return mpImp->Load(filer, translationFile);
+}
+
+bool PropertyEditor::LoadUIFile(const QString& fileName, const QString& elementPath, const QString& translationFile)
+{
+    XmlFiler file;
+    if (!file.Open(fileName))
+        return false;
+    mpImp->msUIFile = QFileInfo(fileName).absoluteFilePath();
+    if (!file.GoToPath(elementPath))
+        return false;
+    // The element found plays the part of the document element.
+    XmlFiler filer;
+    if (!filer.Parse(file.ReadOuterXml()))
+        return false;
+    mpImp->msDefinitionKey = DefinitionKey(mpImp->msUIFile, elementPath);
+    const bool result = mpImp->Load(filer, translationFile);
+    const auto remembered = Internal::RememberedColumnWidths().constFind(mpImp->msDefinitionKey);
+    if (remembered != Internal::RememberedColumnWidths().constEnd()) {
+        mpImp->mColumnWidths = *remembered;
+        mpImp->ApplyColumnWidthsToGroups();
+    }
+    return result;
+}
+
+QString PropertyEditor::GetUIFile() const
+{
+    return mpImp->msUIFile;
+}
+
+PageElement* PropertyEditor::GetPage() const
+{
+    return mpImp->mpPage;
+}
+
+QObject* PropertyEditor::FindElement(const QString& id) const
+{
+    return mpImp->FindElement(id);
+}
+
+void PropertyEditor::SetContextObject(QObject* object)
+{
+    mpImp->mpContext->SetContextObject(object);
+}
+
+void PropertyEditor::SetContextObject(const QString& name, QObject* object)
+{
+    mpImp->mpContext->SetContextObject(name, object);
+}
+
+QObject* PropertyEditor::GetContextObject() const
+{
+    return mpImp->mpContext->GetContextObject();
+}
+
+QObject* PropertyEditor::GetContextObject(const QString& name) const
+{
+    return mpImp->mpContext->GetContextObject(name);
+}
+
+PropertyEditorContext* PropertyEditor::GetContext() const
+{
+    return mpImp->mpContext;
+}
+
+int PropertyEditor::GetColumnWidth(int column) const
+{
+    return mpImp->GetColumnWidth(column);
+}
+
+void PropertyEditor::SetColumnWidth(int column, int width)
+{
+    mpImp->SetColumnWidth(column, width);
+    mpImp->ApplyColumnWidthsToGroups();
+}
+
+void PropertyEditor::Invalidate()
+{
+    mpImp->Invalidate();
+}
+
+void PropertyEditor::paintEvent(QPaintEvent* event)
+{
+    mpImp->Rebuild();
+    QWidget::paintEvent(event);
+}
+
+} // namespace Kavrel::UICore

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class PageElement;
+class PropertyEditorContext;
+class PropertyEditorElement;
+class PropertyEditorImp;
+
+// A form built from an XML UI definition and bound to properties of the
+// host's objects.
+//
+// A definition's document element may carry LabelColumnWidth and a
+// ColumnWidths child (one child per column, each with Width), and holds one
+// PageElement with the page's elements: panels, groups and controls. Each
+// group lays out its children in a grid of a label column and two control
+// columns. Attribute values are literals, tr(id) texts translated through the
+// translation table the load names, or binding expressions such as
+// Binding(Roughness) resolved against the editor's context objects (and the
+// page's elements, by Id).
+//
+// Loading adds to the page; the widgets are built at the next paint.
+//
+// Column widths: -1 leaves a column unset, 0 makes it stretch (only one column
+// may), a positive width is the column's minimum width in pixels. The user can
+// drag the right edge of the label column; the width the user chose is kept
+// for the rest of the process for the definition file and element path that
+// was loaded, and later editors loading that definition start with it.
+class KVUICORE_EXPORT PropertyEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PropertyEditor(QWidget* parent = nullptr);
+    ~PropertyEditor() override;
+
+    // Loads a whole definition document given as text; translationFile names
+    // the translation table for tr(id) texts (may be empty). False for text
+    // that is not well-formed XML, or when the load fails.
+    bool LoadUI(const QString& uiDefinition, const QString& translationFile = QString());
+    // Loads from a file; elementPath selects the element that plays the part
+    // of the document element (empty: the document element itself).
+    bool LoadUIFile(const QString& fileName, const QString& elementPath = QString(),
+                    const QString& translationFile = QString());
+    // The absolute path of the last file LoadUIFile could open.
+    QString GetUIFile() const;
+
+    PageElement* GetPage() const;
+    // The element of the page with that Id (without regard to case), or null.
+    QObject* FindElement(const QString& id) const;
+
+    void SetContextObject(QObject* object);
+    void SetContextObject(const QString& name, QObject* object);
+    QObject* GetContextObject() const;
+    QObject* GetContextObject(const QString& name) const;
+    // The context that the page's bindings resolve against.
+    PropertyEditorContext* GetContext() const;
+
+    // The width of column 0 (labels), 1 or 2; -1 for other columns.
+    int GetColumnWidth(int column) const;
+    // Sets a column's width (ignored for other columns; 0 is refused while
+    // another column stretches) and applies it to the built groups.
+    void SetColumnWidth(int column, int width);
+
+    // Marks the page for rebuilding at the next paint.
+    void Invalidate();
+
+Q_SIGNALS:
+    // An edit through an element has modified a bound property.
+    void PropertyModified(PropertyEditorElement* element, QString propName);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(PropertyEditor)
+    friend class PropertyEditorImp;
+    std::unique_ptr<PropertyEditorImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
