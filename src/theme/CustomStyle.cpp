@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QHash>
+#include <QIcon>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
@@ -64,6 +66,17 @@ QColor Color(const QString& key)
 QBrush Brush(const QString& key, const QRectF& rect)
 {
     return Themes()->GetBrush(key, rect.toAlignedRect());
+}
+
+// Icons named by path in the theme, built once: a QIcon keeps its rendered
+// pixmaps, so painting again neither reads nor parses the file.
+const QIcon& IconForPath(const QString& path)
+{
+    static QHash<QString, QIcon> icons;
+    auto it = icons.find(path);
+    if (it == icons.end())
+        it = icons.insert(path, QIcon(path));
+    return it.value();
 }
 
 bool IsDropDownMenu(const QWidget* widget)
@@ -782,10 +795,9 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     const qreal ratio = painter->device()->devicePixelRatioF();
     if (item->menuHasCheckableItems || item->checkType != QStyleOptionMenuItem::NotCheckable) {
         if (item->checked && item->checkType != QStyleOptionMenuItem::NotCheckable) {
-            const QImage mark = QIcon(themes->GetString(ThemeFileKey::CheckMarkIcon))
-                                    .pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio)
-                                    .toImage();
-            painter->drawImage(QRect(r.left() + 2, iconTop, kMenuColumnWidth, kMenuColumnWidth), mark);
+            const QPixmap mark = IconForPath(themes->GetString(ThemeFileKey::CheckMarkIcon))
+                                     .pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio);
+            painter->drawPixmap(QRect(r.left() + 2, iconTop, kMenuColumnWidth, kMenuColumnWidth), mark);
         }
         ++columns;
     }

@@ -216,9 +216,11 @@ private:
         return grid;
     }
 
-    QHBoxLayout* CutTexts()
+    QVBoxLayout* CutTexts()
     {
+        auto* column = new QVBoxLayout;
         auto* row = new QHBoxLayout;
+        column->addLayout(row);
         auto* label = new Label(Tr("A label whose text is much too long for its width"), this);
         label->setFixedWidth(150);
         auto* withPixmap = new Label(Tr("Label with a right pixmap that is cut"), this);
@@ -242,7 +244,15 @@ private:
                                 static_cast<QWidget*>(fits)})
             row->addWidget(widget);
         row->addStretch(1);
-        return row;
+
+        // What hovering the cut check box would show, kept in view.
+        auto* tip = new TextLabel(this);
+        tip->SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+        const auto showTip = [tip, check] { tip->setText(Tr("Tool tip of the cut check box: %1").arg(check->toolTip())); };
+        connect(check, &CheckBox::ToolTipChanged, tip, showTip);
+        showTip();
+        column->addWidget(tip);
+        return column;
     }
 
     QHBoxLayout* TilesAndProgress()
