@@ -537,6 +537,11 @@ void tst_CustomStyle::toolButtonFocusOutline()
     const int top = Probe::DeviceCeil(image, 1);
     for (int i = 0; i < b; ++i)
         PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), focus);
+    // One pixel in from the right edge too.
+    const int right = Probe::DeviceFloor(image, button.width() - 1) - 1;
+    const int middle = image.height() / 2;
+    PROBE_COMPARE_COLOR(Probe::Pixel(image, right, middle), focus);
+    PROBE_COMPARE_COLOR(Probe::Pixel(image, Probe::DeviceCeil(image, 1), middle), focus);
     const bool wideMargin = Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1;
     const QColor outer = Probe::Pixel(image, column, 0);
     if (wideMargin)

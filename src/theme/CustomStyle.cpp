@@ -470,14 +470,13 @@ void CustomStyle::DrawToolButton(const QStyleOptionComplex* option, QPainter* pa
     }
 
     if (WidgetHasFocus(option, widget)) {
-        const QRect r = option->rect;
+        // The outlines cover the pixels from top-left + (1, 1) to bottom-right
+        // - (1, 1), and with a wide margin also the outermost ring.
+        const QRectF r = option->rect;
         const QColor focus = Color(ThemeFileKey::DropDownButtonFocusOutline);
-        StrokeOutline(painter, StrokeRect(painter, QRectF(QPointF(r.topLeft() + QPoint(1, 1)),
-                                                          QPointF(r.bottomRight() - QPoint(1, 1))), grid),
-                      focus, grid);
+        StrokeOutline(painter, StrokeRect(painter, r.adjusted(1, 1, -1, -1), grid), focus, grid);
         if (Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1)
-            StrokeOutline(painter, StrokeRect(painter, QRectF(QPointF(r.topLeft()), QPointF(r.bottomRight())), grid),
-                          focus, grid);
+            StrokeOutline(painter, StrokeRect(painter, r, grid), focus, grid);
     }
 
     QStyleOptionToolButton label = *button;
