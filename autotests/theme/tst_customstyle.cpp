@@ -20,18 +20,15 @@
 
 using namespace Kavrel::UICore;
 
-namespace Kavrel::UICore {
-// Stands in for the drop-down's menu, which the style recognises by class name.
+namespace {
+
+// A menu the style treats as the drop-down's menu.
 class DropDownMenu : public QMenu
 {
-    Q_OBJECT
 public:
-    using QMenu::QMenu;
+    DropDownMenu() { setProperty(CustomStyle::DropDownMenuProperty, true); }
     using QMenu::initStyleOption;
 };
-} // namespace Kavrel::UICore
-
-namespace {
 
 enum class Look
 {

@@ -81,7 +81,9 @@ const QIcon& IconForPath(const QString& path)
 
 bool IsDropDownMenu(const QWidget* widget)
 {
-    return widget && widget->inherits(CustomStyle::DropDownMenuClassName);
+    return widget
+           && (widget->inherits(CustomStyle::DropDownMenuClassName)
+               || widget->property(CustomStyle::DropDownMenuProperty).toBool());
 }
 
 bool WidgetEnabled(const QStyleOption* option, const QWidget* widget)
