@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStyleFactory>
+#include <QScopeGuard>
 #include <QStyleOption>
 #include <QtTest>
 
@@ -346,22 +347,29 @@ void tst_CustomStyle::spinBoxEditFieldLosesOnePixel()
 
 void tst_CustomStyle::checkBoxIndicatorFollowsState_data()
 {
+    QTest::addColumn<QString>("theme");
     QTest::addColumn<Look>("look");
     QTest::addColumn<bool>("checked");
-    for (const bool checked : {false, true}) {
-        const char* suffix = checked ? " checked" : " unchecked";
-        QTest::newRow(qPrintable(QStringLiteral("normal") + suffix)) << Look::Normal << checked;
-        QTest::newRow(qPrintable(QStringLiteral("hovered") + suffix)) << Look::Hovered << checked;
-        QTest::newRow(qPrintable(QStringLiteral("sunken") + suffix)) << Look::Sunken << checked;
-        QTest::newRow(qPrintable(QStringLiteral("focused") + suffix)) << Look::Focused << checked;
-        QTest::newRow(qPrintable(QStringLiteral("disabled") + suffix)) << Look::Disabled << checked;
+    // HIGLight defines the optional ring colours, Light does not.
+    for (const char* theme : {"Light", "HIGLight"}) {
+        for (const bool checked : {false, true}) {
+            const QString suffix = QLatin1String(checked ? " checked, " : " unchecked, ") + QLatin1String(theme);
+            QTest::newRow(qPrintable(QStringLiteral("normal") + suffix)) << QString::fromLatin1(theme) << Look::Normal << checked;
+            QTest::newRow(qPrintable(QStringLiteral("hovered") + suffix)) << QString::fromLatin1(theme) << Look::Hovered << checked;
+            QTest::newRow(qPrintable(QStringLiteral("sunken") + suffix)) << QString::fromLatin1(theme) << Look::Sunken << checked;
+            QTest::newRow(qPrintable(QStringLiteral("focused") + suffix)) << QString::fromLatin1(theme) << Look::Focused << checked;
+            QTest::newRow(qPrintable(QStringLiteral("disabled") + suffix)) << QString::fromLatin1(theme) << Look::Disabled << checked;
+        }
     }
 }
 
 void tst_CustomStyle::checkBoxIndicatorFollowsState()
 {
+    QFETCH(QString, theme);
     QFETCH(Look, look);
     QFETCH(bool, checked);
+    QVERIFY(Themes()->SetCurrentTheme(theme));
+    const auto restore = qScopeGuard([] { Themes()->SetCurrentTheme(QStringLiteral("Light")); });
     ProbeCheckBox box(QStringLiteral("Probe"));
     box.setChecked(checked);
     box.resize(120, 24);
