@@ -1,0 +1,595 @@
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/DropDown.h>
+#include <KvUICore/widgets/DropDownMenu.h>
+#include <KvUICore/widgets/ItemGroup.h>
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenu>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <functional>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+QColor themeColor(const QString& key)
+{
+    return ThemeManager::GetInstance()->GetColor(key);
+}
+
+QColor pixelAt(const QImage& image, QPoint logical)
+{
+    const qreal ratio = image.devicePixelRatio();
+    return image.pixelColor(qRound(logical.x() * ratio), qRound(logical.y() * ratio));
+}
+
+QIcon solidIcon(const QColor& color)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(color);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+class tst_DropDown : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void setCurrentIndexAnnouncesEveryChange();
+    void itemsJoinNumberedGroupsWithSeparators();
+    void groupIdOutOfRangeAddsNothing();
+    void insertAndRemoveKeepTheCurrentItem();
+    void labelTextRules_data();
+    void labelTextRules();
+    void groupExclusiveness();
+    void checkedItemsAndHiddenGroups();
+    void findAndData();
+    void subMenus();
+    void keyboardOpensMenuAndChoosingCurrentItemOnlyTriggers();
+    void choosingAnotherItemChangesTheCurrentIndex();
+    void menuOpensAlignedToTheButton_data();
+    void menuOpensAlignedToTheButton();
+    void deletingFromTriggeredSlotWhileMenuOpen_data();
+    void deletingFromTriggeredSlotWhileMenuOpen();
+    void sizeHints();
+    void paintsButtonAndMenuFromTheme_data();
+    void paintsButtonAndMenuFromTheme();
+
+private:
+    DropDown* shownDropDown();
+    // Runs step on the active popup once it is up, from inside the menu's modal loop.
+    void whenPopupShows(std::function<void(QMenu*)> step);
+    QList<QWidget*> mWidgets;
+    QPointer<QTimer> mpPopupTimer;
+};
+
+void tst_DropDown::initTestCase()
+{
+    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+void tst_DropDown::cleanup()
+{
+    if (mpPopupTimer)
+        delete mpPopupTimer.data();
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+    qDeleteAll(mWidgets);
+    mWidgets.clear();
+}
+
+DropDown* tst_DropDown::shownDropDown()
+{
+    auto* window = new QWidget;
+    mWidgets << window;
+    auto* layout = new QVBoxLayout(window);
+    auto* dropDown = new DropDown(window);
+    layout->addWidget(dropDown);
+    layout->addStretch();
+    window->setGeometry(200, 200, 220, 120);
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window))
+        return nullptr;
+    dropDown->setFocus();
+    return dropDown;
+}
+
+void tst_DropDown::whenPopupShows(std::function<void(QMenu*)> step)
+{
+    auto* timer = new QTimer(this);
+    mpPopupTimer = timer;
+    timer->setInterval(10);
+    connect(timer, &QTimer::timeout, this, [timer, step] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu || !menu->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        step(menu);
+    });
+    timer->start();
+}
+
+void tst_DropDown::setCurrentIndexAnnouncesEveryChange()
+{
+    DropDown dropDown;
+    dropDown.AddItem(QStringLiteral("One"));
+    dropDown.AddItem(QStringLiteral("Two"));
+    QSignalSpy changed(&dropDown, &DropDown::CurrentIndexChanged);
+    QCOMPARE(dropDown.GetCurrentIndex(), -1);
+
+    dropDown.SetCurrentIndex(1);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.last(), (QList<QVariant>{1, -1}));
+    QCOMPARE(dropDown.text(), QStringLiteral("Two"));
+
+    dropDown.SetCurrentIndex(1);
+    QCOMPARE(changed.count(), 1);
+
+    // No range check: any other value is stored and announced.
+    dropDown.SetCurrentIndex(42);
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(changed.last(), (QList<QVariant>{42, 1}));
+    QCOMPARE(dropDown.GetCurrentIndex(), 42);
+    QCOMPARE(dropDown.GetCurrentText(), QString());
+}
+
+void tst_DropDown::itemsJoinNumberedGroupsWithSeparators()
+{
+    DropDown dropDown;
+    QVERIFY(dropDown.AddItem(0, QStringLiteral("a")));
+    QVERIFY(dropDown.AddItem(0, QStringLiteral("b")));
+    QVERIFY(dropDown.AddItem(1, QStringLiteral("c")));
+    // a, b, separator, c
+    QCOMPARE(dropDown.Count(), 4);
+    QVERIFY(dropDown.GetActions().at(2)->isSeparator());
+    QCOMPARE(dropDown.ItemIndexInMenu(1, 0), 3);
+    QCOMPARE(dropDown.GetGroupId(0), 0);
+    QCOMPARE(dropDown.GetGroupId(3), 1);
+    QCOMPARE(dropDown.GetGroupId(-1), -1);
+    QCOMPARE(dropDown.GetGroupId(4), -1);
+
+    // An item added to an earlier group goes before that group's separator.
+    QVERIFY(dropDown.AddItem(0, QStringLiteral("d")));
+    QCOMPARE(dropDown.GetItemText(2), QStringLiteral("d"));
+    QVERIFY(dropDown.GetActions().at(3)->isSeparator());
+    QCOMPARE(dropDown.GetItemText(4), QStringLiteral("c"));
+
+    // The group-less forms add to the last group.
+    QVERIFY(dropDown.AddItem(QStringLiteral("e")));
+    QCOMPARE(dropDown.GetGroupId(5), 1);
+    QCOMPARE(dropDown.GetActionGroup(1)->actions().size(), 2);
+    QVERIFY(!dropDown.GetActionGroup(2));
+
+    dropDown.SetGroupSeparatorVisible(false, 0);
+    QVERIFY(!dropDown.IsGroupSeparatorVisible(0));
+    QVERIFY(!dropDown.GetActions().at(3)->isVisible());
+    dropDown.SetGroupSeparatorVisible(true, 0);
+    QVERIFY(dropDown.GetActions().at(3)->isVisible());
+
+    // A group of labels needs no separator after it.
+    dropDown.SetItemType(DropDown::GroupLabelItem, 0);
+    QVERIFY(!dropDown.GetActions().at(3)->isVisible());
+    QVERIFY(DropDownMenu::IsGroupLabel(dropDown.GetActions().at(0)));
+    QVERIFY(!dropDown.GetActions().at(0)->isEnabled());
+}
+
+void tst_DropDown::groupIdOutOfRangeAddsNothing()
+{
+    DropDown dropDown;
+    QVERIFY(!dropDown.AddItem(1, QStringLiteral("no group 0 yet")));
+    QVERIFY(!dropDown.AddItem(-1, QStringLiteral("negative")));
+    QCOMPARE(dropDown.Count(), 0);
+    QVERIFY(dropDown.AddItem(0, QStringLiteral("a")));
+    QVERIFY(dropDown.AddItem(1, QStringLiteral("b")));
+    // Two groups: id 2 makes a third, id 4 is two above and adds nothing.
+    QVERIFY(!dropDown.AddItem(4, QStringLiteral("c")));
+    QCOMPARE(dropDown.Count(), 3);
+    QAction action(QStringLiteral("x"));
+    QVERIFY(!dropDown.AddAction(&action, 3));
+    QVERIFY(!dropDown.AddSeparator(5));
+    QCOMPARE(dropDown.AddMenu(7, QIcon(), QStringLiteral("sub")), -1);
+    QCOMPARE(dropDown.Count(), 3);
+}
+
+void tst_DropDown::insertAndRemoveKeepTheCurrentItem()
+{
+    DropDown dropDown;
+    dropDown.AddItem(QStringLiteral("a"));
+    QAction* b = dropDown.AddItem(QStringLiteral("b"));
+    dropDown.SetCurrentIndex(1);
+    QSignalSpy changed(&dropDown, &DropDown::CurrentIndexChanged);
+
+    QVERIFY(dropDown.InsertItem(0, QStringLiteral("first"), 7));
+    QCOMPARE(dropDown.GetCurrentIndex(), 2);
+    QCOMPARE(dropDown.GetCurrentText(), QStringLiteral("b"));
+    QCOMPARE(dropDown.ItemData(0), QVariant(7));
+
+    QAction external(QStringLiteral("external"));
+    QVERIFY(dropDown.InsertAction(b, &external));
+    QCOMPARE(dropDown.GetItemText(2), QStringLiteral("external"));
+    QCOMPARE(dropDown.GetCurrentText(), QStringLiteral("b"));
+    QCOMPARE(changed.count(), 0);
+
+    dropDown.RemoveAction(&external);
+    QCOMPARE(dropDown.GetCurrentIndex(), 2);
+    QCOMPARE(changed.count(), 0);
+    dropDown.RemoveAction(b);
+    QCOMPARE(dropDown.GetCurrentIndex(), -1);
+    QCOMPARE(changed.count(), 1);
+
+    dropDown.ClearItems();
+    QCOMPARE(dropDown.Count(), 0);
+    QCOMPARE(dropDown.text(), QString());
+    // The host's action survives.
+    QCOMPARE(external.text(), QStringLiteral("external"));
+}
+
+void tst_DropDown::labelTextRules_data()
+{
+    QTest::addColumn<int>("itemType");
+    QTest::addColumn<bool>("forceDisplay");
+    QTest::addColumn<bool>("iconOnly");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("normal item") << int(DropDown::NormalItem) << false << false << "Second";
+    QTest::newRow("checkable item") << int(DropDown::CheckableItem) << false << false << "Options";
+    QTest::newRow("command item") << int(DropDown::CommandItem) << false << false << "Options";
+    QTest::newRow("forced text") << int(DropDown::NormalItem) << true << false << "Options";
+    QTest::newRow("icon only") << int(DropDown::NormalItem) << false << true << "Options";
+    QTest::newRow("type above the known ones") << 5 << false << false << "Second";
+}
+
+void tst_DropDown::labelTextRules()
+{
+    QFETCH(int, itemType);
+    QFETCH(bool, forceDisplay);
+    QFETCH(bool, iconOnly);
+    QFETCH(QString, shown);
+
+    DropDown dropDown;
+    dropDown.AddItem(0, QStringLiteral("First"));
+    dropDown.AddItem(0, solidIcon(Qt::red), QStringLiteral("Second"));
+    dropDown.SetItemType(DropDown::ItemType(itemType), 0);
+    dropDown.SetDisplayedText(QStringLiteral("Options"));
+    dropDown.EnableForceDisplayText(forceDisplay);
+    dropDown.SetIconOnly(iconOnly);
+    dropDown.SetCurrentIndex(1);
+    QCOMPARE(dropDown.text(), shown);
+    if (iconOnly)
+        QVERIFY(dropDown.IsDropDownWithIcon());
+}
+
+void tst_DropDown::groupExclusiveness()
+{
+    DropDown dropDown;
+    QVERIFY(!dropDown.GetGroupItemExclusive(0));
+    dropDown.AddItem(0, QStringLiteral("a"));
+    dropDown.AddItem(0, QStringLiteral("b"));
+    QVERIFY(dropDown.GetGroupItemExclusive(0));
+    dropDown.SetItemType(DropDown::CheckableItem, 0);
+    QCOMPARE(dropDown.GetItemType(0), DropDown::CheckableItem);
+    QVERIFY(dropDown.GetGroupItemExclusive(0));
+    dropDown.SetGroupItemExclusive(0, false);
+    QVERIFY(!dropDown.GetGroupItemExclusive(0));
+    dropDown.SetGroupItemExclusive(true);
+    QVERIFY(dropDown.GetGroupItemExclusive(0));
+    QVERIFY(!dropDown.GetGroupItemExclusive(1));
+    // Only checkable groups read their action group.
+    dropDown.SetItemType(DropDown::CommandItem, 0);
+    dropDown.SetGroupItemExclusive(0, false);
+    QVERIFY(dropDown.GetGroupItemExclusive(0));
+}
+
+void tst_DropDown::checkedItemsAndHiddenGroups()
+{
+    DropDown dropDown;
+    dropDown.AddItem(0, QStringLiteral("a"));
+    dropDown.AddItem(1, QStringLiteral("b"));
+    dropDown.AddItem(1, QStringLiteral("c"));
+    dropDown.SetItemType(DropDown::CheckableItem, 1);
+    dropDown.SetCheckedItem(1, 0);
+    QVERIFY(dropDown.GetActions().at(2)->isChecked());
+    dropDown.SetCheckedItemByIndex(3);
+    QVERIFY(dropDown.GetActions().at(3)->isChecked());
+    QVERIFY(!dropDown.GetActions().at(2)->isChecked());
+
+    // An unchecked action joins unchecked and non-checkable; a checked one stays checked.
+    QAction checked(QStringLiteral("checked"));
+    checked.setCheckable(true);
+    checked.setChecked(true);
+    QAction plain(QStringLiteral("plain"));
+    plain.setCheckable(true);
+    dropDown.AddAction(&checked, 2);
+    dropDown.AddAction(&plain, 2);
+    QVERIFY(checked.isChecked());
+    QVERIFY(!plain.isCheckable());
+
+    dropDown.HideOrShowItemGroup(1, false);
+    QVERIFY(!dropDown.GetActions().at(2)->isVisible());
+    QVERIFY(!dropDown.GetActions().at(3)->isVisible());
+    // The hidden group's separator goes too; the first group's stays.
+    QVERIFY(!dropDown.GetActions().at(4)->isVisible());
+    QVERIFY(dropDown.GetActions().at(1)->isVisible());
+    dropDown.HideOrShowItemGroup(1, true);
+    QVERIFY(dropDown.GetActions().at(2)->isVisible());
+    QVERIFY(dropDown.GetActions().at(4)->isVisible());
+}
+
+void tst_DropDown::findAndData()
+{
+    DropDown dropDown;
+    dropDown.AddItem(QStringLiteral("Metre"), QStringLiteral("m"));
+    dropDown.AddItem(solidIcon(Qt::blue), QStringLiteral("Foot"), QStringLiteral("ft"));
+    QCOMPARE(dropDown.FindData(QStringLiteral("ft")), 1);
+    QCOMPARE(dropDown.FindData(QStringLiteral("Metre"), Qt::DisplayRole), 0);
+    QCOMPARE(dropDown.FindData(QStringLiteral("in")), -1);
+    QCOMPARE(dropDown.FindText(QStringLiteral("foot")), -1);
+    QCOMPARE(dropDown.FindText(QStringLiteral("foot"), Qt::CaseInsensitive), 1);
+    QVERIFY(!dropDown.GetItemIcon(1).isNull());
+    dropDown.SetItemData(0, 3);
+    QCOMPARE(dropDown.ItemData(0), QVariant(3));
+    dropDown.SetCurrentIndex(0);
+    dropDown.SetItemText(0, QStringLiteral("Metres"));
+    QCOMPARE(dropDown.text(), QStringLiteral("Metres"));
+    QCOMPARE(dropDown.ItemData(9), QVariant());
+}
+
+void tst_DropDown::subMenus()
+{
+    DropDown dropDown;
+    dropDown.AddItem(0, QStringLiteral("a"));
+    const int menuIndex = dropDown.AddMenu(1, QIcon(), QStringLiteral("More"));
+    QCOMPARE(menuIndex, 2);
+    QAction* x = dropDown.AddSubMenuItem(menuIndex, QStringLiteral("x"), 1);
+    QAction* y = dropDown.AddSubMenuItem(menuIndex, solidIcon(Qt::green), QStringLiteral("y"), 2);
+    QVERIFY(x && y);
+    QVERIFY(!dropDown.AddSubMenuItem(0, QStringLiteral("not a sub-menu")));
+    QCOMPARE(x->data(), QVariant(1));
+    auto* subMenu = qobject_cast<DropDownMenu*>(dropDown.GetActions().at(menuIndex)->menu());
+    QVERIFY(subMenu);
+
+    dropDown.HideOrShowSubMenuItem(menuIndex, 0, false);
+    QVERIFY(!x->isVisible());
+    dropDown.HideOrShowSubMenuItem(menuIndex, QVariant(2), false);
+    QVERIFY(!y->isVisible());
+    dropDown.HideOrShowSubMenuItem(menuIndex, 0, true);
+    QVERIFY(x->isVisible());
+    dropDown.EnableSubMenu(menuIndex, false);
+    QVERIFY(!subMenu->menuAction()->isEnabled());
+
+    // A sub-menu item announces itself but is no item of the drop-down.
+    dropDown.SetCurrentIndex(0);
+    QSignalSpy triggered(&dropDown, &DropDown::Triggered);
+    QSignalSpy changed(&dropDown, &DropDown::CurrentIndexChanged);
+    dropDown.ActionTriggered(x);
+    QCOMPARE(triggered.count(), 1);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(dropDown.GetCurrentIndex(), 0);
+}
+
+void tst_DropDown::keyboardOpensMenuAndChoosingCurrentItemOnlyTriggers()
+{
+    DropDown* dropDown = shownDropDown();
+    QVERIFY(dropDown);
+    QAction* first = dropDown->AddItem(QStringLiteral("First"));
+    dropDown->AddItem(QStringLiteral("Second"));
+    dropDown->SetCurrentIndex(0);
+    QSignalSpy triggered(dropDown, &DropDown::Triggered);
+    QSignalSpy changed(dropDown, &DropDown::CurrentIndexChanged);
+    QSignalSpy aboutToShow(dropDown, &DropDown::DropDownListAboutToShow);
+
+    QAction* active = nullptr;
+    whenPopupShows([&active](QMenu* menu) {
+        active = menu->activeAction();
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::keyClick(dropDown, Qt::Key_Down);
+    QTRY_COMPARE(triggered.count(), 1);
+    QCOMPARE(active, first);
+    QCOMPARE(triggered.at(0).at(0).value<QAction*>(), first);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(aboutToShow.count(), 1);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(QApplication::focusWidget(), dropDown);
+
+    // Space alone does not open the menu.
+    QTest::keyClick(dropDown, Qt::Key_Space);
+    QCOMPARE(aboutToShow.count(), 1);
+}
+
+void tst_DropDown::choosingAnotherItemChangesTheCurrentIndex()
+{
+    DropDown* dropDown = shownDropDown();
+    QVERIFY(dropDown);
+    dropDown->AddItem(0, QStringLiteral("First"));
+    dropDown->AddItem(1, QStringLiteral("Second"));
+    QAction* third = dropDown->AddItem(1, QStringLiteral("Third"));
+    dropDown->SetCurrentIndex(0);
+    QSignalSpy triggered(dropDown, &DropDown::Triggered);
+    QSignalSpy changed(dropDown, &DropDown::CurrentIndexChanged);
+    QList<int> order;
+    connect(dropDown, &DropDown::CurrentIndexChanged, this, [&order] { order << 1; });
+    connect(dropDown, &DropDown::Triggered, this, [&order] { order << 2; });
+
+    // Down skips the separator; the mouse opens the menu this time.
+    whenPopupShows([](QMenu* menu) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::mouseClick(dropDown, Qt::LeftButton);
+    QTRY_COMPARE(triggered.count(), 1);
+    QCOMPARE(triggered.at(0).at(0).value<QAction*>(), third);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0), (QList<QVariant>{3, 0}));
+    QCOMPARE(order, (QList<int>{1, 2}));
+    QCOMPARE(dropDown->text(), QStringLiteral("Third"));
+    QVERIFY(!dropDown->isDown());
+}
+
+void tst_DropDown::menuOpensAlignedToTheButton_data()
+{
+    QTest::addColumn<DropDown::AlignmentMode>("alignment");
+    QTest::newRow("right") << DropDown::AlignRight;
+    QTest::newRow("left") << DropDown::AlignLeft;
+}
+
+void tst_DropDown::menuOpensAlignedToTheButton()
+{
+    QFETCH(DropDown::AlignmentMode, alignment);
+    DropDown* dropDown = shownDropDown();
+    QVERIFY(dropDown);
+    dropDown->setFixedWidth(90);
+    dropDown->AddItem(QStringLiteral("A much longer item than the button is wide"));
+    dropDown->AddItem(QStringLiteral("B"));
+    dropDown->SetAlignment(alignment);
+    QCOMPARE(dropDown->property("alignment").value<DropDown::AlignmentMode>(), alignment);
+    QTRY_COMPARE(dropDown->width(), 90);
+
+    QRect geometry;
+    whenPopupShows([&geometry](QMenu* menu) {
+        geometry = menu->geometry();
+        QTest::keyClick(menu, Qt::Key_Escape);
+    });
+    QTest::keyClick(dropDown, Qt::Key_Down);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+    QVERIFY(geometry.isValid());
+    const QPoint bottomLeft = dropDown->mapToGlobal(QPoint(0, dropDown->height()));
+    QCOMPARE(geometry.top(), bottomLeft.y());
+    QVERIFY(geometry.width() > dropDown->width());
+    if (alignment == DropDown::AlignLeft)
+        QCOMPARE(geometry.left(), bottomLeft.x());
+    else
+        QCOMPARE(geometry.right(), bottomLeft.x() + dropDown->width() - 1);
+}
+
+void tst_DropDown::deletingFromTriggeredSlotWhileMenuOpen_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("opened with the keyboard") << false;
+    QTest::newRow("opened with the mouse") << true;
+}
+
+void tst_DropDown::deletingFromTriggeredSlotWhileMenuOpen()
+{
+    QFETCH(bool, byMouse);
+    DropDown* shown = shownDropDown();
+    QVERIFY(shown);
+    QPointer<DropDown> dropDown(shown);
+    dropDown->AddItem(QStringLiteral("Keep"));
+    dropDown->AddItem(QStringLiteral("Delete me"));
+    QPointer<DropDownMenu> menu(dropDown->GetDropDownMenu());
+    int triggered = 0;
+    connect(dropDown, &DropDown::Triggered, this, [&triggered, dropDown] {
+        ++triggered;
+        delete dropDown.data();
+    });
+
+    whenPopupShows([](QMenu* popup) {
+        QTest::keyClick(popup, Qt::Key_Down);
+        QTest::keyClick(popup, Qt::Key_Return);
+    });
+    // Press only: the drop-down is gone before a release could be sent to it.
+    if (byMouse)
+        QTest::mousePress(shown, Qt::LeftButton, Qt::NoModifier, shown->rect().center());
+    else
+        QTest::keyClick(shown, Qt::Key_Down);
+    QTRY_VERIFY(dropDown.isNull());
+    QCOMPARE(triggered, 1);
+    // The menu goes once control is back in the event loop.
+    QTRY_VERIFY(menu.isNull());
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_DropDown::sizeHints()
+{
+    DropDown dropDown;
+    QCOMPARE(dropDown.minimumSizeHint(), QSize(13, 24));
+    QCOMPARE(dropDown.height(), 24);
+    dropDown.AddItem(QStringLiteral("Millimetres"));
+    dropDown.SetCurrentIndex(0);
+    const int advance = dropDown.fontMetrics().horizontalAdvance(QStringLiteral("Millimetres"));
+    QCOMPARE(dropDown.sizeHint(), QSize(advance + 16 + 5, 24));
+    dropDown.SetItemIcon(0, solidIcon(Qt::red));
+    QCOMPARE(dropDown.sizeHint(), QSize(advance + 16 + dropDown.iconSize().width() + 5, 24));
+    dropDown.SetIconOnly(true);
+    QCOMPARE(dropDown.sizeHint(), QSize(36, 24));
+    QCOMPARE(dropDown.focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_DropDown::paintsButtonAndMenuFromTheme_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("Light") << "Light";
+    QTest::newRow("Dark") << "Dark";
+    QTest::newRow("HIGLight") << "HIGLight";
+}
+
+void tst_DropDown::paintsButtonAndMenuFromTheme()
+{
+    QFETCH(QString, theme);
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
+    DropDown* dropDown = shownDropDown();
+    QVERIFY(dropDown);
+    dropDown->clearFocus();
+    dropDown->AddItem(0, QStringLiteral("Header"));
+    dropDown->SetItemType(DropDown::GroupLabelItem, 0);
+    dropDown->AddItem(1, QStringLiteral("First"));
+    dropDown->AddItem(1, QStringLiteral("Second"));
+    dropDown->AddItem(2, QStringLiteral("Third"));
+
+    const QColor border = themeColor(ThemeFileKey::DropDownButtonNormalBorderColor);
+    const QColor triangle = themeColor(ThemeFileKey::DropDownTriangle);
+    QVERIFY(border.isValid() && triangle.isValid());
+    const QImage button = dropDown->grab().toImage();
+    QCOMPARE(pixelAt(button, QPoint(dropDown->width() / 2, 1)).rgb(), border.rgb());
+    // Inside the arrow, in the 16-pixel column at the right.
+    const QPoint arrow(dropDown->width() - 16 + 6, dropDown->height() / 2 - 1);
+    QCOMPARE(pixelAt(button, arrow).rgb(), triangle.rgb());
+
+    DropDownMenu* menu = dropDown->GetDropDownMenu();
+    menu->popup(dropDown->mapToGlobal(QPoint(0, dropDown->height())));
+    QTRY_VERIFY(menu->isVisible());
+    const QImage image = menu->grab().toImage();
+    menu->close();
+    QTRY_VERIFY(!menu->isVisible());
+
+    const QList<QAction*> actions = menu->actions();
+    const QRect label = menu->actionGeometry(actions.at(0));
+    const QColor labelColor = themeColor(ThemeFileKey::DropDownGroupLabel);
+    QVERIFY(labelColor.isValid());
+    QCOMPARE(pixelAt(image, QPoint(label.right() - 3, label.center().y())).rgb(), labelColor.rgb());
+    const QRect item = menu->actionGeometry(actions.at(2));
+    const QColor background = themeColor(ThemeFileKey::DropDownMenuBackground);
+    QVERIFY(background.isValid());
+    QCOMPARE(pixelAt(image, QPoint(item.right() - 3, item.center().y())).rgb(), background.rgb());
+    const QRect separator = menu->actionGeometry(actions.at(4));
+    QVERIFY(actions.at(4)->isSeparator());
+    const QColor separatorColor = themeColor(ThemeFileKey::DropDownMenuSeparator);
+    QVERIFY(separatorColor.isValid());
+    QCOMPARE(pixelAt(image, QPoint(separator.center().x(), separator.top() + separator.height() / 2)).rgb(),
+             separatorColor.rgb());
+
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+QTEST_MAIN(tst_DropDown)
+#include "tst_dropdown.moc"

@@ -1,0 +1,326 @@
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/LineEdit.h>
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Kavrel::UICore;
+
+class tst_LineEdit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void constructionForEmbeddedAndStandAlone();
+    void promptingShowsInItalicsWhileEmptyAndUnfocused();
+    void setTextEndsPromptingAndAnnouncesTheFullText();
+    void longTextIsElidedUntilFocused_data();
+    void longTextIsElidedUntilFocused();
+    void firstClickSelectsAllOnlyOnce();
+    void returnSelectsAll();
+    void homeAlwaysKeepsTheCursorAtTheStart();
+    void hoverStateAndEnterSignal();
+    void preventedContextMenuDoesNotOpen();
+    void contextMenuFollowsTheThemeAndKeepsTheSelection_data();
+    void contextMenuFollowsTheThemeAndKeepsTheSelection();
+    void textColourFollowsThemeAndEnabledState();
+    void sizeHints();
+
+private:
+    LineEdit* shownLineEdit();
+    QList<QWidget*> mWidgets;
+};
+
+void tst_LineEdit::initTestCase()
+{
+    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+void tst_LineEdit::cleanup()
+{
+    qDeleteAll(mWidgets);
+    mWidgets.clear();
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+LineEdit* tst_LineEdit::shownLineEdit()
+{
+    auto* window = new QWidget;
+    mWidgets << window;
+    auto* layout = new QVBoxLayout(window);
+    auto* edit = new LineEdit(window);
+    layout->addWidget(edit);
+    auto* other = new QLineEdit(window);
+    layout->addWidget(other);
+    window->resize(160, 80);
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window))
+        return nullptr;
+    other->setFocus();
+    return edit;
+}
+
+void tst_LineEdit::constructionForEmbeddedAndStandAlone()
+{
+    LineEdit standAlone;
+    QCOMPARE(standAlone.focusPolicy(), Qt::StrongFocus);
+    QVERIFY(standAlone.testAttribute(Qt::WA_Hover));
+    QCOMPARE(standAlone.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+    QCOMPARE(standAlone.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(standAlone.textMargins().left(), -3);
+    QCOMPARE(standAlone.textMargins().top(), -standAlone.fontMetrics().descent());
+    const QColor text = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    QVERIFY(text.isValid());
+    QCOMPARE(standAlone.GetTextColor(), text);
+    QCOMPARE(standAlone.palette().color(QPalette::Text), text);
+    QVERIFY(standAlone.IsUseDefaultTextColor());
+
+    // The embedded editor leaves the focus policy to its box.
+    LineEdit embedded(nullptr, true);
+    QCOMPARE(embedded.focusPolicy(), QLineEdit().focusPolicy());
+}
+
+void tst_LineEdit::promptingShowsInItalicsWhileEmptyAndUnfocused()
+{
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetPrompting(QStringLiteral("Search"));
+    QVERIFY(edit->IsPrompting());
+    QCOMPARE(edit->text(), QStringLiteral("Search"));
+    QCOMPARE(edit->GetText(), QString());
+    QVERIFY(edit->font().italic());
+    QVERIFY(edit->GetCurrentFont().italic());
+
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(edit->hasFocus());
+    QVERIFY(!edit->IsPrompting());
+    QCOMPARE(edit->text(), QString());
+    QVERIFY(!edit->font().italic());
+
+    edit->clearFocus();
+    QTRY_VERIFY(edit->IsPrompting());
+    edit->UnsetPrompting();
+    QVERIFY(!edit->IsPrompting());
+    QCOMPARE(edit->text(), QString());
+}
+
+void tst_LineEdit::setTextEndsPromptingAndAnnouncesTheFullText()
+{
+    LineEdit edit;
+    edit.SetPrompting(QStringLiteral("Hint"));
+    QVERIFY(edit.IsPrompting());
+    QSignalSpy changed(&edit, &QLineEdit::textChanged);
+    edit.SetText(QStringLiteral("value"));
+    QVERIFY(!edit.IsPrompting());
+    QCOMPARE(edit.GetText(), QStringLiteral("value"));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("value"));
+    edit.SetText(QStringLiteral("value"));
+    QCOMPARE(changed.count(), 1);
+    // Emptying shows the hint again.
+    edit.SetText(QString());
+    QVERIFY(edit.IsPrompting());
+    QCOMPARE(edit.GetText(), QString());
+}
+
+void tst_LineEdit::longTextIsElidedUntilFocused_data()
+{
+    QTest::addColumn<Qt::TextElideMode>("mode");
+    QTest::newRow("right") << Qt::ElideRight;
+    QTest::newRow("middle") << Qt::ElideMiddle;
+    QTest::newRow("left") << Qt::ElideLeft;
+}
+
+void tst_LineEdit::longTextIsElidedUntilFocused()
+{
+    QFETCH(Qt::TextElideMode, mode);
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    const QString longText = QStringLiteral("C:/Projects/House/Textures/brick_wall_diffuse_4k.png");
+    edit->SetElideMode(mode);
+    QCOMPARE(edit->GetElideMode(), mode);
+    edit->SetText(longText);
+    QVERIFY(edit->text() != longText);
+    QVERIFY(edit->text().contains(QChar(0x2026)));
+    QCOMPARE(edit->GetText(), longText);
+
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_COMPARE(edit->text(), longText);
+    edit->clearFocus();
+    QTRY_VERIFY(edit->text() != longText);
+
+    // Wide enough: shown whole.
+    edit->window()->resize(900, 80);
+    QTRY_COMPARE(edit->text(), longText);
+}
+
+void tst_LineEdit::firstClickSelectsAllOnlyOnce()
+{
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetText(QStringLiteral("select me"));
+    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
+    QCOMPARE(edit->HoverState(), 1);
+    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    QCOMPARE(edit->selectedText(), QString());
+
+    // Leaving forgets it.
+    edit->clearFocus();
+    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
+
+    edit->clearFocus();
+    edit->AllowFocusInSelectAll(false);
+    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    QCOMPARE(edit->selectedText(), QString());
+}
+
+void tst_LineEdit::returnSelectsAll()
+{
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(edit->hasFocus());
+    QTest::keyClicks(edit, QStringLiteral("typed"));
+    QCOMPARE(edit->selectedText(), QString());
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(edit->selectedText(), QStringLiteral("typed"));
+}
+
+void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStart()
+{
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetText(QStringLiteral("abcdef"));
+    QCOMPARE(edit->cursorPosition(), 6);
+    edit->SetHomeAlways(true);
+    edit->SetText(QStringLiteral("ghijkl"));
+    QCOMPARE(edit->cursorPosition(), 0);
+    edit->setCursorPosition(4);
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(edit->hasFocus());
+    QCOMPARE(edit->cursorPosition(), 0);
+}
+
+void tst_LineEdit::hoverStateAndEnterSignal()
+{
+    LineEdit edit;
+    QSignalSpy entered(&edit, &LineEdit::Enter);
+    QCOMPARE(edit.HoverState(), 0);
+    QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
+    QApplication::sendEvent(&edit, &enter);
+    QCOMPARE(edit.HoverState(), 1);
+    QCOMPARE(entered.count(), 1);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&edit, &leave);
+    QCOMPARE(edit.HoverState(), 0);
+}
+
+void tst_LineEdit::preventedContextMenuDoesNotOpen()
+{
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetPreventContextMenu(true);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3), edit->mapToGlobal(QPoint(3, 3)));
+    // A context menu would run a modal loop here; a prevented one returns at once.
+    QApplication::sendEvent(edit, &event);
+    QVERIFY(event.isAccepted());
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("Light") << "Light";
+    QTest::newRow("Dark") << "Dark";
+    QTest::newRow("HIGLight") << "HIGLight";
+}
+
+void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
+{
+    QFETCH(QString, theme);
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
+    LineEdit* edit = shownLineEdit();
+    QVERIFY(edit);
+    edit->SetText(QStringLiteral("keep me selected"));
+    edit->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(edit->hasFocus());
+    edit->selectAll();
+
+    QString styleSheet;
+    QTimer timer;
+    timer.setInterval(10);
+    connect(&timer, &QTimer::timeout, this, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu || !menu->isVisible())
+            return;
+        timer.stop();
+        styleSheet = menu->styleSheet();
+        QTest::keyClick(menu, Qt::Key_Escape);
+    });
+    timer.start();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(3, 3), edit->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(edit, &event);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+
+    const QColor background = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBackgroundColor1);
+    const QColor border = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBorderColor1);
+    const QColor separator = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInSeparator1);
+    QVERIFY(background.isValid() && border.isValid() && separator.isValid());
+    QVERIFY2(styleSheet.startsWith(QStringLiteral("QMenu{background-color: ") + background.name(QColor::HexArgb) +
+                                   QStringLiteral("; border:")),
+             qPrintable(styleSheet));
+    QVERIFY(styleSheet.contains(border.name(QColor::HexArgb) + QStringLiteral("; border-radius: 4px} ")));
+    QVERIFY(styleSheet.contains(QStringLiteral("QMenu::separator{height: 1px; background-color: ") +
+                                separator.name(QColor::HexArgb) + QStringLiteral("}")));
+    // Opening the menu took the focus for a moment; the selection is still there.
+    QTRY_VERIFY(edit->hasFocus());
+    QCOMPARE(edit->selectedText(), QStringLiteral("keep me selected"));
+}
+
+void tst_LineEdit::textColourFollowsThemeAndEnabledState()
+{
+    LineEdit edit;
+    for (const char* theme : {"Dark", "HIGLight", "Light"}) {
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QString::fromLatin1(theme)));
+        const QColor normal = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+        QVERIFY(normal.isValid());
+        QCOMPARE(edit.GetTextColor(), normal);
+        QCOMPARE(edit.palette().color(QPalette::Text), normal);
+    }
+    edit.setEnabled(false);
+    const QColor disabled = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontColorDisabled);
+    QVERIFY(disabled.isValid());
+    QCOMPARE(edit.GetTextColor(), disabled);
+
+    // A colour set by hand stays.
+    edit.setEnabled(true);
+    edit.SetTextColor(Qt::red);
+    QVERIFY(!edit.IsUseDefaultTextColor());
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
+    QCOMPARE(edit.GetTextColor(), QColor(Qt::red));
+}
+
+void tst_LineEdit::sizeHints()
+{
+    LineEdit edit;
+    QCOMPARE(edit.sizeHint(), QSize(QWIDGETSIZE_MAX, edit.fontMetrics().height() + 2));
+    QVERIFY(!edit.minimumSizeHint().isValid());
+}
+
+QTEST_MAIN(tst_LineEdit)
+#include "tst_lineedit.moc"

@@ -1,0 +1,418 @@
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/CheckBox.h>
+#include <KvUICore/widgets/RolloutContainer.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+QColor themeColor(const QString& key)
+{
+    return ThemeManager::GetInstance()->GetColor(key);
+}
+
+QAbstractButton* checkBoxOf(RolloutContainer* container)
+{
+    for (QAbstractButton* button : container->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+        if (button->accessibleName() == QStringLiteral("RolloutContainer_CheckBox"))
+            return button;
+    }
+    return nullptr;
+}
+
+// The first column of the row whose pixel has exactly the colour, or -1.
+int firstColumnWithColor(const QImage& image, int logicalY, const QColor& color)
+{
+    const qreal ratio = image.devicePixelRatio();
+    const int y = qRound(logicalY * ratio);
+    for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, y).rgb() == color.rgb())
+            return qRound(x / ratio);
+    }
+    return -1;
+}
+
+bool sendToolTip(QWidget* widget, QPoint pos)
+{
+    QHelpEvent help(QEvent::ToolTip, pos, widget->mapToGlobal(pos));
+    return QApplication::sendEvent(widget, &help);
+}
+
+} // namespace
+
+class tst_RolloutContainer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void nestedContainersIndentOneStepPerLevel();
+    void collapsingRemembersWhatItHid();
+    void titleClickTogglesOnlyWithLeftButtonInsideTitle_data();
+    void titleClickTogglesOnlyWithLeftButtonInsideTitle();
+    void upAndDownKeys();
+    void hiddenExpandButtonFreezesTheState();
+    void checkBoxEnablesContentButKeepsHostDisabledChildren();
+    void enabledChangeReappliesTheCheckState();
+    void expandableWhenDisabled_data();
+    void expandableWhenDisabled();
+    void titleTooltips();
+    void extraTopMarginSurvivesThemeChanges();
+    void sizeHints();
+
+private:
+    RolloutContainer* shownContainer(int width = 240);
+    QList<QWidget*> mWidgets;
+};
+
+void tst_RolloutContainer::initTestCase()
+{
+    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+void tst_RolloutContainer::cleanup()
+{
+    qDeleteAll(mWidgets);
+    mWidgets.clear();
+    QToolTip::hideText();
+}
+
+RolloutContainer* tst_RolloutContainer::shownContainer(int width)
+{
+    auto* container = new RolloutContainer;
+    mWidgets << container;
+    container->SetTitle(QStringLiteral("Geometry"));
+    auto* layout = new QVBoxLayout(container);
+    layout->addWidget(new QLabel(QStringLiteral("Width"), container));
+    layout->addWidget(new QLineEdit(container));
+    container->resize(width, 120);
+    container->show();
+    if (!QTest::qWaitForWindowExposed(container))
+        return nullptr;
+    return container;
+}
+
+void tst_RolloutContainer::nestedContainersIndentOneStepPerLevel()
+{
+    RolloutContainer* outer = shownContainer();
+    QVERIFY(outer);
+    auto* middle = new RolloutContainer(outer);
+    auto* inner = new RolloutContainer(middle);
+    QCOMPARE(outer->IndentLevel(), 0);
+    QCOMPARE(middle->IndentLevel(), 1);
+    QCOMPARE(inner->IndentLevel(), 2);
+
+    // Containers placed through a layout learn their level when reparented.
+    auto* later = new RolloutContainer;
+    outer->layout()->addWidget(later);
+    QCOMPARE(later->IndentLevel(), 1);
+
+    // Same title, same width: the disclosure triangle starts 32 pixels further right.
+    const QColor triangle = themeColor(ThemeFileKey::Triangle);
+    QVERIFY(triangle.isValid());
+    // A standalone container to compare with: a parent's grab would show its children on top.
+    RolloutContainer alone;
+    RolloutContainer top;
+    RolloutContainer level1(&top);
+    RolloutContainer level2(&level1);
+    for (RolloutContainer* c : {&alone, &top, &level1, &level2}) {
+        c->SetTitle(QStringLiteral("Title"));
+        c->resize(200, c->TitleHeight() + 10);
+    }
+    const int row = alone.TitleHeight() / 2;
+    const int x0 = firstColumnWithColor(alone.grab().toImage(), row, triangle);
+    const int x2 = firstColumnWithColor(level2.grab().toImage(), row, triangle);
+    QVERIFY(x0 >= 0);
+    QCOMPARE(x2 - x0, 32);
+}
+
+void tst_RolloutContainer::collapsingRemembersWhatItHid()
+{
+    RolloutContainer* outer = shownContainer();
+    QVERIFY(outer);
+    auto* inner = new RolloutContainer(outer);
+    inner->SetTitle(QStringLiteral("Inner"));
+    auto* innerChild = new QLabel(QStringLiteral("inside"), inner);
+    auto* hiddenByHost = new QLabel(QStringLiteral("hidden"), outer);
+    outer->layout()->addWidget(inner);
+    outer->layout()->addWidget(hiddenByHost);
+    hiddenByHost->hide();
+    QLabel* label = outer->findChild<QLabel*>();
+    QSignalSpy collapsed(outer, &RolloutContainer::Collapsed);
+    QSignalSpy innerCollapsed(inner, &RolloutContainer::Collapsed);
+
+    inner->SetIsCollapsed(true);
+    QVERIFY(innerChild->isHidden());
+    outer->SetIsCollapsed(true);
+    QCOMPARE(collapsed.count(), 1);
+    QCOMPARE(collapsed.last().at(0).toBool(), true);
+    QVERIFY(label->isHidden());
+    QVERIFY(inner->isHidden());
+    QVERIFY(!checkBoxOf(outer)->isVisible());
+    outer->SetIsCollapsed(true);
+    QCOMPARE(collapsed.count(), 1);
+
+    outer->SetIsCollapsed(false);
+    QCOMPARE(collapsed.count(), 2);
+    QCOMPARE(collapsed.last().at(0).toBool(), false);
+    QVERIFY(label->isVisible());
+    QVERIFY(inner->isVisible());
+    QVERIFY(hiddenByHost->isHidden());
+    // The inner container keeps its own state.
+    QVERIFY(inner->IsCollapsed());
+    QVERIFY(innerChild->isHidden());
+    inner->SetIsCollapsed(false);
+    QVERIFY(innerChild->isVisible());
+    QCOMPARE(innerCollapsed.count(), 2);
+}
+
+void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<bool>("inTitle");
+    QTest::addColumn<bool>("toggles");
+    QTest::newRow("left in title") << Qt::LeftButton << true << true;
+    QTest::newRow("right in title") << Qt::RightButton << true << false;
+    QTest::newRow("left below title") << Qt::LeftButton << false << false;
+}
+
+void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle()
+{
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(bool, inTitle);
+    QFETCH(bool, toggles);
+
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    const QRect title = container->GetTitleRect();
+    const QPoint pos = inTitle ? title.center() : QPoint(title.center().x(), container->height() - 3);
+    QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
+    QTest::mouseClick(container, button, Qt::NoModifier, pos);
+    QCOMPARE(container->IsCollapsed(), toggles);
+    QCOMPARE(collapsed.count(), toggles ? 1 : 0);
+    QTest::mouseClick(container, button, Qt::NoModifier, pos);
+    QCOMPARE(container->IsCollapsed(), false);
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_RolloutContainer::upAndDownKeys()
+{
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
+    QTest::keyClick(container, Qt::Key_Down);
+    QCOMPARE(collapsed.count(), 0);
+    QTest::keyClick(container, Qt::Key_Up);
+    QVERIFY(container->IsCollapsed());
+    QTest::keyClick(container, Qt::Key_Up);
+    QCOMPARE(collapsed.count(), 1);
+    QTest::keyClick(container, Qt::Key_Down);
+    QVERIFY(!container->IsCollapsed());
+    QCOMPARE(collapsed.count(), 2);
+}
+
+void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
+{
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    container->SetIsCollapsed(true);
+    QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
+    container->SetExpandButtonVisible(false);
+    // Hiding the button expands first.
+    QCOMPARE(collapsed.count(), 1);
+    QCOMPARE(collapsed.last().at(0).toBool(), false);
+    QVERIFY(!container->IsCollapsed());
+
+    QTest::keyClick(container, Qt::Key_Up);
+    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
+    container->SetIsCollapsed(true);
+    QVERIFY(!container->IsCollapsed());
+    QCOMPARE(collapsed.count(), 1);
+
+    // No triangle is painted.
+    const QColor triangle = themeColor(ThemeFileKey::Triangle);
+    QVERIFY(triangle.isValid());
+    QCOMPARE(firstColumnWithColor(container->grab().toImage(), container->TitleHeight() / 2, triangle), -1);
+}
+
+void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
+{
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    QLineEdit* edit = container->findChild<QLineEdit*>();
+    QLabel* label = container->findChild<QLabel*>();
+    label->setEnabled(false);
+    QAbstractButton* checkBox = checkBoxOf(container);
+    QVERIFY(qobject_cast<CheckBox*>(checkBox));
+    QVERIFY(checkBox->isHidden());
+    QVERIFY(container->IsChecked());
+
+    // Not checkable: SetChecked is ignored.
+    container->SetChecked(false);
+    QVERIFY(container->IsChecked());
+    QVERIFY(edit->isEnabled());
+
+    container->SetIsCheckable(true);
+    QTRY_VERIFY(checkBox->isVisible());
+    container->repaint();
+    QSignalSpy toggled(container, &RolloutContainer::CheckBoxToggled);
+    QSignalSpy clicked(container, &RolloutContainer::CheckBoxClicked);
+    // The check box sits in the title bar, right of the triangle column.
+    QVERIFY(container->GetTitleRect().contains(checkBox->geometry().center()));
+
+    QTest::mouseClick(checkBox, Qt::LeftButton, Qt::NoModifier, checkBox->rect().center());
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(toggled.count(), 1);
+    QCOMPARE(toggled.last().at(0).toBool(), false);
+    QVERIFY(!container->IsChecked());
+    QVERIFY(!edit->isEnabled());
+    QVERIFY(!label->isEnabled());
+    QVERIFY(checkBox->isEnabled());
+
+    QTest::mouseClick(checkBox, Qt::LeftButton, Qt::NoModifier, checkBox->rect().center());
+    QVERIFY(container->IsChecked());
+    QVERIFY(edit->isEnabled());
+    QVERIFY(!label->isEnabled());
+    QCOMPARE(toggled.last().at(0).toBool(), true);
+
+    // Through the slot as well.
+    container->SetChecked(false);
+    QVERIFY(!edit->isEnabled());
+    container->SetChecked(true);
+    QVERIFY(edit->isEnabled());
+    QVERIFY(!label->isEnabled());
+}
+
+void tst_RolloutContainer::enabledChangeReappliesTheCheckState()
+{
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    container->SetIsCheckable(true);
+    container->SetChecked(false);
+    QLineEdit* edit = container->findChild<QLineEdit*>();
+    QVERIFY(!edit->isEnabled());
+    container->setEnabled(false);
+    container->setEnabled(true);
+    QVERIFY(container->isEnabled());
+    QVERIFY(!edit->isEnabled());
+    container->SetChecked(true);
+    QVERIFY(edit->isEnabled());
+}
+
+void tst_RolloutContainer::expandableWhenDisabled_data()
+{
+    QTest::addColumn<bool>("expandable");
+    QTest::newRow("expandable") << true;
+    QTest::newRow("frozen") << false;
+}
+
+void tst_RolloutContainer::expandableWhenDisabled()
+{
+    QFETCH(bool, expandable);
+    RolloutContainer* container = shownContainer();
+    QVERIFY(container);
+    container->SetIsExpandableWhenDisabled(expandable);
+    QCOMPARE(container->IsExpandableWhenDisabled(), expandable);
+    container->setEnabled(false);
+    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
+    QCOMPARE(container->IsCollapsed(), expandable);
+}
+
+void tst_RolloutContainer::titleTooltips()
+{
+    RolloutContainer* container = shownContainer(300);
+    QVERIFY(container);
+    container->SetElideMode(Qt::ElideRight);
+    container->repaint();
+    const QPoint inTitle = container->GetTitleRect().center();
+
+    QVERIFY(sendToolTip(container, inTitle));
+    QVERIFY(!QToolTip::isVisible());
+
+    container->SetTitleToolTip(QStringLiteral("The part's size"));
+    QVERIFY(sendToolTip(container, inTitle));
+    QTRY_VERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("The part's size"));
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+
+    // Outside the title the container does not handle the event and shows nothing.
+    container->setToolTip(QStringLiteral("container's own"));
+    QVERIFY(!sendToolTip(container, QPoint(container->width() / 2, container->height() - 3)));
+    QVERIFY(!QToolTip::isVisible());
+    // Inside, a title that fits without a title tooltip hides any tooltip.
+    container->SetTitleToolTip(QString());
+    QToolTip::showText(container->mapToGlobal(QPoint(0, 0)), QStringLiteral("stale"), container);
+    QVERIFY(sendToolTip(container, inTitle));
+    QTRY_VERIFY(!QToolTip::isVisible());
+
+    const QString longTitle = QStringLiteral("Geometry of the selected part, its bounding box and its pivot point");
+    container->SetTitle(longTitle);
+    container->repaint();
+    QVERIFY(sendToolTip(container, container->GetTitleRect().center()));
+    QTRY_VERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), longTitle);
+}
+
+void tst_RolloutContainer::extraTopMarginSurvivesThemeChanges()
+{
+    RolloutContainer container;
+    const int lightTitle = container.TitleHeight();
+    QVERIFY(lightTitle > 0);
+    QCOMPARE(container.contentsMargins(), QMargins(0, lightTitle, 0, 0));
+    container.setContentsMargins(4, 5, 4, 4);
+    QCOMPARE(container.contentsMargins(), QMargins(4, lightTitle + 5, 4, 4));
+
+    for (const char* theme : {"Dark", "HIGLight", "Light"}) {
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QString::fromLatin1(theme)));
+        const int expected = ThemeManager::GetInstance()->GetInt(ThemeFileKey::RolloutcontainerTitleHeight);
+        QVERIFY(expected > 0);
+        QCOMPARE(container.TitleHeight(), expected);
+        QCOMPARE(container.contentsMargins(), QMargins(4, expected + 5, 4, 4));
+    }
+}
+
+void tst_RolloutContainer::sizeHints()
+{
+    RolloutContainer container;
+    container.SetTitle(QStringLiteral("Material"));
+    auto* layout = new QVBoxLayout(&container);
+    auto* child = new QLabel(QStringLiteral("A label in the container"), &container);
+    layout->addWidget(child);
+    const QSize expanded = container.sizeHint();
+    QCOMPARE(expanded, layout->totalSizeHint().expandedTo(QSize(container.GetTitleRect().width(), 0)));
+    container.SetIsCollapsed(true);
+    QCOMPARE(container.sizeHint().height(), container.TitleHeight());
+    QCOMPARE(container.minimumSizeHint().height(), container.TitleHeight());
+
+    // The check box widens the title.
+    const int titleWidth = container.GetTitleRect().width();
+    container.SetIsCheckable(true);
+    QCOMPARE(container.GetTitleRect().width(), titleWidth + 18);
+
+    // Without a layout, the children's extent.
+    RolloutContainer bare;
+    auto* loose = new QLabel(QStringLiteral("x"), &bare);
+    loose->setGeometry(10, 40, 300, 20);
+    loose->show();
+    QCOMPARE(bare.sizeHint(), QSize(309, 59));
+}
+
+QTEST_MAIN(tst_RolloutContainer)
+#include "tst_rolloutcontainer.moc"
