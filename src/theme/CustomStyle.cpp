@@ -81,9 +81,8 @@ const QIcon& IconForPath(const QString& path)
 
 bool IsDropDownMenu(const QWidget* widget)
 {
-    return widget
-           && (widget->inherits(CustomStyle::DropDownMenuClassName)
-               || widget->property(CustomStyle::DropDownMenuProperty).toBool());
+    return widget && (widget->inherits(CustomStyle::DropDownMenuClassName) ||
+                      widget->property(CustomStyle::DropDownMenuProperty).toBool());
 }
 
 bool WidgetEnabled(const QStyleOption* option, const QWidget* widget)
@@ -115,8 +114,7 @@ void FillTriangle(QPainter* painter, const QPointF& a, const QPointF& b, const Q
 
 CustomStyle::CustomStyle()
     : QProxyStyle(static_cast<QStyle*>(nullptr))
-{
-}
+{}
 
 CustomStyle::~CustomStyle() = default;
 
@@ -318,8 +316,7 @@ void CustomStyle::DrawCheckBoxIndicator(const QStyleOption* option, QPainter* pa
     const StrokeGrid grid = StrokeGridOf(widget, painter);
     const QRectF ringRect = StrokeRect(painter, option->rect, grid);
     const QRectF outlineRect = StrokeRect(painter, option->rect, grid, 1);
-    const QRectF fillRect = outlineRect.adjusted(grid.unit * 0.5, grid.unit * 0.5, -grid.unit * 0.5,
-                                                 -grid.unit * 0.5);
+    const QRectF fillRect = outlineRect.adjusted(grid.unit * 0.5, grid.unit * 0.5, -grid.unit * 0.5, -grid.unit * 0.5);
     const bool checked = widget->isChecked();
     const QStyle::State state = option->state;
 
@@ -390,8 +387,8 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
             const_cast<QCheckBox*>(widget)->setToolTip(tip);
         text = elided;
     }
-    proxy()->drawItemText(painter, button->rect, alignment, button->palette, bool(button->state & State_Enabled),
-                          text, QPalette::WindowText);
+    proxy()->drawItemText(painter, button->rect, alignment, button->palette, bool(button->state & State_Enabled), text,
+                          QPalette::WindowText);
     painter->restore();
 }
 
@@ -523,8 +520,7 @@ void CustomStyle::DrawDoubleSpinBoxComplexControl(const QStyleOptionComplex* opt
     painter->restore();
 }
 
-void CustomStyle::DrawIndicatorSpinUp(const QStyleOption* option, QPainter* painter,
-                                      const QDoubleSpinBox* widget) const
+void CustomStyle::DrawIndicatorSpinUp(const QStyleOption* option, QPainter* painter, const QDoubleSpinBox* widget) const
 {
     const QRectF r = option->rect;
     const qreal half = SpinArrowHalfWidth(r);
@@ -610,7 +606,8 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
     painter->save();
     if (slider->subControls & SC_SliderGroove) {
         if (focused)
-            StrokeOutline(painter, StrokeRect(painter, bar.adjusted(-grid.unit, -grid.unit, grid.unit, grid.unit), grid),
+            StrokeOutline(painter,
+                          StrokeRect(painter, bar.adjusted(-grid.unit, -grid.unit, grid.unit, grid.unit), grid),
                           Color(ThemeFileKey::FocusOutline2), grid);
         DrawFramedRect(painter, barStroke, fill, outline, grid);
         // The track runs from the minimum end to the handle.
@@ -657,8 +654,7 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
 
 // ---- Progress bar ----------------------------------------------------------
 
-void CustomStyle::DrawProgressBarGroove(const QStyleOption* option, QPainter* painter,
-                                        const QProgressBar* widget) const
+void CustomStyle::DrawProgressBarGroove(const QStyleOption* option, QPainter* painter, const QProgressBar* widget) const
 {
     const StrokeGrid grid = StrokeGridOf(widget, painter);
     const QRectF outline = StrokeRect(painter, option->rect, grid);
@@ -772,7 +768,8 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     if (item->menuItemType == QStyleOptionMenuItem::Separator && !groupLabel) {
         painter->setRenderHint(QPainter::Antialiasing, true);
         painter->setPen(CosmeticPen(Color(ThemeFileKey::DropDownMenuSeparator), grid));
-        const qreal y = StrokeRect(painter, QRectF(r.left(), r.top() + r.height() / 2, r.width(), grid.unit), grid).top();
+        const qreal y =
+            StrokeRect(painter, QRectF(r.left(), r.top() + r.height() / 2, r.width(), grid.unit), grid).top();
         painter->drawLine(QPointF(r.left() + 1, y), QPointF(r.right(), y));
         painter->restore();
         return;
@@ -805,9 +802,8 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     if (!item->icon.isNull()) {
         const QPixmap pixmap = item->icon.pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio,
                                                  enabled ? QIcon::Normal : QIcon::Disabled);
-        painter->drawPixmap(QRect(r.left() + 2 + columns * kMenuColumnWidth, iconTop, kMenuColumnWidth,
-                                  kMenuColumnWidth),
-                            pixmap);
+        painter->drawPixmap(
+            QRect(r.left() + 2 + columns * kMenuColumnWidth, iconTop, kMenuColumnWidth, kMenuColumnWidth), pixmap);
         ++columns;
     }
 
@@ -820,7 +816,7 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     if (groupLabel && themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0)
         font.setBold(true);
     painter->setFont(font);
-    const QColor textColor = !enabled   ? Color(ThemeFileKey::FontDisable)
+    const QColor textColor = !enabled     ? Color(ThemeFileKey::FontDisable)
                              : groupLabel ? Color(ThemeFileKey::FontGroupHeader)
                                           : Color(ThemeFileKey::FontNormal3);
     painter->setPen(textColor);

@@ -87,8 +87,7 @@ private:
 
     QRect SubControlRectDoubleSpinBox(const QStyleOptionComplex* option, SubControl subControl,
                                       const QWidget* widget) const;
-    QRect SubControlRectSlider(const QStyleOptionComplex* option, SubControl subControl,
-                               const QWidget* widget) const;
+    QRect SubControlRectSlider(const QStyleOptionComplex* option, SubControl subControl, const QWidget* widget) const;
 };
 
 } // namespace Kavrel::UICore

@@ -5,8 +5,8 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QIcon>
-#include <QPainter>
 #include <QPaintDevice>
+#include <QPainter>
 #include <QWidget>
 
 #include <cmath>

@@ -31,8 +31,7 @@ KVUICORE_EXPORT QPen CosmeticPen(const QBrush& brush, const StrokeGrid& grid, qr
 // The centre lines of one-stroke-wide edges lying inside rect on whole device
 // pixels of the painter, `inset` strokes further in. Drawn antialiased with the
 // grid's cosmetic pen, such edges cover whole device pixels: no blurred halves.
-KVUICORE_EXPORT QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid,
-                                  int inset = 0);
+KVUICORE_EXPORT QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid, int inset = 0);
 
 // The width and height of one stroke in the painter's logical coordinates.
 KVUICORE_EXPORT QPointF StrokeUnits(const QPainter* painter, const StrokeGrid& grid);

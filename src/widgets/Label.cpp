@@ -26,8 +26,7 @@ class LabelImp
 public:
     explicit LabelImp(Label* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     bool HasRightPixmapSpace() const
     {
@@ -43,10 +42,7 @@ public:
         return QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side);
     }
 
-    int AvailableTextWidth() const
-    {
-        return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0);
-    }
+    int AvailableTextWidth() const { return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0); }
 
     bool PaintsAsPlainLabel() const
     {

@@ -23,8 +23,7 @@ class PushButtonImp
 public:
     explicit PushButtonImp(PushButton* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     bool IsHot() const { return miMouseState == PushButton::Hovered || miMouseState == PushButton::Pressed; }
 

@@ -46,10 +46,8 @@ enum Column
 };
 
 const char* const kColumnTitles[ColumnCount] = {
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Enabled"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Disabled"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Hovered"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Checked"),
+    QT_TRANSLATE_NOOP("BasicControlsPage", "Enabled"), QT_TRANSLATE_NOOP("BasicControlsPage", "Disabled"),
+    QT_TRANSLATE_NOOP("BasicControlsPage", "Hovered"), QT_TRANSLATE_NOOP("BasicControlsPage", "Checked"),
     QT_TRANSLATE_NOOP("BasicControlsPage", "Focused"),
 };
 
@@ -239,16 +237,18 @@ private:
         button->setFixedWidth(110);
         auto* fits = new Label(Tr("Fits"), this);
         fits->SetReservedToolTip(Tr("A label that fits shows its reserved tool tip"));
-        for (QWidget* widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(withPixmap),
-                                static_cast<QWidget*>(check), static_cast<QWidget*>(button),
-                                static_cast<QWidget*>(fits)})
+        for (QWidget* widget :
+             {static_cast<QWidget*>(label), static_cast<QWidget*>(withPixmap), static_cast<QWidget*>(check),
+              static_cast<QWidget*>(button), static_cast<QWidget*>(fits)})
             row->addWidget(widget);
         row->addStretch(1);
 
         // What hovering the cut check box would show, kept in view.
         auto* tip = new TextLabel(this);
         tip->SetTextColorThemeKey(ThemeFileKey::FontNormal3);
-        const auto showTip = [tip, check] { tip->setText(Tr("Tool tip of the cut check box: %1").arg(check->toolTip())); };
+        const auto showTip = [tip, check] {
+            tip->setText(Tr("Tool tip of the cut check box: %1").arg(check->toolTip()));
+        };
         connect(check, &CheckBox::ToolTipChanged, tip, showTip);
         showTip();
         column->addWidget(tip);
