@@ -154,6 +154,14 @@ QBrush DimmedBrush(const QBrush& brush)
     return dimmed;
 }
 
+void RepaintAfterThemeChange(QWidget* widget)
+{
+    QWidget* parent = widget->parentWidget();
+    if (parent && !widget->isWindow())
+        parent->update();
+    widget->update();
+}
+
 QIcon IconFromTheme(const QString& key, const QSize& size)
 {
     if (key.isEmpty())

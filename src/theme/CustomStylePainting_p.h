@@ -55,6 +55,12 @@ KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
 class QIcon;
 namespace Kavrel::UICore::Internal {
 
+// Schedules the repaint a theme switch needs. The container is marked dirty
+// as a whole: every control repaints on a switch anyway, and one rectangle per
+// container spares Qt merging a dirty region per control, which dominates a
+// switch in a window of many controls.
+KVUICORE_EXPORT void RepaintAfterThemeChange(QWidget* widget);
+
 // The icon behind a theme key: an "Icon" entry's image of that size, or the
 // file a "String" entry names. A null icon when the key holds neither.
 KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);

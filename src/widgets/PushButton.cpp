@@ -211,8 +211,8 @@ void PushButton::UpdateToolTip()
 
 void PushButton::ThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     UpdateIcon();
-    update();
 }
 
 void PushButton::enterEvent(QEnterEvent* event)
