@@ -81,6 +81,13 @@ bool WidgetHasFocus(const QStyleOption* option, const QWidget* widget)
     return widget ? widget->hasFocus() : bool(option->state & QStyle::State_HasFocus);
 }
 
+// Half the base of a spin-box arrow: at most 4, and small enough to leave the
+// button a margin on every side.
+qreal SpinArrowHalfWidth(const QRectF& button)
+{
+    return std::max(1.0, std::min({4.0, std::floor(button.width() / 4.0), std::floor(button.height() / 2.5)}));
+}
+
 void FillTriangle(QPainter* painter, const QPointF& a, const QPointF& b, const QPointF& c, const QColor& color)
 {
     const QPointF points[3] = {a, b, c};
@@ -506,7 +513,7 @@ void CustomStyle::DrawIndicatorSpinUp(const QStyleOption* option, QPainter* pain
                                       const QDoubleSpinBox* widget) const
 {
     const QRectF r = option->rect;
-    const qreal half = std::min(4.0, std::floor(r.width() / 3.0));
+    const qreal half = SpinArrowHalfWidth(r);
     const qreal cx = r.left() + r.width() / 2.0;
     const qreal cy = r.top() + r.height() / 2.0;
     QColor color = Color(ThemeFileKey::Triangle2);
@@ -523,7 +530,7 @@ void CustomStyle::DrawIndicatorSpinDown(const QStyleOption* option, QPainter* pa
                                         const QDoubleSpinBox* widget) const
 {
     const QRectF r = option->rect;
-    const qreal half = std::min(4.0, std::floor(r.width() / 3.0));
+    const qreal half = SpinArrowHalfWidth(r);
     const qreal cx = r.left() + r.width() / 2.0;
     const qreal cy = r.top() + r.height() / 2.0;
     QColor color = Color(ThemeFileKey::Triangle2);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KvCoreUnits/KvCoreUnitsExport.h>
+#include <KvCoreUnits/UnitsTypes.h>
 
 #include <QString>
 
@@ -19,6 +20,19 @@ public:
 
     // A null pointer gives the empty string.
     static QString WcharToQString(const wchar_t* text);
+
+    // The invariant name of a unit type ("Millimeter") or of a unit symbol
+    // ("mm", "FeetDashFractionalInches"); empty for an unknown value.
+    static QString GetUnitGlobalName(int unitOrSymbol);
+    // The invariant name of a numeric format ("Decimal"); empty for an unknown one.
+    static QString GetGlobalName(NumberFormat format);
+    // The symbol with that invariant name; an exact match wins over one that
+    // ignores case. kUnknownName leaves `symbol` alone.
+    static ErrorCode GetUnitSymbol(const QString& name, UnitSymbol& symbol);
+    // The unit type with that invariant name, matched as GetUnitSymbol does.
+    static ErrorCode GetUnitType(const QString& name, kvp::IDesignPropertyUnits::teType& type);
+    // The numeric format with that invariant name, case ignored.
+    static ErrorCode GetNumberFormatId(const QString& name, NumberFormat& format);
 };
 
 } // namespace kavrel::platform::core::units

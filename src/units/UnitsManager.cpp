@@ -3,12 +3,25 @@
 #include <KvCoreUnits/LocaleUtil.h>
 #include <KvCoreUnits/StringUtil.h>
 
+#include <QLocale>
+
 namespace kavrel::platform::core::units {
 
 class UnitsManagerImp
 {
 public:
+    void SetLocale(const QString& name)
+    {
+        msLocale = name;
+        const QString qtName = locale::LocaleUtil::LocaleNameToQtLocaleName(name);
+        const QLocale locale = qtName.isEmpty() ? QLocale::c() : QLocale(qtName);
+        msDecimalSeparator = locale.decimalPoint();
+        msGroupSeparator = locale.groupSeparator();
+    }
+
     QString msLocale;
+    QString msDecimalSeparator;
+    QString msGroupSeparator;
 };
 
 namespace {
@@ -19,7 +32,7 @@ UnitsManager* gInstance = nullptr;
 UnitsManager::UnitsManager()
     : mpImp(std::make_unique<UnitsManagerImp>())
 {
-    mpImp->msLocale = locale::LocaleUtil::GetCurrentSystemLocale();
+    mpImp->SetLocale(locale::LocaleUtil::GetCurrentSystemLocale());
 }
 
 UnitsManager::~UnitsManager() = default;
@@ -56,12 +69,22 @@ void UnitsManager::SetCurrentLocale(const wchar_t* localeName)
     if (name.isEmpty())
         name = locale::LocaleUtil::GetCurrentSystemLocale();
     name.replace(QLatin1Char('_'), QLatin1Char('-'));
-    mpImp->msLocale = name;
+    mpImp->SetLocale(name);
 }
 
 QString UnitsManager::GetCurrentLocale() const
 {
     return mpImp->msLocale;
+}
+
+QString UnitsManager::GetDecimalSeparator() const
+{
+    return mpImp->msDecimalSeparator;
+}
+
+QString UnitsManager::GetGroupSeparator() const
+{
+    return mpImp->msGroupSeparator;
 }
 
 } // namespace kavrel::platform::core::units

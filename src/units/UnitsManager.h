@@ -25,6 +25,10 @@ public:
     // The name in the form "en-US" or "en_US"; empty selects the system locale.
     void SetCurrentLocale(const wchar_t* localeName);
     QString GetCurrentLocale() const;
+    // The current locale's decimal point and group separator; new formatters
+    // start with them.
+    QString GetDecimalSeparator() const;
+    QString GetGroupSeparator() const;
 
     ~UnitsManager();
 

@@ -92,7 +92,8 @@ bool CheckBox::event(QEvent* event)
 
 void CheckBox::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
         ApplyTextColor();
     QCheckBox::changeEvent(event);
 }

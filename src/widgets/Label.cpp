@@ -232,6 +232,9 @@ void Label::changeEvent(QEvent* event)
         }
     } else if (event->type() == QEvent::FontChange) {
         mpImp->UpdateFixedWidth();
+    } else if (event->type() == QEvent::StyleChange) {
+        // A style sheet's polish replaces the palette: colour it again after it.
+        mpImp->ApplyColor();
     }
     QLabel::changeEvent(event);
 }

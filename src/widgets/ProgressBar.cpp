@@ -5,6 +5,8 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QEvent>
+
 namespace Kavrel::UICore {
 
 ProgressBar::ProgressBar(QWidget* parent)
@@ -23,6 +25,14 @@ void ProgressBar::OnThemeChanged()
     if (color.isValid())
         Internal::SetTextColor(this, color);
     update();
+}
+
+void ProgressBar::changeEvent(QEvent* event)
+{
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if (event->type() == QEvent::StyleChange)
+        OnThemeChanged();
+    QProgressBar::changeEvent(event);
 }
 
 } // namespace Kavrel::UICore

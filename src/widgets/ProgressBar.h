@@ -15,6 +15,9 @@ public:
     explicit ProgressBar(QWidget* parent = nullptr);
     ~ProgressBar() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void OnThemeChanged();
 

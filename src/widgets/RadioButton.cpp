@@ -115,7 +115,8 @@ void RadioButton::ApplyTheme()
 
 void RadioButton::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
         ApplyTheme();
     QRadioButton::changeEvent(event);
 }

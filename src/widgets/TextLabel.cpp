@@ -85,7 +85,8 @@ void TextLabel::ApplyTheme()
 
 void TextLabel::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange && !mpImp->mbApplying)
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if ((event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange) && !mpImp->mbApplying)
         ApplyTheme();
     QLabel::changeEvent(event);
 }

@@ -65,7 +65,8 @@ void ToolButton::ApplyTheme()
 
 void ToolButton::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
         ApplyTheme();
     QToolButton::changeEvent(event);
 }

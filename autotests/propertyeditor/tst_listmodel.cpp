@@ -1,0 +1,145 @@
+#include <KvUICore/propertyeditor/ListItem.h>
+#include <KvUICore/propertyeditor/ListModel.h>
+
+#include <QAbstractItemModelTester>
+#include <QListView>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+QImage swatch(const QColor& color)
+{
+    QImage image(8, 8, QImage::Format_ARGB32);
+    image.fill(color);
+    return image;
+}
+
+// Reaches rows that index() refuses to make.
+class ProbeModel : public ListModel
+{
+public:
+    QModelIndex AnyRow(int row) const { return createIndex(row, 0); }
+};
+
+} // namespace
+
+class tst_ListModel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void data_data();
+    void data();
+    void nullItemChangesNothing();
+    void appendInsertsExactlyOneRowAtTheEnd();
+    void attachedViewShowsEveryRow();
+};
+
+void tst_ListModel::data_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("expected");
+
+    QTest::newRow("text") << 1 << int(Qt::DisplayRole) << QVariant(QStringLiteral("Red"));
+    QTest::newRow("image") << 1 << int(Qt::DecorationRole) << QVariant(swatch(Qt::red));
+    QTest::newRow("value") << 1 << int(Qt::UserRole) << QVariant(0xff0000);
+    QTest::newRow("edit role") << 1 << int(Qt::EditRole) << QVariant();
+    QTest::newRow("tool tip role") << 1 << int(Qt::ToolTipRole) << QVariant();
+    QTest::newRow("user role + 1") << 1 << int(Qt::UserRole + 1) << QVariant();
+    QTest::newRow("row -1") << -1 << int(Qt::DisplayRole) << QVariant();
+    QTest::newRow("row count") << 3 << int(Qt::DisplayRole) << QVariant();
+    QTest::newRow("text only: image") << 0 << int(Qt::DecorationRole) << QVariant(QImage());
+    QTest::newRow("text only: value") << 0 << int(Qt::UserRole) << QVariant();
+    QTest::newRow("item added by pointer") << 2 << int(Qt::UserRole) << QVariant(QStringLiteral("blue"));
+}
+
+void tst_ListModel::data()
+{
+    QFETCH(int, row);
+    QFETCH(int, role);
+    QFETCH(QVariant, expected);
+
+    ProbeModel model;
+    model.Add(QStringLiteral("Plain"));
+    model.Add(QStringLiteral("Red"), swatch(Qt::red), 0xff0000);
+    model.Add(new ListItem(QStringLiteral("Blue"), swatch(Qt::blue), QStringLiteral("blue")));
+    QCOMPARE(model.rowCount(), 3);
+
+    const QVariant actual = model.data(model.AnyRow(row), role);
+    QCOMPARE(actual.isValid(), expected.isValid());
+    if (expected.isValid()) {
+        QCOMPARE(actual.metaType(), expected.metaType());
+        QCOMPARE(actual, expected);
+    }
+}
+
+void tst_ListModel::nullItemChangesNothing()
+{
+    ListModel model;
+    model.Add(QStringLiteral("a"));
+    QSignalSpy aboutToInsert(&model, &QAbstractItemModel::rowsAboutToBeInserted);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    model.Add(static_cast<ListItem*>(nullptr));
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(aboutToInsert.count(), 0);
+    QCOMPARE(inserted.count(), 0);
+    QCOMPARE(reset.count(), 0);
+}
+
+void tst_ListModel::appendInsertsExactlyOneRowAtTheEnd()
+{
+    ListModel model;
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QSignalSpy aboutToInsert(&model, &QAbstractItemModel::rowsAboutToBeInserted);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    int countSeenBefore = -1;
+    connect(&model, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [&model, &countSeenBefore] { countSeenBefore = model.rowCount(); });
+
+    for (int i = 0; i < 4; ++i) {
+        if (i % 2)
+            model.Add(QStringLiteral("item %1").arg(i), QImage(), i);
+        else
+            model.Add(QStringLiteral("item %1").arg(i));
+        QCOMPARE(countSeenBefore, i);
+        QCOMPARE(aboutToInsert.count(), i + 1);
+        QCOMPARE(inserted.count(), i + 1);
+        const QList<QVariant> arguments = inserted.last();
+        QVERIFY(!arguments.at(0).value<QModelIndex>().isValid());
+        QCOMPARE(arguments.at(1).toInt(), i);
+        QCOMPARE(arguments.at(2).toInt(), i);
+    }
+    QCOMPARE(model.GetCount(), 4);
+    QCOMPARE(model.GetItem(3)->GetValue(), QVariant(3));
+    QCOMPARE(model.GetItem(4), nullptr);
+    QCOMPARE(model.GetItem(-1), nullptr);
+    QCOMPARE(model.rowCount(model.index(0)), 0);
+}
+
+void tst_ListModel::attachedViewShowsEveryRow()
+{
+    ListModel model;
+    QListView view;
+    view.setModel(&model);
+    view.resize(200, 300);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+
+    model.Add(QStringLiteral("First"));
+    model.Add(QStringLiteral("Second"), swatch(Qt::green), 2);
+    QCOMPARE(view.model()->rowCount(), 2);
+    const QRect first = view.visualRect(model.index(0));
+    const QRect second = view.visualRect(model.index(1));
+    QVERIFY(first.isValid());
+    QVERIFY(second.isValid());
+    QVERIFY(second.top() >= first.bottom());
+    QCOMPARE(view.indexAt(second.center()), model.index(1));
+}
+
+QTEST_MAIN(tst_ListModel)
+#include "tst_listmodel.moc"

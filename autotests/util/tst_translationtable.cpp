@@ -1,0 +1,220 @@
+#include <KvUICore/core/CoreUIManager.h>
+#include <KvUICore/util/Diagnostics_p.h>
+#include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/util/XmlFiler.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+QString xliff(const QString& units)
+{
+    return QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                          "<xliff version=\"1.2\" xmlns=\"urn:oasis:names:tc:xliff:document:1.2\">\n"
+                          "<file source-language=\"en-US\" target-language=\"de-DE\" datatype=\"plaintext\" "
+                          "original=\"pages\"><body>%1</body></file></xliff>\n")
+        .arg(units);
+}
+
+QString unit(const QString& id, const QString& target)
+{
+    return QStringLiteral("<trans-unit id=\"%1\"><source>%1</source><target>%2</target></trans-unit>").arg(id, target);
+}
+
+bool writeFile(const QString& path, const QString& text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(text.toUtf8());
+    return true;
+}
+
+void setLocale(const QString& locale)
+{
+    CoreUIManager::GetInstance()->SetCurrentLocale(locale.toStdWString().c_str());
+}
+
+} // namespace
+
+class tst_TranslationTable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void readsTransUnits();
+    void readsXliff2Units();
+    void malformedFileLeavesTableEmpty();
+    void renamingEmptiesTable();
+    void fileFoundByNameAndLocale_data();
+    void fileFoundByNameAndLocale();
+    void cacheIsKeyedByLowerCaseNameAndFollowsLocale();
+    void filerTranslatesThroughCachedTable();
+
+private:
+    QTemporaryDir mDir;
+};
+
+void tst_TranslationTable::initTestCase()
+{
+    QVERIFY(mDir.isValid());
+    const std::wstring folder = mDir.path().toStdWString();
+    QVERIFY(CoreUIManager::GetInstance()->SetTranslatorFilesPath(folder.c_str()));
+}
+
+void tst_TranslationTable::cleanup()
+{
+    TranslationTable::ClearCache();
+    Internal::SetDiagnosticHook({});
+}
+
+void tst_TranslationTable::readsTransUnits()
+{
+    const QString path = mDir.filePath(QStringLiteral("units.xlf"));
+    QVERIFY(writeFile(
+        path, xliff(unit(QStringLiteral("General"), QStringLiteral("Allgemein"))
+                    + QStringLiteral("<group id=\"g\">") + unit(QStringLiteral("Width"), QStringLiteral("Breite"))
+                    + QStringLiteral("</group>")
+                    + QStringLiteral("<trans-unit id=\"Untranslated\"><source>Untranslated</source></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
+                                     "<target>Fest</target></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
+                                     "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
+                                     "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
+    TranslationTable table(QStringLiteral("units"));
+    QVERIFY(table.LoadFile(path));
+    QCOMPARE(table.GetText(QStringLiteral("General")), QStringLiteral("Allgemein"));
+    QCOMPARE(table.GetText(QStringLiteral("Width")), QStringLiteral("Breite"));
+    QCOMPARE(table.GetText(QStringLiteral("Untranslated")), QStringLiteral("Untranslated"));
+    QVERIFY(!table.Contains(QStringLiteral("Untranslated")));
+    QCOMPARE(table.GetText(QStringLiteral("Empty")), QStringLiteral("Empty"));
+    QCOMPARE(table.GetText(QStringLiteral("Fixed")), QStringLiteral("Fixed"));
+    QCOMPARE(table.GetText(QStringLiteral("Zoom")), QStringLiteral("Vergrößerung"));
+    QCOMPARE(table.GetText(QStringLiteral("u7")), QStringLiteral("Vergrößerung"));
+    QCOMPARE(table.GetText(QStringLiteral("general")), QStringLiteral("general"));
+    QCOMPARE(table.GetText(QStringLiteral("Height")), QStringLiteral("Höhe"));
+    QCOMPARE(table.GetCount(), 5);
+}
+
+void tst_TranslationTable::readsXliff2Units()
+{
+    const QString path = mDir.filePath(QStringLiteral("units2.xlf"));
+    QVERIFY(writeFile(path, QStringLiteral("<xliff version=\"2.0\" xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" "
+                                           "srcLang=\"en\" trgLang=\"de\"><file id=\"f\">"
+                                           "<unit id=\"Greeting\"><segment><source>Hello.</source>"
+                                           "<target>Hallo.</target></segment><segment><source> Bye.</source>"
+                                           "<target> Tschüss.</target></segment></unit>"
+                                           "</file></xliff>")));
+    TranslationTable table;
+    QVERIFY(table.LoadFile(path));
+    QCOMPARE(table.GetText(QStringLiteral("Greeting")), QStringLiteral("Hallo. Tschüss."));
+}
+
+void tst_TranslationTable::malformedFileLeavesTableEmpty()
+{
+    const QString path = mDir.filePath(QStringLiteral("broken.xlf"));
+    QVERIFY(writeFile(path, QStringLiteral("<xliff><file><body><trans-unit id=\"a\"><target>x</target>")));
+    QStringList messages;
+    Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
+    TranslationTable table;
+    table.Insert(QStringLiteral("a"), QStringLiteral("old"));
+    QVERIFY(!table.LoadFile(path));
+    QCOMPARE(table.GetCount(), 0);
+    QCOMPARE(table.GetText(QStringLiteral("a")), QStringLiteral("a"));
+    QCOMPARE(messages.size(), 1);
+    QVERIFY(messages.first().contains(path));
+
+    messages.clear();
+    QVERIFY(!table.LoadFile(mDir.filePath(QStringLiteral("absent.xlf"))));
+    QVERIFY(messages.isEmpty());
+}
+
+void tst_TranslationTable::renamingEmptiesTable()
+{
+    TranslationTable table(QStringLiteral("Pages"));
+    table.Insert(QStringLiteral("a"), QStringLiteral("b"));
+    table.SetName(QStringLiteral("PAGES"));
+    QCOMPARE(table.GetCount(), 1);
+    QCOMPARE(table.GetName(), QStringLiteral("PAGES"));
+    table.SetName(QStringLiteral("Other"));
+    QCOMPARE(table.GetCount(), 0);
+}
+
+void tst_TranslationTable::fileFoundByNameAndLocale_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("expected");
+
+    const QStringList all = {QStringLiteral("Find_de-DE.xlf"), QStringLiteral("Find_de.xlf"),
+                             QStringLiteral("Find.xlf")};
+    QTest::newRow("full locale") << all << "de-DE" << "Find_de-DE.xlf";
+    QTest::newRow("language") << all << "de-AT" << "Find_de.xlf";
+    QTest::newRow("neutral") << all << "fr-FR" << "Find.xlf";
+    QTest::newRow("underscore form") << QStringList{QStringLiteral("Find_pt_BR.xliff")} << "pt-BR"
+                                     << "Find_pt_BR.xliff";
+    QTest::newRow("none") << QStringList{QStringLiteral("Other_de.xlf")} << "de-DE" << "";
+}
+
+void tst_TranslationTable::fileFoundByNameAndLocale()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, locale);
+    QFETCH(QString, expected);
+
+    QTemporaryDir folder;
+    for (const QString& file : std::as_const(files))
+        QVERIFY(writeFile(folder.filePath(file), xliff(QString())));
+    QVERIFY(CoreUIManager::GetInstance()->SetTranslatorFilesPath(folder.path().toStdWString().c_str()));
+    setLocale(locale);
+    TranslationTable table(QStringLiteral("Find"));
+    const QString found = table.FindTranslationFile();
+    QCOMPARE(found, expected.isEmpty() ? QString() : folder.filePath(expected));
+    QVERIFY(CoreUIManager::GetInstance()->SetTranslatorFilesPath(mDir.path().toStdWString().c_str()));
+}
+
+void tst_TranslationTable::cacheIsKeyedByLowerCaseNameAndFollowsLocale()
+{
+    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Cached_de-DE.xlf")),
+                      xliff(unit(QStringLiteral("Yes"), QStringLiteral("Ja")))));
+    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Cached_fr-FR.xlf")),
+                      xliff(unit(QStringLiteral("Yes"), QStringLiteral("Oui")))));
+    setLocale(QStringLiteral("de-DE"));
+    TranslationTable* table = TranslationTable::GetCached(QStringLiteral("Cached"));
+    QVERIFY(table);
+    QCOMPARE(TranslationTable::GetCached(QStringLiteral("CACHED")), table);
+    QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Ja"));
+    QVERIFY(!TranslationTable::GetCached(QString()));
+
+    setLocale(QStringLiteral("fr-FR"));
+    QCOMPARE(TranslationTable::GetCached(QStringLiteral("cached")), table);
+    QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Oui"));
+
+    setLocale(QStringLiteral("ja-JP"));
+    TranslationTable::GetCached(QStringLiteral("Cached"));
+    QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Yes"));
+}
+
+void tst_TranslationTable::filerTranslatesThroughCachedTable()
+{
+    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Page_de-DE.xlf")),
+                      xliff(unit(QStringLiteral("Group.Title"), QStringLiteral("Gruppe")))));
+    setLocale(QStringLiteral("de-DE"));
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root Label=\"tr( Group.Title )\" Other=\"tr(Missing)\"/>")));
+    filer.SetTranslationTable(TranslationTable::GetCached(QStringLiteral("page")));
+    QCOMPARE(filer.ReadString(QStringLiteral("Label")), QStringLiteral("Gruppe"));
+    QCOMPARE(filer.ReadString(QStringLiteral("Other")), QStringLiteral("Missing"));
+}
+
+QTEST_MAIN(tst_TranslationTable)
+#include "tst_translationtable.moc"

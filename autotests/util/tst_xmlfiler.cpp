@@ -1,0 +1,748 @@
+// test-options: TIMEOUT 300
+#include <KvUICore/util/Diagnostics_p.h>
+#include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/util/XmlFiler.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimeZone>
+
+#include <limits>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+const char* const kNavigationDocument = "<Root id=\"root\">"
+                                        "<A id=\"a\"><B id=\"b1\"/><B id=\"b2\"><C id=\"c\"/></B></A>"
+                                        "<Other id=\"o\"/>"
+                                        "</Root>";
+
+const XmlWordTable& alignmentTable()
+{
+    static const XmlWordTable table = {
+        {0x1, QStringLiteral("AlignLeft")},  {0x2, QStringLiteral("AlignRight")},
+        {0x4, QStringLiteral("AlignHCenter")}, {0x20, QStringLiteral("AlignTop")},
+        {0x40, QStringLiteral("AlignBottom")}, {0x80, QStringLiteral("AlignVCenter")},
+        {0x84, QStringLiteral("AlignCenter")},
+    };
+    return table;
+}
+
+const XmlWordTable& placementTable()
+{
+    static const XmlWordTable table = {
+        {0, QStringLiteral("Default")}, {1, QStringLiteral("Left")}, {2, QStringLiteral("FullRow")},
+        {3, QStringLiteral("Control")}};
+    return table;
+}
+
+// Collects the diagnostic texts written while it lives.
+class DiagnosticRecorder
+{
+public:
+    DiagnosticRecorder()
+    {
+        Internal::SetDiagnosticHook([this](const QString& text) { mTexts.append(text); });
+    }
+    ~DiagnosticRecorder() { Internal::SetDiagnosticHook({}); }
+    QStringList mTexts;
+};
+
+// Two complete versions of a document, told apart by their element counts.
+QString versionedDocument(int version)
+{
+    const int count = version == 1 ? 2000 : 3000;
+    QString xml = QStringLiteral("<Root version=\"%1\" count=\"%2\">").arg(version).arg(count);
+    for (int i = 0; i < count; ++i)
+        xml += QStringLiteral("<Item index=\"%1\" text=\"padding padding padding %1\"/>").arg(i);
+    xml += QStringLiteral("</Root>");
+    return xml;
+}
+
+const char* const kSaveChildVariable = "KVUICORE_XMLFILER_SAVE_CHILD";
+
+} // namespace
+
+class tst_XmlFiler : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void openMissingFileFailsSilently();
+    void openUnreadableFileWritesMessage();
+    void openMalformedFileFails();
+    void parseSetsCursorToDocumentElement();
+
+    void goToPath_data();
+    void goToPath();
+    void siblingsParentsAndRememberedPositions();
+
+    void typedReaders_data();
+    void typedReaders();
+    void enumsAndFlags_data();
+    void enumsAndFlags();
+
+    void translation_data();
+    void translation();
+
+    void writersRoundTripThroughFile();
+    void elementContentRoundTrips();
+    void createPathAndRemove();
+    void insertFragment();
+    void outerXmlIsTheElementWithItsSubtree();
+    void savingKeepsEveryCharacter_data();
+    void savingKeepsEveryCharacter();
+
+    void saveEmptyDocumentCreatesNoFile();
+    void openOrCreate();
+    void openOrCreateKeepsMalformedFile();
+    void saveIfModified();
+    void killedSaveNeverTruncatesFile();
+
+private:
+    QTemporaryDir mDir;
+};
+
+void tst_XmlFiler::initTestCase()
+{
+    // Child mode of killedSaveNeverTruncatesFile: save until killed.
+    const QByteArray target = qgetenv(kSaveChildVariable);
+    if (!target.isEmpty()) {
+        XmlFiler first;
+        XmlFiler second;
+        first.Parse(versionedDocument(1));
+        second.Parse(versionedDocument(2));
+        for (int i = 0;; ++i)
+            (i % 2 ? second : first).Save(QString::fromLocal8Bit(target));
+    }
+    QVERIFY(mDir.isValid());
+}
+
+void tst_XmlFiler::openMissingFileFailsSilently()
+{
+    DiagnosticRecorder recorder;
+    XmlFiler filer;
+    QVERIFY(!filer.Open(mDir.filePath(QStringLiteral("missing.xml"))));
+    QVERIFY(filer.GetFileName().isEmpty());
+    QVERIFY(recorder.mTexts.isEmpty());
+}
+
+void tst_XmlFiler::openUnreadableFileWritesMessage()
+{
+    // A folder exists but can't be opened as a file.
+    const QString path = mDir.filePath(QStringLiteral("folder.xml"));
+    QVERIFY(QDir().mkpath(path));
+    DiagnosticRecorder recorder;
+    XmlFiler filer;
+    QVERIFY(!filer.Open(path));
+    QCOMPARE(recorder.mTexts.size(), 1);
+    QVERIFY2(recorder.mTexts.first().startsWith(QStringLiteral("XmlFiler: Failed to open file %1. ").arg(path)),
+             qPrintable(recorder.mTexts.first()));
+    QVERIFY(recorder.mTexts.first().contains(QRegularExpression(QStringLiteral("\\(Error code: \\d+\\)$"))));
+}
+
+void tst_XmlFiler::openMalformedFileFails()
+{
+    const QString path = mDir.filePath(QStringLiteral("malformed.xml"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<Root><Open></Root>");
+    file.close();
+    XmlFiler filer;
+    QVERIFY(!filer.Open(path));
+    QVERIFY(filer.ToString().isEmpty());
+    QVERIFY(!filer.GoToDocumentElement());
+}
+
+void tst_XmlFiler::parseSetsCursorToDocumentElement()
+{
+    XmlFiler filer;
+    QVERIFY(!filer.Parse(QStringLiteral("not xml")));
+    QVERIFY(filer.Parse(QString::fromLatin1(kNavigationDocument)));
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("root"));
+    QCOMPARE(filer.GetChildElementCount(), 2);
+}
+
+void tst_XmlFiler::goToPath_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<QString>("expectedId");
+
+    QTest::newRow("empty path stays") << "/Root/A" << "" << true << "a";
+    QTest::newRow("blank path stays") << "/Root/A" << "   " << true << "a";
+    QTest::newRow("absolute root") << "/Root/A" << "/Root" << true << "root";
+    QTest::newRow("slash alone is the root") << "/Root/A" << "/" << true << "root";
+    QTest::newRow("absolute takes first of a name") << "" << "/Root/A/B" << true << "b1";
+    QTest::newRow("absolute with wrong root fails") << "/Root/A" << "/Other/X" << false << "a";
+    QTest::newRow("missing below first of a name fails") << "/Root/A" << "/Root/A/B/C" << false << "a";
+    QTest::newRow("backslashes") << "" << "\\Root\\Other" << true << "o";
+    QTest::newRow("relative") << "" << "A/B" << true << "b1";
+    QTest::newRow("empty components skipped") << "" << "A//B/" << true << "b1";
+    QTest::newRow("relative from cursor") << "/Root/A" << "B" << true << "b1";
+    QTest::newRow("relative missing fails") << "/Root/A" << "Other" << false << "a";
+    QTest::newRow("parent component") << "/Root/A" << "../Other" << true << "o";
+    QTest::newRow("dot component") << "/Root/A" << "./B" << true << "b1";
+    QTest::newRow("trimmed") << "" << "  A/B  " << true << "b1";
+    QTest::newRow("case matters") << "" << "a/b" << false << "root";
+}
+
+void tst_XmlFiler::goToPath()
+{
+    QFETCH(QString, start);
+    QFETCH(QString, path);
+    QFETCH(bool, found);
+    QFETCH(QString, expectedId);
+
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QString::fromLatin1(kNavigationDocument)));
+    QVERIFY(filer.GoToPath(start));
+    QCOMPARE(filer.GoToPath(path), found);
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), expectedId);
+}
+
+void tst_XmlFiler::siblingsParentsAndRememberedPositions()
+{
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QString::fromLatin1(kNavigationDocument)));
+    QVERIFY(!filer.GoToParent());
+    QVERIFY(!filer.GoToNextSibling());
+    QVERIFY(!filer.RestorePosition());
+
+    filer.RememberPosition();
+    QVERIFY(filer.GoToFirstChild());
+    QCOMPARE(filer.GetElementName(), QStringLiteral("A"));
+    filer.RememberPosition();
+    QVERIFY(filer.GoToFirstChild(QStringLiteral("B")));
+    QVERIFY(filer.GoToNextSibling());
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("b2"));
+    QVERIFY(!filer.GoToNextSibling());
+    QVERIFY(!filer.GoToFirstChild(QStringLiteral("Missing")));
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("b2"));
+    QVERIFY(filer.GoToFirstChild());
+    QVERIFY(!filer.GoToFirstChild());
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("c"));
+    QVERIFY(filer.GoToParent());
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("b2"));
+
+    QVERIFY(filer.RestorePosition());
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("a"));
+    QVERIFY(filer.GoToNextSibling(QStringLiteral("Other")));
+    QVERIFY(filer.RestorePosition());
+    QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("root"));
+    QVERIFY(!filer.RestorePosition());
+}
+
+void tst_XmlFiler::typedReaders_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("present");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("defaultValue");
+    QTest::addColumn<QVariant>("expected");
+
+    const QVariant intDefault = QVariant(-7);
+    QTest::newRow("int absent") << "int" << false << "" << intDefault << intDefault;
+    QTest::newRow("int empty") << "int" << true << "" << intDefault << intDefault;
+    QTest::newRow("int malformed") << "int" << true << "12abc" << intDefault << intDefault;
+    QTest::newRow("int") << "int" << true << " -42 " << intDefault << QVariant(-42);
+    QTest::newRow("int hex") << "int" << true << "0x1F" << intDefault << QVariant(31);
+    QTest::newRow("int leading zero is decimal") << "int" << true << "010" << intDefault << QVariant(10);
+    QTest::newRow("int overflow") << "int" << true << "4294967296" << intDefault << intDefault;
+    QTest::newRow("uint negative") << "uint" << true << "-1" << QVariant(5u) << QVariant(5u);
+    QTest::newRow("uint max") << "uint" << true << "4294967295" << QVariant(5u) << QVariant(4294967295u);
+    QTest::newRow("long") << "long" << true << "-123456" << QVariant::fromValue(1L)
+                          << QVariant::fromValue(-123456L);
+    QTest::newRow("ulong") << "ulong" << true << "123456" << QVariant::fromValue(1UL)
+                           << QVariant::fromValue(123456UL);
+    QTest::newRow("longlong") << "longlong" << true << "-9223372036854775808" << QVariant(1LL)
+                              << QVariant(std::numeric_limits<qlonglong>::min());
+    QTest::newRow("ulonglong") << "ulonglong" << true << "18446744073709551615" << QVariant(1ULL)
+                               << QVariant(std::numeric_limits<qulonglong>::max());
+    QTest::newRow("double") << "double" << true << "2.5e-3" << QVariant(1.0) << QVariant(0.0025);
+    QTest::newRow("double comma is malformed") << "double" << true << "2,5" << QVariant(1.0) << QVariant(1.0);
+    QTest::newRow("double empty") << "double" << true << "" << QVariant(1.0) << QVariant(1.0);
+    QTest::newRow("bool True") << "bool" << true << "True" << QVariant(false) << QVariant(true);
+    QTest::newRow("bool lower false") << "bool" << true << "false" << QVariant(true) << QVariant(false);
+    QTest::newRow("bool malformed") << "bool" << true << "yes" << QVariant(true) << QVariant(true);
+    QTest::newRow("bool absent") << "bool" << false << "" << QVariant(true) << QVariant(true);
+    QTest::newRow("rect") << "rect" << true << "1, 2,30,40" << QVariant(QRect(9, 9, 9, 9))
+                          << QVariant(QRect(1, 2, 30, 40));
+    QTest::newRow("rect too short") << "rect" << true << "1,2,3" << QVariant(QRect(9, 9, 9, 9))
+                                    << QVariant(QRect(9, 9, 9, 9));
+    QTest::newRow("rect malformed part") << "rect" << true << "1,2,x,4" << QVariant(QRect(9, 9, 9, 9))
+                                         << QVariant(QRect(9, 9, 9, 9));
+    QTest::newRow("size") << "size" << true << "640,480" << QVariant(QSize()) << QVariant(QSize(640, 480));
+    QTest::newRow("size empty") << "size" << true << "" << QVariant(QSize(1, 1)) << QVariant(QSize(1, 1));
+    QTest::newRow("point") << "point" << true << "-3,4" << QVariant(QPoint()) << QVariant(QPoint(-3, 4));
+    QTest::newRow("point too long") << "point" << true << "1,2,3" << QVariant(QPoint(7, 7)) << QVariant(QPoint(7, 7));
+    const QDateTime fallback(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
+    QTest::newRow("datetime utc") << "datetime" << true << "2024-02-29T13:14:15.678Z" << QVariant(fallback)
+                                  << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 14, 15, 678), Qt::UTC));
+    QTest::newRow("datetime offset")
+        << "datetime" << true << "2024-02-29T15:14:15+02:00" << QVariant(fallback)
+        << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 14, 15), Qt::UTC));
+    QTest::newRow("datetime malformed") << "datetime" << true << "yesterday" << QVariant(fallback)
+                                        << QVariant(fallback);
+    QTest::newRow("string absent") << "string" << false << "" << QVariant(QStringLiteral("def"))
+                                   << QVariant(QStringLiteral("def"));
+    QTest::newRow("string empty is a value") << "string" << true << "" << QVariant(QStringLiteral("def"))
+                                             << QVariant(QString());
+}
+
+void tst_XmlFiler::typedReaders()
+{
+    QFETCH(QString, type);
+    QFETCH(bool, present);
+    QFETCH(QString, text);
+    QFETCH(QVariant, defaultValue);
+    QFETCH(QVariant, expected);
+
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
+    if (present)
+        QVERIFY(filer.WriteString(QStringLiteral("v"), text));
+    const QString name = QStringLiteral("v");
+    QVariant actual;
+    if (type == QLatin1String("int"))
+        actual = filer.ReadInt(name, defaultValue.toInt());
+    else if (type == QLatin1String("uint"))
+        actual = filer.ReadUInt(name, defaultValue.toUInt());
+    else if (type == QLatin1String("long"))
+        actual = QVariant::fromValue(filer.ReadLong(name, defaultValue.value<long>()));
+    else if (type == QLatin1String("ulong"))
+        actual = QVariant::fromValue(filer.ReadULong(name, defaultValue.value<ulong>()));
+    else if (type == QLatin1String("longlong"))
+        actual = filer.ReadLongLong(name, defaultValue.toLongLong());
+    else if (type == QLatin1String("ulonglong"))
+        actual = filer.ReadULongLong(name, defaultValue.toULongLong());
+    else if (type == QLatin1String("double"))
+        actual = filer.ReadDouble(name, defaultValue.toDouble());
+    else if (type == QLatin1String("bool"))
+        actual = filer.ReadBool(name, defaultValue.toBool());
+    else if (type == QLatin1String("rect"))
+        actual = filer.ReadRect(name, defaultValue.toRect());
+    else if (type == QLatin1String("size"))
+        actual = filer.ReadSize(name, defaultValue.toSize());
+    else if (type == QLatin1String("point"))
+        actual = filer.ReadPoint(name, defaultValue.toPoint());
+    else if (type == QLatin1String("datetime"))
+        actual = filer.ReadDateTime(name, defaultValue.toDateTime());
+    else
+        actual = filer.ReadString(name, defaultValue.toString());
+    QCOMPARE(actual, expected);
+}
+
+void tst_XmlFiler::enumsAndFlags_data()
+{
+    QTest::addColumn<bool>("flags");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("flags double comma") << true << "AlignLeft,,AlignTop" << 0x21;
+    QTest::newRow("flags any case with blanks") << true << "alignleft, ALIGNTOP" << 0x21;
+    QTest::newRow("flags combined word") << true << "AlignCenter" << 0x84;
+    QTest::newRow("flags unknown word") << true << "AlignNowhere" << 0x82;
+    QTest::newRow("flags unknown word ignored") << true << "AlignNowhere,AlignBottom" << 0x40;
+    QTest::newRow("flags empty") << true << "" << 0x82;
+    QTest::newRow("flags commas only") << true << ",," << 0x82;
+    QTest::newRow("enum any case") << false << "fullrow" << 2;
+    QTest::newRow("enum unknown") << false << "Right" << 1;
+    QTest::newRow("enum empty") << false << "" << 1;
+    QTest::newRow("enum list is not a word") << false << "Left,Control" << 1;
+}
+
+void tst_XmlFiler::enumsAndFlags()
+{
+    QFETCH(bool, flags);
+    QFETCH(QString, text);
+    QFETCH(int, expected);
+
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
+    QVERIFY(filer.WriteString(QStringLiteral("v"), text));
+    const int actual = flags ? filer.ReadFlags(QStringLiteral("v"), alignmentTable(), 0x82)
+                             : filer.ReadEnum(QStringLiteral("v"), placementTable(), 1);
+    QCOMPARE(actual, expected);
+}
+
+void tst_XmlFiler::translation_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("withTable");
+    QTest::addColumn<bool>("translate");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("id without table") << "tr(General)" << false << true << "General";
+    QTest::newRow("blanks and case") << "  TR ( General )  " << false << true << "General";
+    QTest::newRow("table text") << "tr(General)" << true << true << "Allgemein";
+    QTest::newRow("table text, blanks") << "tr( General )" << true << true << "Allgemein";
+    QTest::newRow("id missing from table") << "tr(Other)" << true << true << "Other";
+    QTest::newRow("translation off") << "tr(General)" << true << false << "tr(General)";
+    QTest::newRow("plain text") << "General" << true << true << "General";
+    QTest::newRow("no closing parenthesis") << "tr(General" << true << true << "tr(General";
+    QTest::newRow("prefix before tr") << "xtr(General)" << true << true << "xtr(General)";
+    QTest::newRow("text after parenthesis") << "tr(General) x" << true << true << "tr(General) x";
+}
+
+void tst_XmlFiler::translation()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, withTable);
+    QFETCH(bool, translate);
+    QFETCH(QString, expected);
+
+    TranslationTable table(QStringLiteral("Pages"));
+    table.Insert(QStringLiteral("General"), QStringLiteral("Allgemein"));
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
+    QVERIFY(filer.WriteString(QStringLiteral("Label"), text));
+    if (withTable)
+        filer.SetTranslationTable(&table);
+    filer.SetTranslate(translate);
+    QCOMPARE(filer.ReadString(QStringLiteral("Label")), expected);
+    QCOMPARE(filer.Translate(text), expected);
+}
+
+void tst_XmlFiler::writersRoundTripThroughFile()
+{
+    const QString path = mDir.filePath(QStringLiteral("roundtrip.xml"));
+    const QDateTime utc(QDate(2023, 7, 1), QTime(23, 59, 58, 999), Qt::UTC);
+    const QDateTime offset(QDate(2023, 7, 1), QTime(8, 0), QTimeZone(-5 * 3600));
+    const QDateTime local(QDate(2023, 1, 15), QTime(12, 30, 0, 5), Qt::LocalTime);
+    {
+        XmlFiler filer;
+        QVERIFY(filer.OpenOrCreate(path));
+        QVERIFY(filer.CreatePath(QStringLiteral("/Root/Settings/Window")));
+        QVERIFY(filer.WriteString(QStringLiteral("s"), QStringLiteral("a \"quoted\" <text> & 'more'\n\ttab")));
+        QVERIFY(filer.WriteInt(QStringLiteral("i"), std::numeric_limits<int>::min()));
+        QVERIFY(filer.WriteUInt(QStringLiteral("u"), std::numeric_limits<uint>::max()));
+        QVERIFY(filer.WriteLong(QStringLiteral("l"), std::numeric_limits<long>::min()));
+        QVERIFY(filer.WriteULong(QStringLiteral("ul"), std::numeric_limits<ulong>::max()));
+        QVERIFY(filer.WriteLongLong(QStringLiteral("ll"), std::numeric_limits<qlonglong>::min()));
+        QVERIFY(filer.WriteULongLong(QStringLiteral("ull"), std::numeric_limits<qulonglong>::max()));
+        QVERIFY(filer.WriteDouble(QStringLiteral("d1"), 0.1));
+        QVERIFY(filer.WriteDouble(QStringLiteral("d2"), -1.7976931348623157e308));
+        QVERIFY(filer.WriteDouble(QStringLiteral("d3"), 5e-324));
+        QVERIFY(filer.WriteBool(QStringLiteral("t"), true));
+        QVERIFY(filer.WriteBool(QStringLiteral("f"), false));
+        QVERIFY(filer.WriteDateTime(QStringLiteral("utc"), utc));
+        QVERIFY(filer.WriteDateTime(QStringLiteral("offset"), offset));
+        QVERIFY(filer.WriteDateTime(QStringLiteral("local"), local));
+        QVERIFY(filer.WriteRect(QStringLiteral("r"), QRect(-10, 20, 300, 400)));
+        QVERIFY(filer.WriteSize(QStringLiteral("sz"), QSize(1920, 1080)));
+        QVERIFY(filer.WritePoint(QStringLiteral("p"), QPoint(-5, 6)));
+        QVERIFY(filer.WriteEnum(QStringLiteral("e"), placementTable(), 3));
+        QVERIFY(!filer.WriteEnum(QStringLiteral("e2"), placementTable(), 42));
+        QVERIFY(filer.WriteFlags(QStringLiteral("fl"), alignmentTable(), 0x84 | 0x20));
+        QVERIFY(!filer.WriteFlags(QStringLiteral("fl2"), alignmentTable(), 0x100));
+        QVERIFY(filer.IsModified());
+        QVERIFY(filer.Save());
+        QVERIFY(!filer.IsModified());
+        QVERIFY(filer.GetLastSaveTime().isValid());
+    }
+    XmlFiler filer;
+    QVERIFY(filer.Open(path));
+    QCOMPARE(filer.GetFileName(), path);
+    {
+        XmlFiler parsed;
+        QVERIFY(parsed.Open(path));
+        QVERIFY(parsed.Parse(QStringLiteral("<Other/>")));
+        QVERIFY(parsed.GetFileName().isEmpty());
+        QVERIFY(!parsed.Save());
+    }
+    QVERIFY(filer.GoToPath(QStringLiteral("Settings/Window")));
+    QCOMPARE(filer.ReadString(QStringLiteral("s")), QStringLiteral("a \"quoted\" <text> & 'more'\n\ttab"));
+    QCOMPARE(filer.ReadInt(QStringLiteral("i")), std::numeric_limits<int>::min());
+    QCOMPARE(filer.ReadUInt(QStringLiteral("u")), std::numeric_limits<uint>::max());
+    QCOMPARE(filer.ReadLong(QStringLiteral("l")), std::numeric_limits<long>::min());
+    QCOMPARE(filer.ReadULong(QStringLiteral("ul")), std::numeric_limits<ulong>::max());
+    QCOMPARE(filer.ReadLongLong(QStringLiteral("ll")), std::numeric_limits<qlonglong>::min());
+    QCOMPARE(filer.ReadULongLong(QStringLiteral("ull")), std::numeric_limits<qulonglong>::max());
+    QCOMPARE(filer.ReadDouble(QStringLiteral("d1")), 0.1);
+    QCOMPARE(filer.ReadDouble(QStringLiteral("d2")), -1.7976931348623157e308);
+    QCOMPARE(filer.ReadDouble(QStringLiteral("d3")), 5e-324);
+    QCOMPARE(filer.ReadBool(QStringLiteral("t"), false), true);
+    QCOMPARE(filer.ReadBool(QStringLiteral("f"), true), false);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("utc")), utc);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("utc")).timeSpec(), Qt::UTC);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("offset")), offset);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("offset")).offsetFromUtc(), -5 * 3600);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("local")), local);
+    QCOMPARE(filer.ReadDateTime(QStringLiteral("local")).timeSpec(), Qt::LocalTime);
+    QCOMPARE(filer.ReadRect(QStringLiteral("r")), QRect(-10, 20, 300, 400));
+    QCOMPARE(filer.ReadString(QStringLiteral("r")), QStringLiteral("-10,20,300,400"));
+    QCOMPARE(filer.ReadSize(QStringLiteral("sz")), QSize(1920, 1080));
+    QCOMPARE(filer.ReadString(QStringLiteral("sz")), QStringLiteral("1920,1080"));
+    QCOMPARE(filer.ReadPoint(QStringLiteral("p")), QPoint(-5, 6));
+    QCOMPARE(filer.ReadString(QStringLiteral("t")), QStringLiteral("True"));
+    QCOMPARE(filer.ReadString(QStringLiteral("f")), QStringLiteral("False"));
+    QCOMPARE(filer.ReadString(QStringLiteral("e")), QStringLiteral("Control"));
+    QCOMPARE(filer.ReadEnum(QStringLiteral("e"), placementTable(), 0), 3);
+    QVERIFY(!filer.HasAttribute(QStringLiteral("e2")));
+    QCOMPARE(filer.ReadString(QStringLiteral("fl")), QStringLiteral("AlignCenter,AlignTop"));
+    QCOMPARE(filer.ReadFlags(QStringLiteral("fl"), alignmentTable(), 0), 0xA4);
+    QVERIFY(!filer.HasAttribute(QStringLiteral("fl2")));
+    QVERIFY(!filer.IsModified());
+}
+
+void tst_XmlFiler::elementContentRoundTrips()
+{
+    const QString path = mDir.filePath(QStringLiteral("content.xml"));
+    QByteArray binary;
+    for (int i = 0; i < 256; ++i)
+        binary.append(char(i));
+    const QString cdata = QStringLiteral("if (a < b && c]]>d) { }");
+    {
+        XmlFiler filer;
+        QVERIFY(filer.OpenOrCreate(path));
+        QVERIFY(filer.CreateElement(QStringLiteral("Text")));
+        QVERIFY(filer.WriteElementText(QStringLiteral("first")));
+        QVERIFY(filer.WriteElementText(QStringLiteral("plain <&> text")));
+        QVERIFY(filer.GoToParent());
+        QVERIFY(filer.CreateElement(QStringLiteral("Script")));
+        QVERIFY(filer.WriteElementText(cdata, true));
+        QVERIFY(filer.GoToParent());
+        QVERIFY(filer.CreateElement(QStringLiteral("Blob")));
+        QVERIFY(filer.WriteBinary(binary));
+        QVERIFY(filer.Save());
+    }
+    XmlFiler filer;
+    QVERIFY(filer.Open(path));
+    QVERIFY(filer.GoToFirstChild(QStringLiteral("Text")));
+    QCOMPARE(filer.ReadElementText(), QStringLiteral("plain <&> text"));
+    QVERIFY(filer.GoToNextSibling(QStringLiteral("Script")));
+    QCOMPARE(filer.ReadElementText(), cdata);
+    QVERIFY(filer.GoToNextSibling(QStringLiteral("Blob")));
+    QCOMPARE(filer.ReadBinary(), binary);
+
+    QVERIFY(filer.Parse(QStringLiteral("<Root><Page><A x=\"1\"/>text<B/></Page></Root>")));
+    QVERIFY(filer.GoToFirstChild());
+    const QString inner = filer.ReadInnerXml();
+    QVERIFY(inner.contains(QStringLiteral("<A x=\"1\"/>")));
+    QVERIFY(inner.contains(QStringLiteral("text")));
+    QVERIFY(inner.contains(QStringLiteral("<B/>")));
+    XmlFiler reparsed;
+    QVERIFY(reparsed.Parse(QStringLiteral("<W>") + inner + QStringLiteral("</W>")));
+    QCOMPARE(reparsed.GetChildElementCount(), 2);
+}
+
+void tst_XmlFiler::createPathAndRemove()
+{
+    XmlFiler filer;
+    QVERIFY(filer.CreatePath(QStringLiteral("/Settings/Recent/Files")));
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Files"));
+    QVERIFY(filer.GoToDocumentElement());
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Settings"));
+    QVERIFY(!filer.CreatePath(QStringLiteral("/Other/Recent")));
+    QVERIFY(!filer.CreatePath(QStringLiteral("Bad Name/X")));
+    QVERIFY(!filer.CreateElement(QStringLiteral("1st")));
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Settings"));
+
+    // An existing component is reused, not duplicated.
+    QVERIFY(filer.CreatePath(QStringLiteral("Recent\\Files")));
+    QVERIFY(filer.GoToDocumentElement());
+    QVERIFY(filer.GoToFirstChild());
+    QCOMPARE(filer.GetChildElementCount(), 1);
+
+    QVERIFY(filer.CreateElement(QStringLiteral("Files")));
+    QVERIFY(filer.GoToParent());
+    QCOMPARE(filer.GetChildElementCount(), 2);
+    QVERIFY(filer.WriteInt(QStringLiteral("n"), 1));
+    QVERIFY(filer.RemoveAttribute(QStringLiteral("n")));
+    QVERIFY(!filer.RemoveAttribute(QStringLiteral("n")));
+    QCOMPARE(filer.RemoveChildren(QStringLiteral("Files")), 2);
+    QCOMPARE(filer.GetChildElementCount(), 0);
+
+    QVERIFY(filer.RemoveCurrentElement());
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Settings"));
+    QCOMPARE(filer.GetChildElementCount(), 0);
+    QVERIFY(filer.RemoveCurrentElement());
+    QVERIFY(filer.ToString().isEmpty());
+    QVERIFY(!filer.GoToDocumentElement());
+}
+
+void tst_XmlFiler::insertFragment()
+{
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root><Existing/></Root>")));
+    filer.SetModified(false);
+    QVERIFY(!filer.InsertFragment(QStringLiteral("<Broken>")));
+    QVERIFY(!filer.IsModified());
+    QVERIFY(filer.InsertFragment(QStringLiteral("<A v=\"1\"/><B><C/></B>")));
+    QVERIFY(filer.IsModified());
+    QCOMPARE(filer.GetChildElementCount(), 3);
+    QVERIFY(filer.GoToPath(QStringLiteral("B/C")));
+    QVERIFY(filer.GoToPath(QStringLiteral("/Root/A")));
+    QCOMPARE(filer.ReadInt(QStringLiteral("v")), 1);
+}
+
+void tst_XmlFiler::outerXmlIsTheElementWithItsSubtree()
+{
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root><Def LabelColumnWidth=\"90\"><PageElement/></Def></Root>")));
+    QVERIFY(filer.GoToFirstChild());
+    XmlFiler inner;
+    QVERIFY(inner.Parse(filer.ReadOuterXml()));
+    QCOMPARE(inner.GetElementName(), QStringLiteral("Def"));
+    QCOMPARE(inner.ReadInt(QStringLiteral("LabelColumnWidth")), 90);
+    QVERIFY(inner.GoToFirstChild(QStringLiteral("PageElement")));
+}
+
+void tst_XmlFiler::savingKeepsEveryCharacter_data()
+{
+    QTest::addColumn<QString>("declaration");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("expectedBytes");
+    QTest::addColumn<QString>("expectedEncoding");
+
+    QTest::newRow("latin-1 text in latin-1") << "ISO-8859-1" << QString::fromUtf8("caf\u00e9") << QByteArray("caf\xe9")
+                                             << "ISO-8859-1";
+    QTest::newRow("euro sign in latin-1") << "ISO-8859-1" << QString::fromUtf8("5 \u20ac")
+                                          << QByteArray("5 \xe2\x82\xac") << "UTF-8";
+    QTest::newRow("unknown encoding") << "x-no-such-encoding" << QString::fromUtf8("\u00e9") << QByteArray("\xc3\xa9")
+                                      << "UTF-8";
+    QTest::newRow("utf-8") << "UTF-8" << QString::fromUtf8("\u0436\u20ac") << QByteArray("\xd0\xb6\xe2\x82\xac")
+                           << "UTF-8";
+}
+
+void tst_XmlFiler::savingKeepsEveryCharacter()
+{
+    QFETCH(QString, declaration);
+    QFETCH(QString, text);
+    QFETCH(QByteArray, expectedBytes);
+    QFETCH(QString, expectedEncoding);
+
+    const QString path = mDir.filePath(QStringLiteral("encoding.xml"));
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?><Root/>").arg(declaration)));
+    QVERIFY(filer.WriteString(QStringLiteral("Text"), text));
+    if (declaration.startsWith(QLatin1String("x-")))
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Unsupported encoding")));
+    QVERIFY(filer.Save(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QVERIFY2(bytes.contains(expectedBytes), bytes.constData());
+    const QRegularExpression encoding(QStringLiteral("^<\\?xml [^>]*encoding=[\"']%1[\"']").arg(expectedEncoding));
+    QVERIFY2(encoding.match(QString::fromLatin1(bytes)).hasMatch(), bytes.constData());
+
+    XmlFiler reopened;
+    QVERIFY(reopened.Open(path));
+    QCOMPARE(reopened.ReadString(QStringLiteral("Text")), text);
+}
+
+void tst_XmlFiler::saveEmptyDocumentCreatesNoFile()
+{
+    const QString path = mDir.filePath(QStringLiteral("empty.xml"));
+    XmlFiler filer;
+    QVERIFY(!filer.Save(path));
+    QVERIFY(!QFile::exists(path));
+    QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
+    QVERIFY(!filer.Save(mDir.filePath(QStringLiteral("no/such/folder/file.xml"))));
+    QVERIFY(!filer.Save());
+}
+
+void tst_XmlFiler::openOrCreate()
+{
+    const QString path = mDir.filePath(QStringLiteral("created.xml"));
+    XmlFiler filer;
+    QVERIFY(filer.OpenOrCreate(path));
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Root"));
+    QVERIFY(filer.ToString().startsWith(QStringLiteral("<?xml version=\"1.0\"?>")));
+    QVERIFY(filer.SaveIfModified());
+    QVERIFY(QFile::exists(path));
+
+    XmlFiler reopened;
+    QVERIFY(reopened.OpenOrCreate(path));
+    QVERIFY(!reopened.IsModified());
+    QCOMPARE(reopened.ToString().count(QStringLiteral("<?xml")), 1);
+
+    // An empty file is a settings file with nothing in it yet.
+    const QString emptyPath = mDir.filePath(QStringLiteral("zero.xml"));
+    QFile empty(emptyPath);
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    empty.close();
+    XmlFiler fromEmpty;
+    QVERIFY(fromEmpty.OpenOrCreate(emptyPath));
+    QCOMPARE(fromEmpty.GetElementName(), QStringLiteral("Root"));
+    QCOMPARE(fromEmpty.GetFileName(), emptyPath);
+}
+
+void tst_XmlFiler::openOrCreateKeepsMalformedFile()
+{
+    const QString path = mDir.filePath(QStringLiteral("broken-settings.xml"));
+    const QByteArray content = "<Root><Unclosed></Root>";
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    XmlFiler filer;
+    QVERIFY(!filer.OpenOrCreate(path));
+    QVERIFY(filer.SaveIfModified());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), content);
+}
+
+void tst_XmlFiler::saveIfModified()
+{
+    const QString path = mDir.filePath(QStringLiteral("modified.xml"));
+    XmlFiler filer;
+    QVERIFY(filer.OpenOrCreate(path));
+    QVERIFY(filer.SaveIfModified());
+    const QDateTime firstSave = filer.GetLastSaveTime();
+    QVERIFY(firstSave.isValid());
+    QVERIFY(!filer.IsModified());
+
+    // Nothing changed: the file isn't touched.
+    QVERIFY(QFile::remove(path));
+    QVERIFY(filer.SaveIfModified());
+    QVERIFY(!QFile::exists(path));
+
+    QVERIFY(filer.WriteInt(QStringLiteral("Count"), 3));
+    QVERIFY(filer.IsModified());
+    QVERIFY(filer.SaveIfModified());
+    QVERIFY(!filer.IsModified());
+    XmlFiler check;
+    QVERIFY(check.Open(path));
+    QCOMPARE(check.ReadInt(QStringLiteral("Count")), 3);
+}
+
+void tst_XmlFiler::killedSaveNeverTruncatesFile()
+{
+    const QString path = mDir.filePath(QStringLiteral("killed.xml"));
+    XmlFiler initial;
+    QVERIFY(initial.Parse(versionedDocument(1)));
+    QVERIFY(initial.Save(path));
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(kSaveChildVariable), path);
+    for (int round = 0; round < 20; ++round) {
+        QProcess child;
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("openMissingFileFailsSilently")});
+        QVERIFY(child.waitForStarted());
+        // Let it get into its loop, then kill it at a random point of a save.
+        QTest::qWait(150 + int(QRandomGenerator::global()->bounded(100)));
+        child.kill();
+        QVERIFY(child.waitForFinished());
+
+        XmlFiler filer;
+        QVERIFY2(filer.Open(path), qPrintable(QStringLiteral("round %1").arg(round)));
+        const int version = filer.ReadInt(QStringLiteral("version"));
+        QVERIFY(version == 1 || version == 2);
+        QCOMPARE(filer.GetChildElementCount(), filer.ReadInt(QStringLiteral("count")));
+    }
+}
+
+QTEST_MAIN(tst_XmlFiler)
+#include "tst_xmlfiler.moc"

@@ -1,0 +1,255 @@
+#include "../theme/tst_customstyle_probe.h"
+
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/Label.h>
+
+#include <QHelpEvent>
+#include <QSignalSpy>
+#include <QToolTip>
+#include <QtTest>
+
+using namespace Kavrel::UICore;
+
+namespace {
+
+QString LongText()
+{
+    return QStringLiteral("A label text that is far too long to fit into the narrow label it sits in");
+}
+
+// Asks the label for its tool tip at pos, as a hover would.
+void AskForToolTip(Label* label, const QPoint& pos)
+{
+    QHelpEvent event(QEvent::ToolTip, pos, label->mapToGlobal(pos));
+    QApplication::sendEvent(label, &event);
+}
+
+QPixmap RedPixmap()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    return pixmap;
+}
+
+} // namespace
+
+class tst_Label : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void toolTipExplainsCutText_data();
+    void toolTipExplainsCutText();
+    void rightPixmapHasItsOwnToolTip();
+    void rightPixmapClickIsReported();
+    void narrowLabelNeverShowsRightPixmap();
+    void disablingSwitchesColourKey();
+    void textColourKeyMustExist();
+    void themeSwitchReappliesColour();
+    void geometryAndShowSignals();
+    void autoFixedWidthFollowsText();
+    void cutTextIsPaintedInThemeColour();
+};
+
+void tst_Label::initTestCase()
+{
+    Probe::UseRepositoryThemes();
+}
+
+void tst_Label::cleanup()
+{
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void tst_Label::toolTipExplainsCutText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("reserved");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("fits, no reserved tip") << QStringLiteral("Short") << QString() << 200 << QString();
+    QTest::newRow("fits, reserved tip") << QStringLiteral("Short") << QStringLiteral("Explains") << 200
+                                        << QStringLiteral("Explains");
+    QTest::newRow("cut") << LongText() << QString() << 80 << LongText();
+    QTest::newRow("cut, reserved tip ignored") << LongText() << QStringLiteral("Explains") << 80 << LongText();
+}
+
+void tst_Label::toolTipExplainsCutText()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, reserved);
+    QFETCH(int, width);
+    QFETCH(QString, expected);
+    Label label(text);
+    label.SetReservedToolTip(reserved);
+    label.resize(width, 24);
+    label.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    AskForToolTip(&label, QPoint(10, 10));
+    if (expected.isEmpty()) {
+        QVERIFY(!QToolTip::isVisible());
+    } else {
+        QTRY_VERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), expected);
+    }
+}
+
+void tst_Label::rightPixmapHasItsOwnToolTip()
+{
+    Label label(QStringLiteral("Short"));
+    label.SetRightPixmap(RedPixmap());
+    label.SetRightPixmapTooltip(QStringLiteral("Pixmap tip"));
+    label.SetReservedToolTip(QStringLiteral("Text tip"));
+    label.resize(200, 24);
+    label.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    AskForToolTip(&label, QPoint(label.width() - 9, 12));
+    QTRY_VERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Pixmap tip"));
+    AskForToolTip(&label, QPoint(10, 12));
+    QTRY_COMPARE(QToolTip::text(), QStringLiteral("Text tip"));
+}
+
+void tst_Label::rightPixmapClickIsReported()
+{
+    Label label(QStringLiteral("Short"));
+    label.SetRightPixmap(RedPixmap());
+    label.resize(200, 24);
+    QSignalSpy clicked(&label, &Label::RightPixmapClicked);
+    QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(10, 12));
+    QCOMPARE(clicked.count(), 0);
+    QTest::mouseClick(&label, Qt::RightButton, {}, QPoint(label.width() - 9, 12));
+    QCOMPARE(clicked.count(), 0);
+    QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(label.width() - 9, 12));
+    QCOMPARE(clicked.count(), 1);
+
+    // The pixmap, white made transparent, is painted at the right edge.
+    const QImage image = Probe::Grab(&label);
+    const qreal ratio = image.devicePixelRatio();
+    PROBE_COMPARE_COLOR(Probe::Pixel(image, int((label.width() - 9) * ratio), int(12 * ratio)), QColor(Qt::red));
+}
+
+void tst_Label::narrowLabelNeverShowsRightPixmap()
+{
+    Label label(QStringLiteral("x"));
+    label.SetRightPixmap(RedPixmap());
+    label.setMinimumWidth(0);
+    label.resize(18, 24);
+    QSignalSpy clicked(&label, &Label::RightPixmapClicked);
+    for (int x = 0; x < 18; x += 3)
+        QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(x, 12));
+    QCOMPARE(clicked.count(), 0);
+    const QImage image = Probe::Grab(&label);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            QVERIFY(Probe::Pixel(image, x, y) != QColor(Qt::red));
+    }
+}
+
+void tst_Label::disablingSwitchesColourKey()
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    QVERIFY(themes->GetColor(ThemeFileKey::FontNormal1).isValid());
+    Label label(QStringLiteral("Text"));
+    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
+    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+    label.setEnabled(false);
+    const QString expected =
+        themes->Exists(ThemeFileKey::FontColorDisabled) ? ThemeFileKey::FontColorDisabled : ThemeFileKey::FontNormal1;
+    QCOMPARE(label.GetTextColorThemeKey(), expected);
+    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(expected));
+    label.setEnabled(true);
+    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
+}
+
+void tst_Label::textColourKeyMustExist()
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    Label label(QStringLiteral("Text"));
+    label.SetTextColorThemeKey(QStringLiteral("NoSuchColourKey"));
+    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
+    QVERIFY(themes->GetColor(ThemeFileKey::FontNormal3).isValid());
+    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal3);
+    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
+
+    // The same key again changes nothing unless forced.
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, Qt::magenta);
+    label.setPalette(palette);
+    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
+    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3, true);
+    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
+}
+
+void tst_Label::themeSwitchReappliesColour()
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    Label label(QStringLiteral("Text"));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+    const QColor dark = themes->GetColor(ThemeFileKey::FontNormal1);
+    QVERIFY(dark.isValid());
+    QCOMPARE(label.palette().color(QPalette::WindowText), dark);
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
+    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+}
+
+void tst_Label::geometryAndShowSignals()
+{
+    Label label(QStringLiteral("Text"));
+    QSignalSpy geometry(&label, &Label::GeometryChanged);
+    QSignalSpy aboutToShow(&label, &Label::AboutToShow);
+    label.resize(100, 24);
+    label.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    QCOMPARE(aboutToShow.count(), 1);
+    const int before = geometry.count();
+    label.resize(140, 30);
+    QTRY_VERIFY(geometry.count() > before);
+}
+
+void tst_Label::autoFixedWidthFollowsText()
+{
+    Label label(QStringLiteral("Short"));
+    label.SetAutoFixedWidth(true);
+    const int shortWidth = label.width();
+    QCOMPARE(label.minimumWidth(), label.maximumWidth());
+    QVERIFY(shortWidth >= label.getTextWidth());
+    label.setText(LongText());
+    label.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    QTRY_VERIFY(label.width() >= label.getTextWidth());
+    QVERIFY(label.width() > shortWidth);
+    label.SetAutoFixedWidth(false);
+    label.resize(50, 24);
+    QCOMPARE(label.width(), 50);
+}
+
+void tst_Label::cutTextIsPaintedInThemeColour()
+{
+    // A cut label ends in an ellipsis; the text is painted in the key's colour.
+    ThemeManager* themes = ThemeManager::GetInstance();
+    Label label(QString(40, QLatin1Char('W')));
+    QFont font = label.font();
+    font.setPixelSize(20);
+    font.setBold(true);
+    label.setFont(font);
+    label.resize(120, 30);
+    const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
+    QVERIFY(text.isValid());
+    const QImage image = Probe::Grab(&label);
+    int exact = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            exact += Probe::Near(Probe::Pixel(image, x, y), text, 8) ? 1 : 0;
+    }
+    QVERIFY(exact > 20);
+}
+
+QTEST_MAIN(tst_Label)
+#include "tst_label.moc"

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QString>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class TranslationTableImp;
+
+// The texts for the tr(id) values of UI definitions: a name and a map from id
+// to translated text, read from an XLIFF 1.2 translation file.
+//
+// Translation files. For a table named N, the current locale of
+// CoreUIManager (say "de-DE") and its translator files folder F, the first of
+// these files that exists is read:
+//   F/N_de-DE.xlf, F/N_de_DE.xlf, F/N_de.xlf, F/N.xlf
+// and the same names ending in ".xliff". A name that already ends in ".xlf"
+// or ".xliff" names the file itself, relative to F unless it is absolute.
+// File names match without regard to case.
+//
+// In the file every <trans-unit> gives one entry: its "id" attribute is the
+// id (the "resname" attribute counts as a second id), the text of its
+// <target> the translation. Units without an id or with an empty target are
+// skipped, and so are units that the file marks translate="no". XLIFF 2
+// files are read the same way: a <unit> gives one entry, the targets of its
+// segments joined.
+//
+// An id without a translation reads as the id itself.
+class KVUICORE_EXPORT TranslationTable
+{
+public:
+    explicit TranslationTable(const QString& name = QString());
+    ~TranslationTable();
+
+    QString GetName() const;
+    // A different name (compared without regard to case) empties the table.
+    void SetName(const QString& name);
+
+    // The translation of the id, or the id itself.
+    QString GetText(const QString& id) const;
+    bool Contains(const QString& id) const;
+    int GetCount() const;
+    void Insert(const QString& id, const QString& text);
+    void Clear();
+
+    // The translation file for the table's name and the current locale, by
+    // the rule above; empty when none exists.
+    QString FindTranslationFile() const;
+    // Reads the translation file found by FindTranslationFile, replacing the
+    // entries; false when there is no file or it can't be read. The locale
+    // and folder it was read for are remembered for Refresh.
+    bool Load();
+    // Reads an XLIFF file, replacing the entries. A file that is missing or
+    // isn't well-formed leaves the table empty and returns false.
+    bool LoadFile(const QString& fileName);
+    // Reads the table again if it was loaded for another locale or folder
+    // than the current ones.
+    void Refresh();
+
+    // The process-wide table of that name (keyed by the name in lower case),
+    // created and loaded on first request and refreshed on later ones; null
+    // for an empty name. The cache owns the tables.
+    static TranslationTable* GetCached(const QString& name);
+    // Deletes every cached table.
+    static void ClearCache();
+
+private:
+    Q_DISABLE_COPY_MOVE(TranslationTable)
+    std::unique_ptr<TranslationTableImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore

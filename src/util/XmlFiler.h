@@ -1,0 +1,206 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QDomDocument>
+#include <QList>
+#include <QPair>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class TranslationTable;
+class XmlFilerImp;
+
+// A table of (value, word) pairs for enumerated and flags attributes. Words
+// match without regard to case.
+using XmlWordTable = QList<QPair<int, QString>>;
+
+// Reader and writer of small XML documents: settings files and UI definitions.
+//
+// The filer wraps one DOM document and a cursor, the current element, which
+// every read and write addresses. Reads never fail: an absent attribute gives
+// the caller's default. Navigation that fails leaves the cursor where it was.
+// Every write marks the document as modified, for SaveIfModified.
+//
+// Paths: components are separated by "/" (a backslash counts as "/"), empty
+// components are skipped. A path starting with "/" is absolute and its first
+// component names the document element; any other path starts at the cursor.
+// "." stays and ".." goes to the parent element.
+//
+// Text forms: bool is "True" or "False" (reading also takes "1" and "0"),
+// QRect is "x,y,width,height", QSize "width,height", QPoint "x,y". Integers are
+// decimal ("0x" introduces hexadecimal when reading). QDateTime is ISO 8601
+// with milliseconds: a UTC time ends in "Z", a time with an offset carries it
+// ("+02:00"), a local time carries none and reads back as local time. Empty or
+// malformed values read as the default.
+//
+// Saving is atomic: the document goes to a temporary file that replaces the
+// target only once it is complete, so a failed save leaves the old file whole.
+// The document is written in the encoding its XML declaration names; when
+// that encoding is unknown or can't hold the text, it is written as UTF-8 and
+// the declaration is changed to say so, rather than losing characters.
+//
+// Not thread-safe; use it on one thread.
+class KVUICORE_EXPORT XmlFiler
+{
+public:
+    XmlFiler();
+    ~XmlFiler();
+
+    // ---- File and document ------------------------------------------------
+
+    // Opens and parses an existing file; false when it does not exist, can't
+    // be read or isn't well-formed XML (the document is then empty). On
+    // success the cursor is the document element and the name is remembered.
+    bool Open(const QString& fileName);
+    // Parses XML text; on success the cursor is the document element and the
+    // filer has no file name.
+    bool Parse(const QString& text);
+    // Opens the file, or starts a new document for it when it doesn't exist
+    // or is empty. A document without a document element gets a "Root"
+    // element and an XML declaration. A file that exists but isn't
+    // well-formed is left alone and false is returned.
+    bool OpenOrCreate(const QString& fileName);
+    // Writes the document with an indentation of 4; false for a document
+    // without a document element or when the file can't be written.
+    bool Save(const QString& fileName);
+    // Writes to the remembered file name.
+    bool Save();
+    // Writes to the remembered file name when the document was modified.
+    // Returns true when nothing needed saving or the save succeeded; a failed
+    // save keeps the document marked as modified.
+    bool SaveIfModified();
+    // The document with an indentation of 1; empty without a document element.
+    QString ToString() const;
+
+    QString GetFileName() const;
+    QDomDocument GetDocument() const;
+    QDomElement GetCurrentElement() const;
+    // Moves the cursor to an element of this filer's document; a null or
+    // foreign element is refused.
+    bool SetCurrentElement(const QDomElement& element);
+    QString GetElementName() const;
+
+    bool IsModified() const;
+    void SetModified(bool modified);
+    // The time of the last save through Save() or SaveIfModified(); invalid
+    // before the first one.
+    QDateTime GetLastSaveTime() const;
+
+    // The table that tr(id) texts are translated with; not owned, may be null.
+    void SetTranslationTable(TranslationTable* table);
+    TranslationTable* GetTranslationTable() const;
+    // When off, tr(id) texts are returned as written. On by default.
+    void SetTranslate(bool translate);
+    bool IsTranslate() const;
+
+    // ---- Navigation ---------------------------------------------------------
+
+    bool GoToDocumentElement();
+    bool GoToFirstChild();
+    bool GoToFirstChild(const QString& name);
+    bool GoToNextSibling();
+    bool GoToNextSibling(const QString& name);
+    bool GoToParent();
+    bool GoToPath(const QString& path);
+    // Pushes the cursor; RestorePosition pops it (false when nothing was pushed).
+    void RememberPosition();
+    bool RestorePosition();
+    int GetChildElementCount() const;
+
+    // ---- Reading the current element ----------------------------------------
+
+    bool HasAttribute(const QString& name) const;
+    QStringList GetAttributeNames() const;
+    // The value, translated when it has the form tr(id).
+    QString ReadString(const QString& name, const QString& defaultValue = QString()) const;
+    int ReadInt(const QString& name, int defaultValue = 0) const;
+    uint ReadUInt(const QString& name, uint defaultValue = 0) const;
+    long ReadLong(const QString& name, long defaultValue = 0) const;
+    ulong ReadULong(const QString& name, ulong defaultValue = 0) const;
+    qlonglong ReadLongLong(const QString& name, qlonglong defaultValue = 0) const;
+    qulonglong ReadULongLong(const QString& name, qulonglong defaultValue = 0) const;
+    double ReadDouble(const QString& name, double defaultValue = 0.0) const;
+    bool ReadBool(const QString& name, bool defaultValue = false) const;
+    QDateTime ReadDateTime(const QString& name, const QDateTime& defaultValue = QDateTime()) const;
+    QRect ReadRect(const QString& name, const QRect& defaultValue = QRect()) const;
+    QSize ReadSize(const QString& name, const QSize& defaultValue = QSize()) const;
+    QPoint ReadPoint(const QString& name, const QPoint& defaultValue = QPoint()) const;
+    // The value of the word the attribute holds; the default for an absent or
+    // empty attribute or a word not in the table.
+    int ReadEnum(const QString& name, const XmlWordTable& table, int defaultValue) const;
+    // The OR of the values of every table word in the comma-separated list
+    // (blanks around words are ignored); the default when none matches.
+    int ReadFlags(const QString& name, const XmlWordTable& table, int defaultValue) const;
+
+    // The element's text and CDATA content.
+    QString ReadElementText() const;
+    // The element's text decoded from Base64.
+    QByteArray ReadBinary() const;
+    // The element's child nodes as XML, indented by 4.
+    QString ReadInnerXml() const;
+    // The element itself with its subtree as XML, indented by 4.
+    QString ReadOuterXml() const;
+
+    // ---- Writing --------------------------------------------------------------
+
+    // Appends a child element to the current element and moves the cursor to
+    // it; in an empty document the element becomes the document element.
+    bool CreateElement(const QString& name);
+    // Walks the path like GoToPath, creating the components that are missing.
+    bool CreatePath(const QString& path);
+    // Removes the current element; the cursor moves to its parent.
+    bool RemoveCurrentElement();
+    // Removes every child element of that name (all child nodes for an empty name).
+    int RemoveChildren(const QString& name = QString());
+    bool RemoveAttribute(const QString& name);
+    // Parses an XML fragment (any number of nodes) and appends its nodes to
+    // the current element.
+    bool InsertFragment(const QString& fragment);
+
+    bool WriteString(const QString& name, const QString& value);
+    bool WriteInt(const QString& name, int value);
+    bool WriteUInt(const QString& name, uint value);
+    bool WriteLong(const QString& name, long value);
+    bool WriteULong(const QString& name, ulong value);
+    bool WriteLongLong(const QString& name, qlonglong value);
+    bool WriteULongLong(const QString& name, qulonglong value);
+    bool WriteDouble(const QString& name, double value);
+    bool WriteBool(const QString& name, bool value);
+    bool WriteDateTime(const QString& name, const QDateTime& value);
+    bool WriteRect(const QString& name, const QRect& value);
+    bool WriteSize(const QString& name, const QSize& value);
+    bool WritePoint(const QString& name, const QPoint& value);
+    // Writes the table's word for the value; false when the table has none.
+    bool WriteEnum(const QString& name, const XmlWordTable& table, int value);
+    // Writes the words whose values are all contained in the value, joined by
+    // ","; words covered by a longer word written before are skipped.
+    bool WriteFlags(const QString& name, const XmlWordTable& table, int value);
+
+    // Replaces the element's text content with a text node or CDATA sections.
+    bool WriteElementText(const QString& text, bool asCData = false);
+    bool WriteBinary(const QByteArray& data);
+
+    // ---- Translation ------------------------------------------------------------
+
+    // The text translated: a text of the form tr(id) becomes the table's text
+    // for the id, or the id itself without a table; other texts stay.
+    QString Translate(const QString& text) const;
+    // Whether the text has the form tr(id), blanks allowed around the
+    // parentheses; gives the trimmed id.
+    static bool IsTranslatable(const QString& text, QString* id = nullptr);
+
+private:
+    Q_DISABLE_COPY_MOVE(XmlFiler)
+    std::unique_ptr<XmlFilerImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
