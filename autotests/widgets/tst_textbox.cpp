@@ -483,6 +483,16 @@ void tst_TextBox::paintsPanelAndBorderFromTheme()
     QCOMPARE(pixelAt(image, interior).rgb(), background.rgb());
     QCOMPARE(pixelAt(image, topEdge).rgb(), border.rgb());
 
+    // Under the mouse.
+    box->setAttribute(Qt::WA_UnderMouse, true);
+    image = box->grab().toImage();
+    const QColor hoverBackground = themeColor(ThemeFileKey::WidgetContainer12);
+    const QColor hoverBorder = themeColor(ThemeFileKey::HoverOutline4);
+    QVERIFY(hoverBackground.isValid() && hoverBorder.isValid());
+    QCOMPARE(pixelAt(image, interior).rgb(), hoverBackground.rgb());
+    QCOMPARE(pixelAt(image, topEdge).rgb(), hoverBorder.rgb());
+    box->setAttribute(Qt::WA_UnderMouse, false);
+
     box->setFocus(Qt::TabFocusReason);
     QTRY_VERIFY(box->hasFocus());
     image = box->grab().toImage();

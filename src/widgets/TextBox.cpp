@@ -244,6 +244,8 @@ TextBox::TextBox(QWidget* parent)
     connect(editor, SIGNAL(selectionChanged()), this, SLOT(OnSelectionChanged()));
     connect(editor, SIGNAL(textChanged(const QString&)), this, SLOT(OnTextChanged(const QString&)));
 
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, qOverload<>(&QWidget::update));
+
     editor->setAccessibleName(QStringLiteral("mpTextBoxControl"));
     mpImp->mpImageControl->setAccessibleName(QStringLiteral("mpImageControl"));
     UpdateLayout();
