@@ -80,6 +80,8 @@ private Q_SLOTS:
     void valuesCanBeTreatedAsFloat();
     void focusLossIsAnnounced();
     void textColourFollowsThemeAndEnabledState();
+    void textColoursSurviveStyleSheetRepolish();
+    void displayTextIsPaintedOnTheGroove();
 
 private:
     Slider* shownSlider();
@@ -551,6 +553,54 @@ void tst_Slider::textColourFollowsThemeAndEnabledState()
     QCOMPARE(slider.GetNumericField()->palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
     slider.setEnabled(false);
     QCOMPARE(label->palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontColorDisabled));
+}
+
+void tst_Slider::textColoursSurviveStyleSheetRepolish()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    ThemeManager* themes = ThemeManager::GetInstance();
+    qApp->setStyleSheet(QStringLiteral("QToolTip { padding: 2px; }"));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+    // A host re-applies its style sheet after a theme switch: every widget is polished again.
+    qApp->setStyleSheet(qApp->styleSheet() + QLatin1Char(' '));
+    const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
+    QCOMPARE(slider->GetNumericField()->palette().color(QPalette::Text), text);
+    QCOMPARE(slider->findChild<QLabel*>()->palette().color(QPalette::WindowText), text);
+    qApp->setStyleSheet(QString());
+}
+
+void tst_Slider::displayTextIsPaintedOnTheGroove()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetNumFieldVisible(false);
+    SliderControl* control = slider->GetSliderControl();
+    slider->SetValue(0.0);
+    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+    const QImage before = control->grab().toImage();
+    slider->SetDisplayText(QStringLiteral("Opacity"));
+    QCOMPARE(control->property("attributeTextTerm").toString(), QStringLiteral("Opacity"));
+    const QImage after = control->grab().toImage();
+    QCOMPARE(after.size(), before.size());
+    // The text changes pixels around the groove's middle, and nowhere near the ends.
+    const qreal ratio = after.devicePixelRatio();
+    const QColor text = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    int changed = 0;
+    int nearText = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (after.pixel(x, y) == before.pixel(x, y))
+                continue;
+            ++changed;
+            QVERIFY(x / ratio > groove.left() + 5 && x / ratio < groove.right() - 5);
+            const QColor c = after.pixelColor(x, y);
+            if (qAbs(c.red() - text.red()) + qAbs(c.green() - text.green()) + qAbs(c.blue() - text.blue()) < 60)
+                ++nearText;
+        }
+    }
+    QVERIFY2(changed > 20, qPrintable(QString::number(changed)));
+    QVERIFY2(nearText > 5, qPrintable(QString::number(nearText)));
 }
 
 QTEST_MAIN(tst_Slider)
