@@ -70,9 +70,12 @@ private Q_SLOTS:
     void valueSetFromCodeMovesTheSliderSilently();
     void arrowKeysStepTheValueFinely_data();
     void arrowKeysStepTheValueFinely();
+    void degreeMinuteSecondKeysStepByTheShownPart_data();
+    void degreeMinuteSecondKeysStepByTheShownPart();
     void escapeDuringAKeyboardDragCancels();
     void wheelNotchAwayFromTheUserLowersThePosition();
     void dragStartsWhereTheThumbIsAndFollowsTheMouse();
+    void rightButtonDragsAndOtherButtonsDoNothing();
     void refusedValuesLeaveValueAndPosition();
     void rangeChangesClampTheValue();
     void deferredUpdatesWaitForUpdateForUnits();
@@ -326,6 +329,37 @@ void tst_Slider::arrowKeysStepTheValueFinely()
     QCOMPARE(changed.last().at(0).toDouble(), slider->GetValue());
 }
 
+void tst_Slider::degreeMinuteSecondKeysStepByTheShownPart_data()
+{
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("step");
+
+    QTest::newRow("seconds") << 4 << 1.0 / 3600;
+    QTest::newRow("tenths of a second") << 5 << 1.0 / 36000;
+}
+
+void tst_Slider::degreeMinuteSecondKeysStepByTheShownPart()
+{
+    QFETCH(int, precision);
+    QFETCH(double, step);
+
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetUnitType(Units::eDegree);
+    slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
+    slider->SetRange(0.0, 360.0);
+    slider->SetDecimalPrecision(precision);
+    slider->SetValue(45.5);
+    SliderControl* control = slider->GetSliderControl();
+    QVERIFY(!control->DefaultKeyHandling());
+    control->setFocus();
+    QTest::keyClick(control, Qt::Key_Up);
+    QTest::keyClick(control, Qt::Key_Up);
+    QVERIFY(qAbs(slider->GetValue() - (45.5 + 2 * step)) < 1e-12);
+    QTest::keyClick(control, Qt::Key_PageDown);
+    QVERIFY(qAbs(slider->GetValue() - (45.5 - 8 * step)) < 1e-12);
+}
+
 void tst_Slider::escapeDuringAKeyboardDragCancels()
 {
     Slider* slider = shownSlider();
@@ -410,6 +444,40 @@ void tst_Slider::dragStartsWhereTheThumbIsAndFollowsTheMouse()
                            QStringLiteral("released")};
     QCOMPARE(log.mEntries, log1);
     QVERIFY(control->HeldInputs().isEmpty());
+}
+
+void tst_Slider::rightButtonDragsAndOtherButtonsDoNothing()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetDecimalPrecision(0);
+    slider->SetRange(-100.0, 100.0);
+    slider->SetValue(0.0);
+    SliderControl* control = slider->GetSliderControl();
+    QCOMPARE(control->GetStoredMinimum(), -100);
+    SignalLog log(slider);
+    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+    const QPoint press = groove.center();
+
+    QTest::mousePress(control, Qt::MiddleButton, {}, press);
+    QTest::mouseRelease(control, Qt::MiddleButton, {}, press);
+    QVERIFY(log.mEntries.isEmpty());
+    QCOMPARE(slider->GetValue(), 0.0);
+
+    QTest::mousePress(control, Qt::RightButton, {}, press);
+    // The left button is ignored while the right one drags.
+    QTest::mousePress(control, Qt::LeftButton, {}, press);
+    QCOMPARE(control->HeldInputs(), QList<int>{SliderControl::MouseInput});
+    QMouseEvent move(QEvent::MouseMove, QPointF(groove.left(), press.y()), control->mapToGlobal(QPointF(press)),
+                     Qt::NoButton, Qt::RightButton, Qt::NoModifier);
+    QApplication::sendEvent(control, &move);
+    QVERIFY(slider->GetValue() < 0.0);
+    QCOMPARE(control->minimum(), -100);
+    QCOMPARE(control->maximum(), 100);
+    QTest::mouseRelease(control, Qt::RightButton, {}, QPoint(groove.left(), press.y()));
+    QCOMPARE(log.mEntries.first(), QStringLiteral("pressed"));
+    QCOMPARE(log.mEntries.last(), QStringLiteral("released"));
+    QCOMPARE(log.mEntries.count(), 3);
 }
 
 void tst_Slider::refusedValuesLeaveValueAndPosition()
