@@ -161,6 +161,7 @@ void tst_PropertyEditor::registeredKinds_data()
     QTest::newRow("combo box") << "ComboBoxElement" << "Kavrel::UICore::ComboBoxElement";
     QTest::newRow("button") << "ButtonElement" << "Kavrel::UICore::ButtonElement";
     QTest::newRow("label") << "LabelElement" << "Kavrel::UICore::LabelElement";
+    QTest::newRow("slider") << "SliderElement" << "Kavrel::UICore::SliderElement";
     QTest::newRow("text box") << "TextBoxElement" << "Kavrel::UICore::TextBoxElement";
     QTest::newRow("panel") << "PanelElement" << "Kavrel::UICore::PanelElement";
     QTest::newRow("radio buttons") << "RadioButtonGroupElement" << "Kavrel::UICore::RadioButtonGroupElement";

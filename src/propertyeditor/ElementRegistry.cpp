@@ -9,6 +9,7 @@
 #include <KvUICore/propertyeditor/LabelElement.h>
 #include <KvUICore/propertyeditor/PanelElement.h>
 #include <KvUICore/propertyeditor/RadioButtonGroupElement.h>
+#include <KvUICore/propertyeditor/SliderElement.h>
 #include <KvUICore/propertyeditor/TextBoxElement.h>
 #include <KvUICore/util/Diagnostics_p.h>
 
@@ -79,6 +80,7 @@ void RegisterPropertyEditorElementTypes()
     RegisterKind<ComboBoxElement>("ComboBoxElement");
     RegisterKind<ButtonElement>("ButtonElement");
     RegisterKind<LabelElement>("LabelElement");
+    RegisterKind<SliderElement>("SliderElement");
     RegisterKind<TextBoxElement>("TextBoxElement");
     RegisterKind<PanelElement>("PanelElement");
     RegisterKind<RadioButtonGroupElement>("RadioButtonGroupElement");

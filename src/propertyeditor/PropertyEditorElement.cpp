@@ -173,8 +173,10 @@ void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
     if (!mpWidget) {
         mpWidget = mpOwner->CreateWidgetOverride(parent);
         created = true;
-        if (mpWidget)
+        if (mpWidget) {
             PushAllAttributes();
+            emit mpOwner->WidgetCreated(mpWidget);
+        }
     }
     if (!IsContainer())
         return;

@@ -162,6 +162,9 @@ Q_SIGNALS:
     // emitted, the second is the notify signal of the attribute properties.
     void AttributeChanged(const QString& attribute);
     void AttributesChanged();
+    // The element's widget was built and has taken the attributes' values;
+    // hosts adjust what definitions don't describe (units, icons, limits).
+    void WidgetCreated(QWidget* widget);
 
 protected Q_SLOTS:
     void BindingModifiedSlot();

@@ -23,6 +23,36 @@ public:
         mModelConnections.clear();
     }
 
+    void RebuildButtons(RadioButtonGroupElement* owner, QAbstractItemModel* model)
+    {
+        QWidget* widget = mpWidget;
+        QButtonGroup* group = mpButtonGroup;
+        const QList<QAbstractButton*> buttons = group->buttons();
+        for (QAbstractButton* button : buttons) {
+            group->removeButton(button);
+            button->hide();
+            // A button may be in the middle of reporting a click.
+            button->deleteLater();
+        }
+        auto* layout = qobject_cast<QBoxLayout*>(widget->layout());
+        const int rows = model->rowCount();
+        for (int row = 0; row < rows; ++row) {
+            const QModelIndex index = model->index(row, 0);
+            auto* button = new QRadioButton(index.data(Qt::DisplayRole).toString(), widget);
+            const QVariant decoration = index.data(Qt::DecorationRole);
+            if (decoration.canConvert<QImage>() && !decoration.value<QImage>().isNull())
+                button->setIcon(QIcon(QPixmap::fromImage(decoration.value<QImage>())));
+            else if (decoration.canConvert<QIcon>())
+                button->setIcon(decoration.value<QIcon>());
+            group->addButton(button, row);
+            if (layout)
+                layout->addWidget(button);
+            QObject::connect(button, &QAbstractButton::toggled, owner,
+                             &RadioButtonGroupElement::RadioButtonGroupCurrentIndexChanged);
+        }
+    }
+
+    bool mbItemsDirty = false;
     QPointer<QButtonGroup> mpButtonGroup;
     QPointer<QAbstractItemModel> mpShownModel;
     QList<QMetaObject::Connection> mModelConnections;
@@ -81,31 +111,19 @@ void RadioButtonGroupElement::UpdateWidgetOverride(const QString& attribute)
     }
     if (attribute == AttributeName::Items) {
         QAbstractItemModel* model = imp->ResolveItems();
-        const QList<QAbstractButton*> buttons = group->buttons();
-        for (QAbstractButton* button : buttons) {
-            group->removeButton(button);
-            delete button;
-        }
-        auto* layout = qobject_cast<QBoxLayout*>(widget->layout());
-        const int rows = model->rowCount();
-        for (int row = 0; row < rows; ++row) {
-            const QModelIndex index = model->index(row, 0);
-            auto* button = new QRadioButton(index.data(Qt::DisplayRole).toString(), widget);
-            const QVariant decoration = index.data(Qt::DecorationRole);
-            if (decoration.canConvert<QImage>() && !decoration.value<QImage>().isNull())
-                button->setIcon(QIcon(QPixmap::fromImage(decoration.value<QImage>())));
-            else if (decoration.canConvert<QIcon>())
-                button->setIcon(decoration.value<QIcon>());
-            group->addButton(button, row);
-            if (layout)
-                layout->addWidget(button);
-            connect(button, &QAbstractButton::toggled, this,
-                    &RadioButtonGroupElement::RadioButtonGroupCurrentIndexChanged);
+        // Sources often notify every property at once: the same items keep
+        // their buttons, one of which may be reporting a click right now.
+        if (model != imp->mpShownModel || imp->mbItemsDirty) {
+            imp->mbItemsDirty = false;
+            imp->RebuildButtons(this, model);
         }
         if (imp->mpShownModel != model) {
             imp->DropModelConnections();
             imp->mpShownModel = model;
-            auto rebuild = [this] { UpdateWidget(AttributeName::Items); };
+            auto rebuild = [this, imp] {
+                imp->mbItemsDirty = true;
+                UpdateWidget(AttributeName::Items);
+            };
             imp->mModelConnections = {
                 connect(model, &QAbstractItemModel::rowsInserted, this, rebuild),
                 connect(model, &QAbstractItemModel::rowsRemoved, this, rebuild),
