@@ -119,6 +119,7 @@ private Q_SLOTS:
     void dividerMarks();
 
     void buildIsDeferredToPaint();
+    void longPagesBuildInSlices();
     void loadFileWithElementPath();
     void loadFileFailures();
     void labelColumnDragIsRemembered();
@@ -478,7 +479,8 @@ void tst_PropertyEditor::gridPlacement()
 
 void tst_PropertyEditor::explicitColumnOnFirstChild()
 {
-    // By design the first child with an explicit column lands on row -1.
+    // The first child with an explicit column has no row before it to share:
+    // it takes row 0 rather than a row -1 that would break the grid.
     PropertyEditor editor;
     QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Column=\"2\" "
                                                        "LabelPlacement=\"Left\" Label=\"no label here\"/>"))));
@@ -486,9 +488,10 @@ void tst_PropertyEditor::explicitColumnOnFirstChild()
     auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
     auto* check = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("c")));
     const Cell cell = CellOf(group->GetGridLayout(), check->GetWidget());
-    QCOMPARE(cell.row, -1);
+    QCOMPARE(cell.row, 0);
     QCOMPARE(cell.column, 2);
     QVERIFY(!check->GetLabelWidget());
+    QVERIFY(group->GetWidget()->sizeHint().isValid());
 }
 
 void tst_PropertyEditor::controlIndentWrapsControl()
@@ -615,6 +618,38 @@ void tst_PropertyEditor::buildIsDeferredToPaint()
     Build(editor);
     // A group without children keeps no columns either.
     QCOMPARE(group->GetGridLayout()->count(), 0);
+}
+
+void tst_PropertyEditor::longPagesBuildInSlices()
+{
+    QString groups;
+    for (int i = 0; i < 60; ++i)
+        groups += QStringLiteral("<GroupElement Id=\"g%1\"><TextBoxElement Id=\"t%1\" LabelPlacement=\"Left\"/>"
+                                 "<CheckBoxElement/></GroupElement>")
+                      .arg(i);
+    PropertyEditor editor;
+    editor.resize(400, 300);
+    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(groups)));
+    QVERIFY(!editor.IsBuilt());
+    Build(editor);
+    // What shows first is built at the first paint, the rest right after it.
+    auto* first = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t0")));
+    auto* last = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t59")));
+    QVERIFY(first->GetWidget());
+    QVERIFY(!last->GetWidget());
+    QVERIFY(!editor.IsBuilt());
+    QTRY_VERIFY(editor.IsBuilt());
+    QVERIFY(last->GetWidget());
+    auto* layout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
+    for (int i = 0; i < 60; ++i)
+        QCOMPARE(layout->indexOf(editor.GetPage()->GetChild(i)->GetWidget()), i);
+
+    // BuildNow builds everything at once.
+    PropertyEditor other;
+    QVERIFY(other.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(groups)));
+    other.BuildNow();
+    QVERIFY(other.IsBuilt());
+    QVERIFY(qobject_cast<PropertyEditorElement*>(other.FindElement(QStringLiteral("t59")))->GetWidget());
 }
 
 void tst_PropertyEditor::loadFileWithElementPath()

@@ -51,8 +51,9 @@ void ComboBoxElement::ComboBoxCurrentIndexChanged(int /*index*/)
 QWidget* ComboBoxElement::CreateWidgetOverride(QWidget* parent)
 {
     auto* combo = new QComboBox(parent);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(8);
+    // Sized to its items when first shown. Every other policy makes the combo
+    // box build its popup list at once, which dominates building long pages.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
     // Written with blanks before the parentheses; Qt normalises both.
     connect(combo, SIGNAL(currentIndexChanged (int)), this, SLOT(ComboBoxCurrentIndexChanged (int)));
     // Items given without a binding reach the new combo box too.

@@ -439,8 +439,10 @@ void GroupElement::AddChildWidgetsOverride()
             }
             ++row;
         } else {
-            // An explicit column shares the row of the element placed before it.
-            grid->addWidget(placed, row - 1, info.miColumn, 1, info.miColumnSpan);
+            // An explicit column shares the row of the element placed before
+            // it. Before any element that row would be -1, which a grid can't
+            // hold (Qt indexes its rows with it), so such an element takes row 0.
+            grid->addWidget(placed, qMax(row - 1, 0), info.miColumn, 1, info.miColumnSpan);
         }
     }
 }

@@ -9,6 +9,8 @@
 #include <KvUICore/util/XmlFiler.h>
 
 #include <QFileInfo>
+#include <QPaintEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Kavrel::UICore {
@@ -138,12 +140,37 @@ void PropertyEditorImp::Invalidate()
     mpHost->update();
 }
 
-void PropertyEditorImp::Rebuild()
+void PropertyEditorImp::Rebuild(const QRect& exposed)
 {
     if (!(miFlags & InvalidFlag) || (miFlags & BuildingFlag))
         return;
     miFlags |= BuildingFlag;
-    PropertyEditorElementImp::Of(mpPage)->BuildWidgetTree(mpHost);
+    PropertyEditorElementImp* page = PropertyEditorElementImp::Of(mpPage);
+    const int count = mpPage->GetChildCount();
+    if (exposed.isEmpty()) {
+        page->miChildBuildLimit = -1;
+    } else {
+        // The page's first elements, as far as they reach one screen below
+        // what is exposed, are built now; the rest follows in slices once the
+        // page has painted, so that long pages show at once.
+        const int needed = exposed.bottom() + qMax(exposed.height(), 200);
+        int covered = 0;
+        int limit = 0;
+        page->miChildBuildLimit = 0;
+        page->BuildWidgetTree(mpHost);
+        QWidget* childParent = page->GetChildParentWidget();
+        for (; limit < count && covered <= needed; ++limit) {
+            PropertyEditorElementImp* child = PropertyEditorElementImp::Of(mpPage->GetChild(limit));
+            const bool wasBuilt = child->mpWidget;
+            child->BuildWidgetTree(childParent);
+            if (!wasBuilt)
+                page->miState |= PropertyEditorElementImp::ChildrenChangedBit;
+            if (child->mpWidget)
+                covered += child->mpWidget->sizeHint().height();
+        }
+        page->miChildBuildLimit = limit < count ? limit : -1;
+    }
+    page->BuildWidgetTree(mpHost);
     if (!mpHost->layout()) {
         auto* layout = new QVBoxLayout();
         layout->setContentsMargins(5, 5, 0, 0);
@@ -151,6 +178,35 @@ void PropertyEditorImp::Rebuild()
         layout->addWidget(mpPage->GetWidget());
     }
     miFlags &= ~quint32(InvalidFlag | BuildingFlag);
+    if (page->miChildBuildLimit >= 0 && !mbSliceScheduled) {
+        mbSliceScheduled = true;
+        QTimer::singleShot(0, this, &PropertyEditorImp::BuildNextSlice);
+    }
+}
+
+void PropertyEditorImp::BuildNextSlice()
+{
+    mbSliceScheduled = false;
+    PropertyEditorElementImp* page = PropertyEditorElementImp::Of(mpPage);
+    if (page->miChildBuildLimit < 0 || (miFlags & BuildingFlag))
+        return;
+    page->miChildBuildLimit += kSliceSize;
+    if (page->miChildBuildLimit >= mpPage->GetChildCount())
+        page->miChildBuildLimit = -1;
+    page->miState |= PropertyEditorElementImp::ChildrenChangedBit;
+    miFlags |= BuildingFlag;
+    page->BuildWidgetTree(mpHost);
+    miFlags &= ~quint32(BuildingFlag);
+    if (page->miChildBuildLimit >= 0) {
+        mbSliceScheduled = true;
+        QTimer::singleShot(0, this, &PropertyEditorImp::BuildNextSlice);
+    }
+}
+
+void PropertyEditorImp::BuildAll()
+{
+    miFlags |= InvalidFlag;
+    Rebuild(QRect());
 }
 
 void PropertyEditorImp::RegisterSubtree(PropertyEditorElement* element)
@@ -322,9 +378,20 @@ void PropertyEditor::Invalidate()
     mpImp->Invalidate();
 }
 
+void PropertyEditor::BuildNow()
+{
+    mpImp->BuildAll();
+}
+
+bool PropertyEditor::IsBuilt() const
+{
+    return !(mpImp->miFlags & PropertyEditorImp::InvalidFlag) &&
+           PropertyEditorElementImp::Of(mpImp->mpPage)->miChildBuildLimit < 0;
+}
+
 void PropertyEditor::paintEvent(QPaintEvent* event)
 {
-    mpImp->Rebuild();
+    mpImp->Rebuild(event->rect());
     QWidget::paintEvent(event);
 }
 

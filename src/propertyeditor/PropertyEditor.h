@@ -71,6 +71,12 @@ public:
 
     // Marks the page for rebuilding at the next paint.
     void Invalidate();
+    // Builds every pending widget now instead of at the next paint. A paint
+    // builds the elements that show first, and the rest of a long page right
+    // after it, in slices from the event loop.
+    void BuildNow();
+    // Whether every element has its widget.
+    bool IsBuilt() const;
 
 Q_SIGNALS:
     // An edit through an element has modified a bound property.

@@ -181,8 +181,9 @@ void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
     if (!IsContainer())
         return;
     QWidget* childParent = GetChildParentWidget();
-    for (PropertyEditorElement* child : std::as_const(mChildren))
-        Of(child)->BuildWidgetTree(childParent);
+    const qsizetype count = miChildBuildLimit < 0 ? mChildren.size() : qMin<qsizetype>(miChildBuildLimit, mChildren.size());
+    for (qsizetype i = 0; i < count; ++i)
+        Of(mChildren.at(i))->BuildWidgetTree(childParent);
     if (created || (miState & ChildrenChangedBit)) {
         miState &= ~quint32(ChildrenChangedBit);
         if (mpWidget)

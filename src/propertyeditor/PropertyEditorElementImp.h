@@ -96,6 +96,8 @@ public:
     QMap<QString, Binding*> mBindings;
     PropertyEditorElement::LayoutInfo mLayoutInfo;
     quint32 miState = 0;
+    // How many leading children BuildWidgetTree builds; -1 for all.
+    int miChildBuildLimit = -1;
     bool mbUpdatingWidget = false;
     bool mbLibraryKind = false;
 };

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 
 namespace Kavrel::UICore {
 
@@ -44,7 +45,14 @@ public:
     void ApplyColumnWidthsToGroups();
 
     void Invalidate();
-    void Rebuild();
+    // Builds what the exposed part of the editor needs now and schedules
+    // the rest; an empty rectangle builds everything.
+    void Rebuild(const QRect& exposed);
+    void BuildNextSlice();
+    void BuildAll();
+
+    // Top-level elements of the page built per slice after the first paint.
+    static constexpr int kSliceSize = 8;
 
     // Index of element names (lower case) for the Id checks and FindElement.
     void RegisterSubtree(PropertyEditorElement* element);
@@ -63,6 +71,7 @@ public:
     QString msDefinitionKey;
     Internal::ColumnWidths mColumnWidths = {100, -1, -1};
     quint32 miFlags = InvalidFlag;
+    bool mbSliceScheduled = false;
     // The translation table of the load in progress, for elements that load
     // themselves from their node.
     TranslationTable* mpLoadTable = nullptr;
