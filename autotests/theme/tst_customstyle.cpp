@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSlider>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -20,18 +21,15 @@
 
 using namespace Kavrel::UICore;
 
-namespace Kavrel::UICore {
-// Stands in for the drop-down's menu, which the style recognises by class name.
+namespace {
+
+// A menu the style treats as the drop-down's menu.
 class DropDownMenu : public QMenu
 {
-    Q_OBJECT
 public:
-    using QMenu::QMenu;
+    DropDownMenu() { setProperty(CustomStyle::DropDownMenuProperty, true); }
     using QMenu::initStyleOption;
 };
-} // namespace Kavrel::UICore
-
-namespace {
 
 enum class Look
 {
@@ -53,8 +51,8 @@ public:
 class ProbeSlider : public QSlider
 {
 public:
-    using QSlider::QSlider;
     using QSlider::initStyleOption;
+    using QSlider::QSlider;
 };
 
 class ProbeSpinBox : public QDoubleSpinBox
@@ -261,7 +259,7 @@ void tst_CustomStyle::sliderGrooveShrinksByThree()
     QStyleOptionSlider option;
     slider.initStyleOption(&option);
     const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_Slider, &option,
-                                                                                QStyle::SC_SliderGroove, &slider);
+                                                                               QStyle::SC_SliderGroove, &slider);
     QCOMPARE(CustomStyle::GetInstance()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider),
              base.adjusted(3, 3, -3, -3));
 }
@@ -276,7 +274,7 @@ void tst_CustomStyle::sliderHandleIsOnePixelLine()
     QStyleOptionSlider option;
     slider.initStyleOption(&option);
     const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_Slider, &option,
-                                                                                QStyle::SC_SliderHandle, &slider);
+                                                                               QStyle::SC_SliderHandle, &slider);
     const QRect handle =
         CustomStyle::GetInstance()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider);
     QCOMPARE(handle.width(), 1);
@@ -293,8 +291,7 @@ public:
     explicit FixedHandleStyle(QRect handle)
         : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
         , mHandle(handle)
-    {
-    }
+    {}
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl sub,
                          const QWidget* widget) const override
     {
@@ -341,30 +338,42 @@ void tst_CustomStyle::spinBoxEditFieldLosesOnePixel()
     QStyleOptionSpinBox option;
     spin.initStyleOption(&option);
     const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_SpinBox, &option,
-                                                                                QStyle::SC_SpinBoxEditField, &spin);
-    QCOMPARE(CustomStyle::GetInstance()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField,
-                                                        &spin),
-             base.adjusted(0, 0, -1, 0));
+                                                                               QStyle::SC_SpinBoxEditField, &spin);
+    QCOMPARE(
+        CustomStyle::GetInstance()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, &spin),
+        base.adjusted(0, 0, -1, 0));
 }
 
 void tst_CustomStyle::checkBoxIndicatorFollowsState_data()
 {
+    QTest::addColumn<QString>("theme");
     QTest::addColumn<Look>("look");
     QTest::addColumn<bool>("checked");
-    for (const bool checked : {false, true}) {
-        const char* suffix = checked ? " checked" : " unchecked";
-        QTest::newRow(qPrintable(QStringLiteral("normal") + suffix)) << Look::Normal << checked;
-        QTest::newRow(qPrintable(QStringLiteral("hovered") + suffix)) << Look::Hovered << checked;
-        QTest::newRow(qPrintable(QStringLiteral("sunken") + suffix)) << Look::Sunken << checked;
-        QTest::newRow(qPrintable(QStringLiteral("focused") + suffix)) << Look::Focused << checked;
-        QTest::newRow(qPrintable(QStringLiteral("disabled") + suffix)) << Look::Disabled << checked;
+    // HIGLight defines the optional ring colours, Light does not.
+    for (const char* theme : {"Light", "HIGLight"}) {
+        for (const bool checked : {false, true}) {
+            const QString suffix = QLatin1String(checked ? " checked, " : " unchecked, ") + QLatin1String(theme);
+            QTest::newRow(qPrintable(QStringLiteral("normal") + suffix))
+                << QString::fromLatin1(theme) << Look::Normal << checked;
+            QTest::newRow(qPrintable(QStringLiteral("hovered") + suffix))
+                << QString::fromLatin1(theme) << Look::Hovered << checked;
+            QTest::newRow(qPrintable(QStringLiteral("sunken") + suffix))
+                << QString::fromLatin1(theme) << Look::Sunken << checked;
+            QTest::newRow(qPrintable(QStringLiteral("focused") + suffix))
+                << QString::fromLatin1(theme) << Look::Focused << checked;
+            QTest::newRow(qPrintable(QStringLiteral("disabled") + suffix))
+                << QString::fromLatin1(theme) << Look::Disabled << checked;
+        }
     }
 }
 
 void tst_CustomStyle::checkBoxIndicatorFollowsState()
 {
+    QFETCH(QString, theme);
     QFETCH(Look, look);
     QFETCH(bool, checked);
+    QVERIFY(Themes()->SetCurrentTheme(theme));
+    const auto restore = qScopeGuard([] { Themes()->SetCurrentTheme(QStringLiteral("Light")); });
     ProbeCheckBox box(QStringLiteral("Probe"));
     box.setChecked(checked);
     box.resize(120, 24);
@@ -440,8 +449,8 @@ void tst_CustomStyle::checkBoxIndicatorFollowsState()
     }
     const QColor expectedFill = Probe::Reference(image, background, fill, fillRect, column, fillY + 1);
     QVERIFY2(Probe::Near(Probe::Pixel(image, column, fillY + 1), expectedFill, fill.gradient() ? 8 : 2),
-             qPrintable(Probe::Pixel(image, column, fillY + 1).name(QColor::HexArgb) + " vs "
-                        + expectedFill.name(QColor::HexArgb)));
+             qPrintable(Probe::Pixel(image, column, fillY + 1).name(QColor::HexArgb) + " vs " +
+                        expectedFill.name(QColor::HexArgb)));
 }
 
 void tst_CustomStyle::checkBoxOutlinesAreCrisp()
@@ -457,8 +466,7 @@ void tst_CustomStyle::checkBoxOutlinesAreCrisp()
     const int b = Probe::Bucket(image);
     const int column = Probe::DeviceFloor(image, indicator.center().x() + 0.5) - 1;
     const QRgb background = box.palette().color(QPalette::Window).rgba();
-    const QList<Probe::Run> runs =
-        Foreground(Probe::Runs(image, column, 0, image.height() - 1), background);
+    const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background);
     QVERIFY2(runs.size() >= 3, qPrintable(Probe::Describe(runs)));
     const QColor outline = ThemeColor(ThemeFileKey::WidgetOutline9);
     PROBE_COMPARE_COLOR(QColor::fromRgba(runs.first().color), outline);
@@ -470,8 +478,8 @@ void tst_CustomStyle::checkBoxOutlinesAreCrisp()
 
     // The same along a row.
     const int row = Probe::DeviceFloor(image, indicator.center().y() + 0.5) - 1;
-    const QList<Probe::Run> across = Foreground(
-        Probe::Runs(image, row, 0, Probe::DeviceFloor(image, indicator.right() + 2), false), background);
+    const QList<Probe::Run> across =
+        Foreground(Probe::Runs(image, row, 0, Probe::DeviceFloor(image, indicator.right() + 2), false), background);
     QVERIFY2(across.size() >= 3, qPrintable(Probe::Describe(across)));
     QCOMPARE(across.first().length, b);
     QCOMPARE(across.last().length, b);
@@ -537,6 +545,11 @@ void tst_CustomStyle::toolButtonFocusOutline()
     const int top = Probe::DeviceCeil(image, 1);
     for (int i = 0; i < b; ++i)
         PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), focus);
+    // One pixel in from the right edge too.
+    const int right = Probe::DeviceFloor(image, button.width() - 1) - 1;
+    const int middle = image.height() / 2;
+    PROBE_COMPARE_COLOR(Probe::Pixel(image, right, middle), focus);
+    PROBE_COMPARE_COLOR(Probe::Pixel(image, Probe::DeviceCeil(image, 1), middle), focus);
     const bool wideMargin = Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1;
     const QColor outer = Probe::Pixel(image, column, 0);
     if (wideMargin)
@@ -671,8 +684,8 @@ void tst_CustomStyle::dropDownMenuPaintsItsItems()
     menu.initStyleOption(&option, action);
     option.rect = QRect(0, 0, 150, 20);
     option.state |= QStyle::State_Selected | QStyle::State_Enabled;
-    const QColor hover = Probe::Composite(Qt::white, Themes()->GetBrush(ThemeFileKey::DropDownMenuHoverBackground,
-                                                                         option.rect));
+    const QColor hover =
+        Probe::Composite(Qt::white, Themes()->GetBrush(ThemeFileKey::DropDownMenuHoverBackground, option.rect));
     QVERIFY(Themes()->Exists(ThemeFileKey::DropDownMenuHoverBackground));
 
     QImage image(150, 20, QImage::Format_ARGB32);
@@ -721,9 +734,9 @@ void tst_CustomStyle::plainMenuItemIsPaintedByBaseStyle()
         CustomStyle::GetInstance()->baseStyle()->drawControl(QStyle::CE_MenuItem, &option, &painter, &menu);
     }
     QCOMPARE(ours, base);
-    QCOMPARE(CustomStyle::GetInstance()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
-             CustomStyle::GetInstance()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12),
-                                                                       &menu));
+    QCOMPARE(
+        CustomStyle::GetInstance()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
+        CustomStyle::GetInstance()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu));
 }
 
 void tst_CustomStyle::themeSwitchNeedsNoNotice()

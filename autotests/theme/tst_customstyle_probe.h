@@ -84,8 +84,8 @@ inline QColor Reference(const QImage& like, const QColor& background, const QBru
 
 inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)
 {
-    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance
-           && std::abs(a.blue() - b.blue()) <= tolerance && std::abs(a.alpha() - b.alpha()) <= tolerance;
+    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&
+           std::abs(a.blue() - b.blue()) <= tolerance && std::abs(a.alpha() - b.alpha()) <= tolerance;
 }
 
 struct Run
@@ -113,12 +113,16 @@ inline QString Describe(const QList<Run>& runs)
 {
     QStringList parts;
     for (const Run& run : runs)
-        parts << QStringLiteral("%1x%2@%3").arg(QColor::fromRgba(run.color).name(QColor::HexArgb)).arg(run.length).arg(run.start);
+        parts << QStringLiteral("%1x%2@%3")
+                     .arg(QColor::fromRgba(run.color).name(QColor::HexArgb))
+                     .arg(run.length)
+                     .arg(run.start);
     return parts.join(QLatin1Char(' '));
 }
 
 } // namespace Probe
 
 #define PROBE_COMPARE_COLOR(actual, expected)                                                                          \
-    QVERIFY2(Probe::Near((actual), (expected)),                                                                        \
-             qPrintable(QStringLiteral("%1 != %2").arg((actual).name(QColor::HexArgb), (expected).name(QColor::HexArgb))))
+    QVERIFY2(                                                                                                          \
+        Probe::Near((actual), (expected)),                                                                             \
+        qPrintable(QStringLiteral("%1 != %2").arg((actual).name(QColor::HexArgb), (expected).name(QColor::HexArgb))))

@@ -69,12 +69,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("symbol");
         QTest::addColumn<int>("format");
+        QTest::addColumn<QString>("locale");
+        const QString english = QStringLiteral("en-US");
         for (UnitSymbol symbol : UnitsUtilities::GetAllSymbols()) {
             const QByteArray name = QByteArray::number(symbol, 16);
-            QTest::newRow(name + "/decimal") << int(symbol) << int(kNumberFormatDecimal);
+            QTest::newRow(name + "/decimal") << int(symbol) << int(kNumberFormatDecimal) << english;
+            QTest::newRow(name + "/grouped/de")
+                << int(symbol) << int(kNumberFormatDecimalGrouped) << QStringLiteral("de-DE");
+            QTest::newRow(name + "/general-grouped/fr")
+                << int(symbol) << int(kNumberFormatGeneralGrouped) << QStringLiteral("fr-FR");
             if (!IsFraction(symbol) && !IsDegreesMinutesSeconds(symbol)) {
-                QTest::newRow(name + "/general-grouped") << int(symbol) << int(kNumberFormatGeneralGrouped);
-                QTest::newRow(name + "/fractional") << int(symbol) << int(kNumberFormatFractional);
+                QTest::newRow(name + "/general-grouped") << int(symbol) << int(kNumberFormatGeneralGrouped) << english;
+                QTest::newRow(name + "/fractional") << int(symbol) << int(kNumberFormatFractional) << english;
             }
         }
     }
@@ -83,7 +89,8 @@ private Q_SLOTS:
     {
         QFETCH(int, symbol);
         QFETCH(int, format);
-        UnitsFormatter formatter(L"en-US");
+        QFETCH(QString, locale);
+        UnitsFormatter formatter(locale.toStdWString().c_str());
         formatter.SetNumericFormat(NumberFormat(format));
         formatter.SetIncludePositiveSignInNumber(true);
         Units::teType type = Units::eTypeNone;
@@ -94,7 +101,7 @@ private Q_SLOTS:
         const bool convert =
             UnitsUtilities::IsUnit(base) && base != type && (type & 0xF000) != 0x7000 && symbol != kSymbolRatio;
 
-        const QRegularExpression fullMinute(QStringLiteral("(^|[^0-9.])60(['\"ms′″]|\\.0+[\"s″])"));
+        const QRegularExpression fullMinute(QStringLiteral("(^|[^0-9.,])60(['\"ms′″]|[.,]0+[\"s″])"));
         const QRegularExpression inchesPart(QStringLiteral("(?:'|ft)[- ]?\\s*(\\d+)"));
         wchar_t buffer[256];
         const QList<double> samples = Samples();

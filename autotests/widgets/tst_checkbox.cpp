@@ -53,10 +53,10 @@ void tst_CheckBox::cutLabelExplainsItself_data()
     const QString longText = QStringLiteral("A check box label that cannot possibly fit in the box");
     QTest::newRow("fits") << QStringLiteral("Fits") << 200 << false << QStringLiteral("stale") << QString();
     QTest::newRow("cut") << longText << 90 << false << QString() << longText;
-    QTest::newRow("cut, always show keeps host tip") << longText << 90 << true << QStringLiteral("Host tip")
-                                                     << QStringLiteral("Host tip");
-    QTest::newRow("fits, always show keeps host tip") << QStringLiteral("Fits") << 200 << true
-                                                      << QStringLiteral("Host tip") << QStringLiteral("Host tip");
+    QTest::newRow("cut, always show keeps host tip")
+        << longText << 90 << true << QStringLiteral("Host tip") << QStringLiteral("Host tip");
+    QTest::newRow("fits, always show keeps host tip")
+        << QStringLiteral("Fits") << 200 << true << QStringLiteral("Host tip") << QStringLiteral("Host tip");
 }
 
 void tst_CheckBox::cutLabelExplainsItself()

@@ -93,8 +93,8 @@ void tst_SimpleControls::radioTileFollowsState()
     QVERIFY2(themes->Exists(fillKey), qPrintable(fillKey));
     for (int i = 0; i < b; ++i)
         PROBE_COMPARE_COLOR(Probe::Pixel(image, i, row), outline);
-    const QColor expected = Probe::Reference(image, background, themes->GetBrush(fillKey, tile.rect()), tile.rect(),
-                                             b + 2, row);
+    const QColor expected =
+        Probe::Reference(image, background, themes->GetBrush(fillKey, tile.rect()), tile.rect(), b + 2, row);
     PROBE_COMPARE_COLOR(Probe::Pixel(image, b + 2, row), expected);
 }
 

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
 #include <KvUICore/widgets/IMessageBoxProvider.h>
+#include <KvUICore/widgets/MessageBoxProvider.h>
 
 #include <KvCoreUnits/LocaleUtil.h>
 #include <KvCoreUnits/StringUtil.h>
@@ -314,6 +315,8 @@ void CoreUIManager::SetMessageBoxProvider(IMessageBoxProvider* provider)
 
 IMessageBoxProvider* CoreUIManager::GetMessageBoxProvider()
 {
+    if (!mpImp->mpMessageBoxProvider)
+        mpImp->mpMessageBoxProvider = new MessageBoxProvider;
     return mpImp->mpMessageBoxProvider;
 }
 

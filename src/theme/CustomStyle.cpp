@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QHash>
+#include <QIcon>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
@@ -66,9 +68,21 @@ QBrush Brush(const QString& key, const QRectF& rect)
     return Themes()->GetBrush(key, rect.toAlignedRect());
 }
 
+// Icons named by path in the theme, built once: a QIcon keeps its rendered
+// pixmaps, so painting again neither reads nor parses the file.
+const QIcon& IconForPath(const QString& path)
+{
+    static QHash<QString, QIcon> icons;
+    auto it = icons.find(path);
+    if (it == icons.end())
+        it = icons.insert(path, QIcon(path));
+    return it.value();
+}
+
 bool IsDropDownMenu(const QWidget* widget)
 {
-    return widget && widget->inherits(CustomStyle::DropDownMenuClassName);
+    return widget && (widget->inherits(CustomStyle::DropDownMenuClassName) ||
+                      widget->property(CustomStyle::DropDownMenuProperty).toBool());
 }
 
 bool WidgetEnabled(const QStyleOption* option, const QWidget* widget)
@@ -100,8 +114,7 @@ void FillTriangle(QPainter* painter, const QPointF& a, const QPointF& b, const Q
 
 CustomStyle::CustomStyle()
     : QProxyStyle(static_cast<QStyle*>(nullptr))
-{
-}
+{}
 
 CustomStyle::~CustomStyle() = default;
 
@@ -303,8 +316,7 @@ void CustomStyle::DrawCheckBoxIndicator(const QStyleOption* option, QPainter* pa
     const StrokeGrid grid = StrokeGridOf(widget, painter);
     const QRectF ringRect = StrokeRect(painter, option->rect, grid);
     const QRectF outlineRect = StrokeRect(painter, option->rect, grid, 1);
-    const QRectF fillRect = outlineRect.adjusted(grid.unit * 0.5, grid.unit * 0.5, -grid.unit * 0.5,
-                                                 -grid.unit * 0.5);
+    const QRectF fillRect = outlineRect.adjusted(grid.unit * 0.5, grid.unit * 0.5, -grid.unit * 0.5, -grid.unit * 0.5);
     const bool checked = widget->isChecked();
     const QStyle::State state = option->state;
 
@@ -375,8 +387,8 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
             const_cast<QCheckBox*>(widget)->setToolTip(tip);
         text = elided;
     }
-    proxy()->drawItemText(painter, button->rect, alignment, button->palette, bool(button->state & State_Enabled),
-                          text, QPalette::WindowText);
+    proxy()->drawItemText(painter, button->rect, alignment, button->palette, bool(button->state & State_Enabled), text,
+                          QPalette::WindowText);
     painter->restore();
 }
 
@@ -457,14 +469,13 @@ void CustomStyle::DrawToolButton(const QStyleOptionComplex* option, QPainter* pa
     }
 
     if (WidgetHasFocus(option, widget)) {
-        const QRect r = option->rect;
+        // The outlines cover the pixels from top-left + (1, 1) to bottom-right
+        // - (1, 1), and with a wide margin also the outermost ring.
+        const QRectF r = option->rect;
         const QColor focus = Color(ThemeFileKey::DropDownButtonFocusOutline);
-        StrokeOutline(painter, StrokeRect(painter, QRectF(QPointF(r.topLeft() + QPoint(1, 1)),
-                                                          QPointF(r.bottomRight() - QPoint(1, 1))), grid),
-                      focus, grid);
+        StrokeOutline(painter, StrokeRect(painter, r.adjusted(1, 1, -1, -1), grid), focus, grid);
         if (Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1)
-            StrokeOutline(painter, StrokeRect(painter, QRectF(QPointF(r.topLeft()), QPointF(r.bottomRight())), grid),
-                          focus, grid);
+            StrokeOutline(painter, StrokeRect(painter, r, grid), focus, grid);
     }
 
     QStyleOptionToolButton label = *button;
@@ -509,8 +520,7 @@ void CustomStyle::DrawDoubleSpinBoxComplexControl(const QStyleOptionComplex* opt
     painter->restore();
 }
 
-void CustomStyle::DrawIndicatorSpinUp(const QStyleOption* option, QPainter* painter,
-                                      const QDoubleSpinBox* widget) const
+void CustomStyle::DrawIndicatorSpinUp(const QStyleOption* option, QPainter* painter, const QDoubleSpinBox* widget) const
 {
     const QRectF r = option->rect;
     const qreal half = SpinArrowHalfWidth(r);
@@ -596,7 +606,8 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
     painter->save();
     if (slider->subControls & SC_SliderGroove) {
         if (focused)
-            StrokeOutline(painter, StrokeRect(painter, bar.adjusted(-grid.unit, -grid.unit, grid.unit, grid.unit), grid),
+            StrokeOutline(painter,
+                          StrokeRect(painter, bar.adjusted(-grid.unit, -grid.unit, grid.unit, grid.unit), grid),
                           Color(ThemeFileKey::FocusOutline2), grid);
         DrawFramedRect(painter, barStroke, fill, outline, grid);
         // The track runs from the minimum end to the handle.
@@ -643,8 +654,7 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
 
 // ---- Progress bar ----------------------------------------------------------
 
-void CustomStyle::DrawProgressBarGroove(const QStyleOption* option, QPainter* painter,
-                                        const QProgressBar* widget) const
+void CustomStyle::DrawProgressBarGroove(const QStyleOption* option, QPainter* painter, const QProgressBar* widget) const
 {
     const StrokeGrid grid = StrokeGridOf(widget, painter);
     const QRectF outline = StrokeRect(painter, option->rect, grid);
@@ -758,7 +768,8 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     if (item->menuItemType == QStyleOptionMenuItem::Separator && !groupLabel) {
         painter->setRenderHint(QPainter::Antialiasing, true);
         painter->setPen(CosmeticPen(Color(ThemeFileKey::DropDownMenuSeparator), grid));
-        const qreal y = StrokeRect(painter, QRectF(r.left(), r.top() + r.height() / 2, r.width(), grid.unit), grid).top();
+        const qreal y =
+            StrokeRect(painter, QRectF(r.left(), r.top() + r.height() / 2, r.width(), grid.unit), grid).top();
         painter->drawLine(QPointF(r.left() + 1, y), QPointF(r.right(), y));
         painter->restore();
         return;
@@ -782,19 +793,17 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     const qreal ratio = painter->device()->devicePixelRatioF();
     if (item->menuHasCheckableItems || item->checkType != QStyleOptionMenuItem::NotCheckable) {
         if (item->checked && item->checkType != QStyleOptionMenuItem::NotCheckable) {
-            const QImage mark = QIcon(themes->GetString(ThemeFileKey::CheckMarkIcon))
-                                    .pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio)
-                                    .toImage();
-            painter->drawImage(QRect(r.left() + 2, iconTop, kMenuColumnWidth, kMenuColumnWidth), mark);
+            const QPixmap mark = IconForPath(themes->GetString(ThemeFileKey::CheckMarkIcon))
+                                     .pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio);
+            painter->drawPixmap(QRect(r.left() + 2, iconTop, kMenuColumnWidth, kMenuColumnWidth), mark);
         }
         ++columns;
     }
     if (!item->icon.isNull()) {
         const QPixmap pixmap = item->icon.pixmap(QSize(kMenuColumnWidth, kMenuColumnWidth), ratio,
                                                  enabled ? QIcon::Normal : QIcon::Disabled);
-        painter->drawPixmap(QRect(r.left() + 2 + columns * kMenuColumnWidth, iconTop, kMenuColumnWidth,
-                                  kMenuColumnWidth),
-                            pixmap);
+        painter->drawPixmap(
+            QRect(r.left() + 2 + columns * kMenuColumnWidth, iconTop, kMenuColumnWidth, kMenuColumnWidth), pixmap);
         ++columns;
     }
 
@@ -807,7 +816,7 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
     if (groupLabel && themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0)
         font.setBold(true);
     painter->setFont(font);
-    const QColor textColor = !enabled   ? Color(ThemeFileKey::FontDisable)
+    const QColor textColor = !enabled     ? Color(ThemeFileKey::FontDisable)
                              : groupLabel ? Color(ThemeFileKey::FontGroupHeader)
                                           : Color(ThemeFileKey::FontNormal3);
     painter->setPen(textColor);

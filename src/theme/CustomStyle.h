@@ -24,7 +24,9 @@ namespace Kavrel::UICore {
 // every paint asks the theme manager again, so theme switches need no notice.
 //
 // Menu items and their sizes are painted by this style only for the drop-down
-// menu of the library (a widget whose class is "Kavrel::UICore::DropDownMenu").
+// menu of the library: a widget whose class is "Kavrel::UICore::DropDownMenu",
+// or any menu carrying the dynamic property named by DropDownMenuProperty set
+// to true (a host's own menu that wants the same look).
 // That menu paints its items itself after the standard menu painting; while it
 // runs the standard painting it sets the dynamic property named by
 // StandardMenuPaintProperty to true, and CE_MenuItem then paints nothing. An
@@ -38,6 +40,7 @@ public:
     static CustomStyle* GetInstance();
 
     static constexpr const char* DropDownMenuClassName = "Kavrel::UICore::DropDownMenu";
+    static constexpr const char* DropDownMenuProperty = "kvDropDownMenu";
     static constexpr const char* StandardMenuPaintProperty = "kvStandardMenuPaint";
     static constexpr const char* GroupLabelProperty = "kvGroupLabel";
 
@@ -84,8 +87,7 @@ private:
 
     QRect SubControlRectDoubleSpinBox(const QStyleOptionComplex* option, SubControl subControl,
                                       const QWidget* widget) const;
-    QRect SubControlRectSlider(const QStyleOptionComplex* option, SubControl subControl,
-                               const QWidget* widget) const;
+    QRect SubControlRectSlider(const QStyleOptionComplex* option, SubControl subControl, const QWidget* widget) const;
 };
 
 } // namespace Kavrel::UICore

@@ -5,8 +5,8 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QIcon>
-#include <QPainter>
 #include <QPaintDevice>
+#include <QPainter>
 #include <QWidget>
 
 #include <cmath>
@@ -152,6 +152,14 @@ QBrush DimmedBrush(const QBrush& brush)
     if (brush.style() != Qt::NoBrush)
         dimmed.setColor(DimmedColor(brush.color()));
     return dimmed;
+}
+
+void RepaintAfterThemeChange(QWidget* widget)
+{
+    QWidget* parent = widget->parentWidget();
+    if (parent && !widget->isWindow())
+        parent->update();
+    widget->update();
 }
 
 QIcon IconFromTheme(const QString& key, const QSize& size)

@@ -31,8 +31,7 @@ KVUICORE_EXPORT QPen CosmeticPen(const QBrush& brush, const StrokeGrid& grid, qr
 // The centre lines of one-stroke-wide edges lying inside rect on whole device
 // pixels of the painter, `inset` strokes further in. Drawn antialiased with the
 // grid's cosmetic pen, such edges cover whole device pixels: no blurred halves.
-KVUICORE_EXPORT QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid,
-                                  int inset = 0);
+KVUICORE_EXPORT QRectF StrokeRect(const QPainter* painter, const QRectF& rect, const StrokeGrid& grid, int inset = 0);
 
 // The width and height of one stroke in the painter's logical coordinates.
 KVUICORE_EXPORT QPointF StrokeUnits(const QPainter* painter, const StrokeGrid& grid);
@@ -55,6 +54,12 @@ KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
 
 class QIcon;
 namespace Kavrel::UICore::Internal {
+
+// Schedules the repaint a theme switch needs. The container is marked dirty
+// as a whole: every control repaints on a switch anyway, and one rectangle per
+// container spares Qt merging a dirty region per control, which dominates a
+// switch in a window of many controls.
+KVUICORE_EXPORT void RepaintAfterThemeChange(QWidget* widget);
 
 // The icon behind a theme key: an "Icon" entry's image of that size, or the
 // file a "String" entry names. A null icon when the key holds neither.

@@ -2,6 +2,7 @@
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -71,8 +72,8 @@ void CheckBox::SetAlwaysShowTooltip(bool alwaysShow)
 
 void CheckBox::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     ApplyTextColor();
-    update();
 }
 
 void CheckBox::ApplyTextColor()

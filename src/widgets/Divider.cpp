@@ -81,7 +81,7 @@ QSize Divider::minimumSizeHint() const
 
 void Divider::OnThemeChanged()
 {
-    update();
+    Internal::RepaintAfterThemeChange(this);
 }
 
 void Divider::paintEvent(QPaintEvent*)

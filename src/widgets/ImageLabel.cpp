@@ -69,6 +69,7 @@ void ImageLabel::SetImageSize(const QSize& size)
 
 void ImageLabel::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     UpdateImage();
 }
 

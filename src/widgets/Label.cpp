@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/Label.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -8,6 +9,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStaticText>
 #include <QStyle>
 #include <QTextDocument>
 #include <QToolTip>
@@ -26,8 +28,7 @@ class LabelImp
 public:
     explicit LabelImp(Label* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     bool HasRightPixmapSpace() const
     {
@@ -43,10 +44,7 @@ public:
         return QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side);
     }
 
-    int AvailableTextWidth() const
-    {
-        return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0);
-    }
+    int AvailableTextWidth() const { return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0); }
 
     bool PaintsAsPlainLabel() const
     {
@@ -74,6 +72,22 @@ public:
         return mPreparedPixmap;
     }
 
+    // The text cut to width and laid out once: painting only places it.
+    const QStaticText& ShownText(int width)
+    {
+        const QString text = mpOwner->text();
+        const QFont font = mpOwner->font();
+        if (width != miShownWidth || text != msShownSource || font != mShownFont) {
+            msShownSource = text;
+            miShownWidth = width;
+            mShownFont = font;
+            mShownText.setTextFormat(Qt::PlainText);
+            mShownText.setText(QFontMetrics(font).elidedText(text, Qt::ElideRight, width));
+            mShownText.prepare(QTransform(), font);
+        }
+        return mShownText;
+    }
+
     void UpdateFixedWidth()
     {
         if (!mbAutoFixedWidth)
@@ -94,6 +108,10 @@ public:
     QString msRightPixmapToolTip;
     QString msFixedWidthText;
     bool mbAutoFixedWidth = false;
+    QStaticText mShownText;
+    QString msShownSource;
+    QFont mShownFont;
+    int miShownWidth = -1;
 };
 
 Label::Label(QWidget* parent, Qt::WindowFlags flags)
@@ -197,8 +215,8 @@ int Label::getTextWidth() const
 
 void Label::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     mpImp->ApplyColor();
-    update();
 }
 
 bool Label::event(QEvent* event)
@@ -276,14 +294,25 @@ void Label::paintEvent(QPaintEvent* event)
         QPainter painter(this);
         const QRect contents = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
         const int textWidth = std::min(contents.width(), mpImp->AvailableTextWidth() - contents.left());
-        const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, textWidth);
+        const QStaticText& shown = mpImp->ShownText(textWidth);
         const QString& key = isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled;
         QColor color = ThemeManager::GetInstance()->GetColor(key);
         if (!color.isValid())
             color = palette().color(QPalette::WindowText);
         painter.setPen(color);
-        painter.drawText(QRect(contents.left(), contents.top(), textWidth, contents.height()),
-                         int(alignment()) | Qt::TextSingleLine, elided);
+        const QSizeF size = shown.size();
+        const Qt::Alignment align = QStyle::visualAlignment(layoutDirection(), alignment());
+        qreal x = contents.left();
+        if (align & Qt::AlignRight)
+            x += textWidth - size.width();
+        else if (align & Qt::AlignHCenter)
+            x += (textWidth - size.width()) / 2;
+        qreal y = contents.top() + (contents.height() - size.height()) / 2;
+        if (align & Qt::AlignTop)
+            y = contents.top();
+        else if (align & Qt::AlignBottom)
+            y = contents.top() + contents.height() - size.height();
+        painter.drawStaticText(QPointF(x, y), shown);
     }
     const QRect pixmapRect = mpImp->RightPixmapRect();
     if (pixmapRect.isValid()) {

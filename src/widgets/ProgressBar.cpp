@@ -2,6 +2,7 @@
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -24,7 +25,7 @@ void ProgressBar::OnThemeChanged()
     const QColor color = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
     if (color.isValid())
         Internal::SetTextColor(this, color);
-    update();
+    Internal::RepaintAfterThemeChange(this);
 }
 
 void ProgressBar::changeEvent(QEvent* event)

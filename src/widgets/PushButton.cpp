@@ -23,8 +23,7 @@ class PushButtonImp
 public:
     explicit PushButtonImp(PushButton* owner)
         : mpOwner(owner)
-    {
-    }
+    {}
 
     bool IsHot() const { return miMouseState == PushButton::Hovered || miMouseState == PushButton::Pressed; }
 
@@ -212,8 +211,8 @@ void PushButton::UpdateToolTip()
 
 void PushButton::ThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     UpdateIcon();
-    update();
 }
 
 void PushButton::enterEvent(QEnterEvent* event)

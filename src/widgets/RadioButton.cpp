@@ -91,6 +91,7 @@ bool RadioButton::hitButton(const QPoint& pos) const
 
 void RadioButton::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     ApplyTheme();
 }
 

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/TextLabel.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -67,6 +68,7 @@ void TextLabel::SetBold(bool bold)
 
 void TextLabel::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     ApplyTheme();
 }
 

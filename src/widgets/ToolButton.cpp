@@ -46,6 +46,7 @@ void ToolButton::SetIconThemeKey(const QString& key)
 
 void ToolButton::OnThemeChanged()
 {
+    Internal::RepaintAfterThemeChange(this);
     ApplyTheme();
 }
 

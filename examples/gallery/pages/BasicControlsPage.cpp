@@ -46,10 +46,8 @@ enum Column
 };
 
 const char* const kColumnTitles[ColumnCount] = {
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Enabled"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Disabled"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Hovered"),
-    QT_TRANSLATE_NOOP("BasicControlsPage", "Checked"),
+    QT_TRANSLATE_NOOP("BasicControlsPage", "Enabled"), QT_TRANSLATE_NOOP("BasicControlsPage", "Disabled"),
+    QT_TRANSLATE_NOOP("BasicControlsPage", "Hovered"), QT_TRANSLATE_NOOP("BasicControlsPage", "Checked"),
     QT_TRANSLATE_NOOP("BasicControlsPage", "Focused"),
 };
 
@@ -216,9 +214,11 @@ private:
         return grid;
     }
 
-    QHBoxLayout* CutTexts()
+    QVBoxLayout* CutTexts()
     {
+        auto* column = new QVBoxLayout;
         auto* row = new QHBoxLayout;
+        column->addLayout(row);
         auto* label = new Label(Tr("A label whose text is much too long for its width"), this);
         label->setFixedWidth(150);
         auto* withPixmap = new Label(Tr("Label with a right pixmap that is cut"), this);
@@ -237,12 +237,22 @@ private:
         button->setFixedWidth(110);
         auto* fits = new Label(Tr("Fits"), this);
         fits->SetReservedToolTip(Tr("A label that fits shows its reserved tool tip"));
-        for (QWidget* widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(withPixmap),
-                                static_cast<QWidget*>(check), static_cast<QWidget*>(button),
-                                static_cast<QWidget*>(fits)})
+        for (QWidget* widget :
+             {static_cast<QWidget*>(label), static_cast<QWidget*>(withPixmap), static_cast<QWidget*>(check),
+              static_cast<QWidget*>(button), static_cast<QWidget*>(fits)})
             row->addWidget(widget);
         row->addStretch(1);
-        return row;
+
+        // What hovering the cut check box would show, kept in view.
+        auto* tip = new TextLabel(this);
+        tip->SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+        const auto showTip = [tip, check] {
+            tip->setText(Tr("Tool tip of the cut check box: %1").arg(check->toolTip()));
+        };
+        connect(check, &CheckBox::ToolTipChanged, tip, showTip);
+        showTip();
+        column->addWidget(tip);
+        return column;
     }
 
     QHBoxLayout* TilesAndProgress()

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+#include <KvUICore/widgets/IMessageBoxProvider.h>
+
+namespace Kavrel::UICore {
+
+// The provider the core manager falls back to: the library's own message box.
+class KVUICORE_EXPORT MessageBoxProvider : public IMessageBoxProvider
+{
+public:
+    MessageBoxProvider();
+    ~MessageBoxProvider() override;
+
+    IMessageBox* CreateMessageBox() override;
+    void DestroyMessageBox(IMessageBox* messageBox) override;
+};
+
+} // namespace Kavrel::UICore

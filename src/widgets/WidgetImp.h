@@ -1,0 +1,103 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+#include <KvUICore/platform/NativeHandle.h>
+
+#include <QDomElement>
+#include <QDomNode>
+#include <QPoint>
+#include <QString>
+#include <QWidget>
+
+// The implementation behind the Widget handle, and the base class of the
+// pieces of library UI a host places through that handle.
+//
+// A WidgetImp sits in one of three settings, fixed at construction: top-level
+// (no parent), filling a Qt parent widget, or inside a native window of a host
+// that is not a Qt application, where a wrapper (the host widget) carries it.
+// Placement always acts on the host widget.
+//
+// Subclasses decide what their state is by overriding LoadState(QDomElement&),
+// SaveState(QDomElement&) and, for the string form, StateNodeId().
+class KVUICORE_EXPORT WidgetImp : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Inside a native window; a null handle gives a top-level widget, the
+    // handle of a Qt widget of this process fills that widget.
+    explicit WidgetImp(HWND parentWindow);
+    // Fills `parent` through a margin-less layout that replaces its old one.
+    explicit WidgetImp(QWidget* parent = nullptr);
+    ~WidgetImp() override;
+
+    // The position in the host's pixels: native pixels of the parent window
+    // when the widget sits in a native window.
+    int GetX() const;
+    int GetY() const;
+    int GetWidth() const;
+    int GetHeight() const;
+    int GetMinimumHeight();
+    HWND GetWinId() const;
+    bool IsEnabled() const;
+    bool IsVisible() const;
+
+    // Moves the host widget; the position is used as given.
+    void Move(int x, int y);
+    void Resize(int width, int height);
+    // In a native window on a scaled screen the position is taken as native
+    // pixels and scaled down, the size is used as given: intended.
+    void Resize(int x, int y, int width, int height);
+    void Show();
+    void Hide();
+
+    // Calls BorderVisibleChanged() every time, also when nothing changed.
+    void ShowBorder(bool show);
+    bool IsBorderVisible();
+    // True when the widget sits in a native window through a wrapper.
+    bool IsParentWindowsNativeWindow();
+
+    // Reads the element at `nodePath` of a state file.
+    bool LoadState(const QString& filePath, const QString& nodePath);
+    // Reads the string form written by SaveState().
+    bool LoadState(const QString& xml);
+    // The string form, or a null string when StateNodeId() is empty.
+    QString SaveState();
+    // Replaces the element at `nodePath` of a state file; the rest of the file
+    // is kept. The file is replaced as a whole, never left half written.
+    bool SaveState(const QString& filePath, const QString& nodePath) const;
+
+public Q_SLOTS:
+    virtual void SetVisible(bool visible);
+    virtual void SetEnabled(bool enabled);
+
+Q_SIGNALS:
+    // Emitted by both Resize forms before the size changes.
+    void Resizing(int width, int height);
+
+protected:
+    virtual void LoadState(QDomElement& element);
+    virtual void SaveState(QDomElement& element) const;
+    // The tag of the string form; empty switches the string form off.
+    virtual QString StateNodeId() const;
+    virtual void BorderVisibleChanged();
+
+    // Absent or empty gives the default; text that is not a number reads as 0.
+    bool GetBoolAttribute(QDomElement& element, const QString& name, bool defaultValue);
+    int GetIntAttribute(QDomElement& element, const QString& name, int defaultValue);
+    void SetBoolAttribute(QDomElement& element, const QString& name, bool value) const;
+    void SetIntAttribute(QDomElement& element, const QString& name, int value) const;
+
+private:
+    static QDomElement CreateChildElement(QDomNode& parent, const QString& name);
+    static QDomElement GetElement(QDomNode node, const QString& path, bool create);
+    static QDomElement GetElement(QDomNode node, const QString& path);
+    static QDomElement CreateElementIfNotExists(QDomNode node, const QString& path);
+    static void RemoveAllAttributes(QDomElement element);
+    static void RemoveAllChildNodes(QDomNode node);
+
+    QPoint GetPosition() const;
+
+    QWidget* mpHostWidget = nullptr;
+    bool mbBorderVisible = false;
+};
