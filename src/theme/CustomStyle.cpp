@@ -380,7 +380,9 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
     const auto* libraryCheckBox = qobject_cast<const CheckBox*>(widget);
     const bool keepToolTip = libraryCheckBox && libraryCheckBox->IsAlwaysShowTooltip();
     if (!keepToolTip) {
-        const QString elided = widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
+        const QString elided = libraryCheckBox
+                                   ? libraryCheckBox->ElidedText(text, button->rect.width())
+                                   : widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
         const QString tip = elided == text ? QString() : text;
         // The label explains itself on hover when it is cut.
         if (widget->toolTip() != tip)
