@@ -61,6 +61,7 @@ private Q_SLOTS:
     void subMenus();
     void keyboardOpensMenuAndChoosingCurrentItemOnlyTriggers();
     void choosingAnotherItemChangesTheCurrentIndex();
+    void checkItemChosenFromTheMenuTogglesAndKeepsTheLabel();
     void menuOpensAlignedToTheButton_data();
     void menuOpensAlignedToTheButton();
     void deletingFromTriggeredSlotWhileMenuOpen_data();
@@ -443,6 +444,32 @@ void tst_DropDown::choosingAnotherItemChangesTheCurrentIndex()
     QCOMPARE(order, (QList<int>{1, 2}));
     QCOMPARE(dropDown->text(), QStringLiteral("Third"));
     QVERIFY(!dropDown->isDown());
+}
+
+void tst_DropDown::checkItemChosenFromTheMenuTogglesAndKeepsTheLabel()
+{
+    DropDown* dropDown = shownDropDown();
+    QVERIFY(dropDown);
+    dropDown->AddItem(0, QStringLiteral("Show grid"));
+    QAction* axes = dropDown->AddItem(0, QStringLiteral("Show axes"));
+    dropDown->SetItemType(DropDown::CheckableItem, 0);
+    dropDown->SetGroupItemExclusive(0, false);
+    dropDown->SetCheckedItem(0, 0);
+    dropDown->SetDisplayedText(QStringLiteral("View"));
+    dropDown->SetCurrentIndex(0);
+    QCOMPARE(dropDown->text(), QStringLiteral("View"));
+
+    whenPopupShows([](QMenu* menu) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QSignalSpy triggered(dropDown, &DropDown::Triggered);
+    QTest::keyClick(dropDown, Qt::Key_Down);
+    QTRY_COMPARE(triggered.count(), 1);
+    QVERIFY(axes->isChecked());
+    QVERIFY(dropDown->GetActions().at(0)->isChecked());
+    QCOMPARE(dropDown->text(), QStringLiteral("View"));
+    QCOMPARE(dropDown->GetCurrentIndex(), 1);
 }
 
 void tst_DropDown::menuOpensAlignedToTheButton_data()

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void paintsPanelAndBorderFromTheme_data();
     void paintsPanelAndBorderFromTheme();
     void outerIconStaysOutsideTheFrame();
+    void sharedFrameAndPanelPainters();
     void promptingTextShowsWhileEmptyAndUnfocused();
     void metaObjectInterface();
     void sizeHints();
@@ -482,6 +483,16 @@ void tst_TextBox::paintsPanelAndBorderFromTheme()
     QCOMPARE(pixelAt(image, interior).rgb(), background.rgb());
     QCOMPARE(pixelAt(image, topEdge).rgb(), border.rgb());
 
+    // Under the mouse.
+    box->setAttribute(Qt::WA_UnderMouse, true);
+    image = box->grab().toImage();
+    const QColor hoverBackground = themeColor(ThemeFileKey::WidgetContainer12);
+    const QColor hoverBorder = themeColor(ThemeFileKey::HoverOutline4);
+    QVERIFY(hoverBackground.isValid() && hoverBorder.isValid());
+    QCOMPARE(pixelAt(image, interior).rgb(), hoverBackground.rgb());
+    QCOMPARE(pixelAt(image, topEdge).rgb(), hoverBorder.rgb());
+    box->setAttribute(Qt::WA_UnderMouse, false);
+
     box->setFocus(Qt::TabFocusReason);
     QTRY_VERIFY(box->hasFocus());
     image = box->grab().toImage();
@@ -523,6 +534,36 @@ void tst_TextBox::outerIconStaysOutsideTheFrame()
     QCOMPARE(pixelAt(image, frameLeft + QPoint(3, 0)).rgb(), background.rgb());
     QVERIFY(pixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb() ||
             pixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
+}
+
+void tst_TextBox::sharedFrameAndPanelPainters()
+{
+    const QRect rect(2, 2, 20, 12);
+    const QColor outline(10, 20, 30);
+    const QColor fill(200, 210, 220);
+
+    QImage frame(24, 16, QImage::Format_ARGB32);
+    frame.fill(Qt::transparent);
+    QPainter framePainter(&frame);
+    TextBox::DrawTextBoxFrame(&framePainter, rect, outline, 1);
+    framePainter.end();
+    QCOMPARE(frame.pixelColor(12, 2), outline);
+    QCOMPARE(frame.pixelColor(2, 8), outline);
+    QCOMPARE(frame.pixelColor(21, 8), outline);
+    QCOMPARE(frame.pixelColor(12, 13), outline);
+    // Transparent inside, and the corners stay empty.
+    QCOMPARE(frame.pixelColor(12, 8).alpha(), 0);
+    QCOMPARE(frame.pixelColor(2, 2).alpha(), 0);
+
+    QImage panel(24, 16, QImage::Format_ARGB32);
+    panel.fill(Qt::transparent);
+    QPainter panelPainter(&panel);
+    TextBox::DrawTextBoxPanel(&panelPainter, rect, fill, 1);
+    panelPainter.end();
+    QCOMPARE(panel.pixelColor(12, 8), fill);
+    QCOMPARE(panel.pixelColor(3, 3), fill);
+    // The outline is transparent.
+    QCOMPARE(panel.pixelColor(12, 2).alpha(), 0);
 }
 
 void tst_TextBox::promptingTextShowsWhileEmptyAndUnfocused()

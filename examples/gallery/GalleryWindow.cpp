@@ -48,7 +48,9 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     mpPageList->setFixedWidth(170);
     mpPages = new QStackedWidget(this);
     for (const GalleryPageInfo& page : GalleryPages()) {
-        mpPageList->addItem(page.title);
+        // 24-pixel rows, whatever order the style sheet and the items arrive in.
+        auto* item = new QListWidgetItem(page.title, mpPageList);
+        item->setSizeHint(QSize(0, 24));
         mpPages->addWidget(page.create(mpPages));
     }
     connect(mpPageList, &QListWidget::currentRowChanged, mpPages, &QStackedWidget::setCurrentIndex);

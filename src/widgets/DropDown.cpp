@@ -133,9 +133,8 @@ public:
         if (action->isSeparator() || action == group->GetTrailingSeparator())
             return;
         const DropDown::ItemType type = group->GetItemType();
-        const bool label = type == DropDown::GroupLabelItem;
-        action->setProperty(DropDownMenu::GroupLabelProperty, label ? QVariant(true) : QVariant());
-        if (label) {
+        if (type == DropDown::GroupLabelItem) {
+            action->setProperty(DropDownMenu::GroupLabelProperty, true);
             action->setEnabled(false);
             action->setCheckable(false);
         } else if (type == DropDown::CheckableItem) {
@@ -827,8 +826,10 @@ void DropDown::SetItemType(ItemType type, int group)
     const ItemType old = itemGroup->GetItemType();
     itemGroup->SetItemType(type);
     for (QAction* action : itemGroup->GetActions()) {
-        if (old == GroupLabelItem && type != GroupLabelItem)
+        if (old == GroupLabelItem && type != GroupLabelItem) {
+            action->setProperty(DropDownMenu::GroupLabelProperty, QVariant());
             action->setEnabled(true);
+        }
         if (old == CheckableItem && type != CheckableItem && !action->isChecked())
             action->setCheckable(false);
         mpImp->ApplyItemType(itemGroup, action);

@@ -27,8 +27,8 @@ class KVUICORE_EXPORT DropDown : public QPushButton
     Q_PROPERTY(AlignmentMode alignment READ GetAlignment WRITE SetAlignment)
 
 public:
-    // What the items of a group are.
-    enum ItemType
+    // What the items of a group are. Other values behave as NormalItem.
+    enum ItemType : int
     {
         // A choice: the button shows the current item's text and icon.
         NormalItem = 0,

@@ -93,6 +93,8 @@ TextBoxEventFilter::TextBoxEventFilter(TextBox* box)
 
 bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
 {
+    // The box's handlers only observe: the editor decides about acceptance.
+    const bool accepted = event->isAccepted();
     switch (event->type()) {
     case QEvent::FocusIn:
         mpBox->focusInEvent(static_cast<QFocusEvent*>(event));
@@ -109,6 +111,7 @@ bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
+    event->setAccepted(accepted);
     return QObject::eventFilter(watched, event);
 }
 
@@ -117,7 +120,7 @@ ImageEventFilter::ImageEventFilter(TextBox* box)
     , mpBox(box)
 {}
 
-bool ImageEventFilter::eventFilter(QObject* watched, QEvent* event)
+bool ImageEventFilter::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
         auto* mouse = static_cast<QMouseEvent*>(event);
@@ -142,7 +145,8 @@ bool ImageEventFilter::eventFilter(QObject* watched, QEvent* event)
                 box->mpImp->mbImagePressed = false;
         }
     }
-    return QObject::eventFilter(watched, event);
+    // The events always go on to the label.
+    return false;
 }
 
 // ---- TextBoxImp -----------------------------------------------------------
@@ -243,6 +247,8 @@ TextBox::TextBox(QWidget* parent)
     connect(editor, SIGNAL(returnPressed()), this, SLOT(OnReturnPressed()));
     connect(editor, SIGNAL(selectionChanged()), this, SLOT(OnSelectionChanged()));
     connect(editor, SIGNAL(textChanged(const QString&)), this, SLOT(OnTextChanged(const QString&)));
+
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, qOverload<>(&QWidget::update));
 
     editor->setAccessibleName(QStringLiteral("mpTextBoxControl"));
     mpImp->mpImageControl->setAccessibleName(QStringLiteral("mpImageControl"));

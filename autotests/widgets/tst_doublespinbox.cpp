@@ -1,0 +1,478 @@
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/DoubleSpinBox.h>
+#include <KvUICore/widgets/NumericField.h>
+
+#include <KvCoreUnits/UnitsTypes.h>
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QStyleOptionSpinBox>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using namespace Kavrel::UICore;
+namespace units = kavrel::platform::core::units;
+using Units = kvp::IDesignPropertyUnits;
+
+namespace {
+
+// Opens the protected operations to the test.
+class TestSpinBox : public DoubleSpinBox
+{
+public:
+    using DoubleSpinBox::CanChangeQtDecimals;
+    using DoubleSpinBox::DoubleSpinBox;
+    using DoubleSpinBox::event;
+    using DoubleSpinBox::SetCanChangeQtDecimals;
+    using DoubleSpinBox::UpdateForUnits;
+
+    QRect SubControl(QStyle::SubControl sub)
+    {
+        QStyleOptionSpinBox option;
+        initStyleOption(&option);
+        return style()->subControlRect(QStyle::CC_SpinBox, &option, sub, this);
+    }
+};
+
+} // namespace
+
+class tst_DoubleSpinBox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void constructionDefaults();
+    void typedTextIsParsedWhenEditingFinishes_data();
+    void typedTextIsParsedWhenEditingFinishes();
+    void unreadableTextRestoresTheAcceptedValue();
+    void listenersCanAdjustOrRefuseTypedValues();
+    void textIsFormattedFromTheUnitPart();
+    void singleStepMatchesTheDisplay_data();
+    void singleStepMatchesTheDisplay();
+    void keysAndArrowButtonsStepByTheSingleStep_data();
+    void keysAndArrowButtonsStepByTheSingleStep();
+    void precisionChangeKeepsQtDecimalsWhenAsked();
+    void deferredUpdatesWaitForUpdateForUnits();
+    void wheelIsIgnoredWhileDisabled();
+    void focusChangesTheFieldBackground();
+    void firstClickSelectsAllAndReturnSelectsAll();
+    void modifiedFlagIsStickyUntilCleared();
+    void textColourFollowsThemeAndEnabledState();
+    void compactSizeHint();
+
+private:
+    TestSpinBox* shownSpinBox(double minimum = 0.0, double maximum = 1000.0);
+    QList<QWidget*> mWidgets;
+};
+
+void tst_DoubleSpinBox::initTestCase()
+{
+    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
+    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+void tst_DoubleSpinBox::cleanup()
+{
+    qDeleteAll(mWidgets);
+    mWidgets.clear();
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+}
+
+TestSpinBox* tst_DoubleSpinBox::shownSpinBox(double minimum, double maximum)
+{
+    auto* window = new QWidget;
+    mWidgets << window;
+    auto* layout = new QVBoxLayout(window);
+    auto* spin = new TestSpinBox(window);
+    spin->SetSeparators(QStringLiteral("."), QStringLiteral(","));
+    spin->setRange(minimum, maximum);
+    layout->addWidget(spin);
+    auto* other = new QLineEdit(window);
+    other->setObjectName(QStringLiteral("other"));
+    layout->addWidget(other);
+    window->resize(200, 80);
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window))
+        return nullptr;
+    other->setFocus();
+    return spin;
+}
+
+void tst_DoubleSpinBox::constructionDefaults()
+{
+    DoubleSpinBox spin;
+    QVERIFY(qobject_cast<NumericField*>(spin.GetNumericField()));
+    QCOMPARE(spin.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    QVERIFY(!spin.keyboardTracking());
+    QVERIFY(spin.testAttribute(Qt::WA_Hover));
+    QVERIFY(spin.testAttribute(Qt::WA_MouseTracking));
+    QCOMPARE(spin.decimals(), 2);
+    QCOMPARE(spin.singleStep(), 0.01);
+    QCOMPARE(spin.GetAcceptedValue(), 0.0);
+    QVERIFY(!spin.IsModified());
+    int pos = 0;
+    QString anything = QStringLiteral("no number at all");
+    QCOMPARE(spin.validate(anything, pos), QValidator::Acceptable);
+}
+
+void tst_DoubleSpinBox::typedTextIsParsedWhenEditingFinishes_data()
+{
+    QTest::addColumn<int>("unitType");
+    QTest::addColumn<int>("symbol");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("expected");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("plain number") << int(Units::eUnitless) << int(units::kSymbolUnitless) << "12.5" << 12.5 << "12.50";
+    QTest::newRow("unitless arithmetic") << int(Units::eUnitless) << int(units::kSymbolUnitless) << "(10+2)*3" << 36.0
+                                         << "36.00";
+    QTest::newRow("millimetres") << int(Units::eMillimeter) << int(units::kSymbolMillimeter) << "25" << 25.0
+                                 << "25.00 mm";
+    QTest::newRow("inches into millimetres")
+        << int(Units::eMillimeter) << int(units::kSymbolMillimeter) << "2 in" << 50.8 << "50.80 mm";
+    QTest::newRow("feet, inches and millimetres")
+        << int(Units::eMillimeter) << int(units::kSymbolMillimeter) << "1ft 3in + 20mm" << 401.0 << "401.00 mm";
+    QTest::newRow("above the maximum") << int(Units::eMillimeter) << int(units::kSymbolMillimeter) << "2 m" << 1000.0
+                                       << "1000.00 mm";
+    QTest::newRow("below the minimum") << int(Units::eMillimeter) << int(units::kSymbolMillimeter) << "-5" << 0.0
+                                       << "0.00 mm";
+    QTest::newRow("degrees, minutes, seconds")
+        << int(Units::eDegree) << int(units::kSymbolDegreesMinutesSeconds) << "45d30m" << 45.5 << "45°30'00\"";
+}
+
+void tst_DoubleSpinBox::typedTextIsParsedWhenEditingFinishes()
+{
+    QFETCH(int, unitType);
+    QFETCH(int, symbol);
+    QFETCH(QString, typed);
+    QFETCH(double, expected);
+    QFETCH(QString, shown);
+
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->SetUnitType(Units::teType(unitType));
+    spin->SetUnitSymbolType(units::UnitSymbol(symbol));
+    // Changing the symbol installs the number-only display; this brings the unit text back.
+    spin->SetUnitSymbolDisplayEnabled(true);
+    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    QSignalSpy finished(spin, &QAbstractSpinBox::editingFinished);
+
+    spin->setFocus();
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, typed);
+    QCOMPARE(changed.count(), 0); // keyboard tracking is off
+    QTest::keyClick(spin, Qt::Key_Return);
+
+    QCOMPARE(finished.count(), 1);
+    QVERIFY2(qAbs(spin->value() - expected) < 1e-9, qPrintable(QString::number(spin->value())));
+    QCOMPARE(spin->GetValue(), spin->value());
+    QCOMPARE(spin->GetAcceptedValue(), spin->value());
+    if (!shown.contains(QChar(0xB0)))
+        QCOMPARE(spin->GetNumericField()->text(), shown);
+    QCOMPARE(changed.count(), expected == 0.0 ? 0 : 1);
+}
+
+void tst_DoubleSpinBox::unreadableTextRestoresTheAcceptedValue()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->SetUnitType(Units::eMillimeter);
+    spin->SetUnitSymbolType(units::kSymbolMillimeter);
+    spin->SetUnitSymbolDisplayEnabled(true);
+    spin->setFocus();
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("40"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(spin->value(), 40.0);
+
+    // Stepping changes the value but finishes no editing.
+    QTest::keyClick(spin, Qt::Key_Up);
+    QCOMPARE(spin->value(), 40.01);
+    QCOMPARE(spin->GetAcceptedValue(), 40.0);
+
+    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("twelve furlongs"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(spin->value(), 40.0);
+    QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
+    QCOMPARE(changed.count(), 1);
+
+    // A unit of another group is as unreadable as words.
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("3 kg"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(spin->value(), 40.0);
+    QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
+}
+
+void tst_DoubleSpinBox::listenersCanAdjustOrRefuseTypedValues()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    bool refuse = false;
+    QList<double> seen;
+    connect(spin, &DoubleSpinBox::ValidateChangingValue, spin, [&](double& value, bool& valid) {
+        seen << value;
+        QVERIFY(valid);
+        if (refuse)
+            valid = false;
+        else
+            value = value * 2;
+    });
+    spin->setFocus();
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("21"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(seen, QList<double>{21.0});
+    QCOMPARE(spin->value(), 42.0);
+
+    refuse = true;
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("7"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(spin->value(), 42.0);
+    QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("42.00"));
+
+    // Text that does not parse never reaches the listeners.
+    seen.clear();
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("abc"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QVERIFY(seen.isEmpty());
+}
+
+void tst_DoubleSpinBox::textIsFormattedFromTheUnitPart()
+{
+    DoubleSpinBox spin;
+    spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+    spin.setRange(0.0, 10000.0);
+    spin.SetUnitType(Units::eMillimeter);
+    spin.SetUnitSymbolType(units::kSymbolInch);
+    spin.SetUnitSymbolDisplayEnabled(true);
+    spin.setValue(50.8);
+    QCOMPARE(spin.GetValue(), 50.8);
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00 in"));
+    QCOMPARE(spin.textFromValue(1.0), QStringLiteral("2.00 in"));
+
+    spin.SetUnitSymbolDisplayEnabled(false);
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00"));
+    // A bare number is read in the unit of the symbol.
+    QCOMPARE(spin.valueFromText(QStringLiteral("3")), 76.2);
+    QCOMPARE(spin.valueFromText(QStringLiteral("1000 in")), 10000.0);
+}
+
+void tst_DoubleSpinBox::singleStepMatchesTheDisplay_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("step");
+
+    QTest::newRow("decimal, 0") << int(units::kNumberFormatDecimal) << 0 << 1.0;
+    QTest::newRow("decimal, 3") << int(units::kNumberFormatDecimal) << 3 << 0.001;
+    QTest::newRow("decimal, 5") << int(units::kNumberFormatDecimal) << 5 << 0.00001;
+    QTest::newRow("fractional, 3") << int(units::kNumberFormatFractional) << 3 << 0.125;
+    QTest::newRow("fractional, 5") << int(units::kNumberFormatFractional) << 5 << 0.03125;
+}
+
+void tst_DoubleSpinBox::singleStepMatchesTheDisplay()
+{
+    QFETCH(int, format);
+    QFETCH(int, precision);
+    QFETCH(double, step);
+
+    DoubleSpinBox spin;
+    spin.SetNumberFormatId(units::NumberFormat(format));
+    spin.SetDecimalPrecision(precision);
+    QVERIFY(qFuzzyCompare(spin.singleStep(), step));
+    QCOMPARE(spin.decimals(), precision);
+    QVERIFY(qFuzzyCompare(spin.CalculateSingleStep(precision), step));
+}
+
+void tst_DoubleSpinBox::keysAndArrowButtonsStepByTheSingleStep_data()
+{
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("step");
+
+    QTest::newRow("precision 2") << 2 << 0.01;
+    QTest::newRow("precision 5") << 5 << 0.00001;
+}
+
+void tst_DoubleSpinBox::keysAndArrowButtonsStepByTheSingleStep()
+{
+    QFETCH(int, precision);
+    QFETCH(double, step);
+
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->SetDecimalPrecision(precision);
+    spin->setValue(1.0);
+    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    spin->setFocus();
+
+    QTest::keyClick(spin, Qt::Key_Up);
+    QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
+    QCOMPARE(spin->GetValue(), spin->value());
+    QTest::keyClick(spin, Qt::Key_PageUp);
+    QVERIFY(qAbs(spin->value() - (1.0 + 11 * step)) < step / 100);
+    QTest::keyClick(spin, Qt::Key_PageDown);
+    QTest::keyClick(spin, Qt::Key_Down);
+    QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+    QCOMPARE(changed.count(), 4);
+    QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
+
+    const QRect up = spin->SubControl(QStyle::SC_SpinBoxUp);
+    QVERIFY(up.isValid());
+    QTest::mouseClick(spin, Qt::LeftButton, {}, up.center());
+    QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
+    QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0 + step, 'f', precision));
+    const QRect down = spin->SubControl(QStyle::SC_SpinBoxDown);
+    QTest::mouseClick(spin, Qt::LeftButton, {}, down.center());
+    QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+}
+
+void tst_DoubleSpinBox::precisionChangeKeepsQtDecimalsWhenAsked()
+{
+    TestSpinBox spin;
+    spin.SetDecimalPrecision(4);
+    QCOMPARE(spin.decimals(), 4);
+    spin.SetCanChangeQtDecimals(false);
+    QVERIFY(!spin.CanChangeQtDecimals());
+    spin.SetDecimalPrecision(1);
+    QCOMPARE(spin.decimals(), 4);
+    QVERIFY(qFuzzyCompare(spin.singleStep(), 0.1));
+}
+
+void tst_DoubleSpinBox::deferredUpdatesWaitForUpdateForUnits()
+{
+    TestSpinBox spin;
+    spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+    spin.setValue(2.5);
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
+
+    spin.SetDeferUpdateForUnits(true);
+    QVERIFY(spin.DeferUpdateForUnits());
+    spin.SetDecimalSeparator(QStringLiteral(","));
+    spin.ShowPositiveNumberSign(true);
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
+    QVERIFY(spin.HaveDeferredUpdatesForUnits());
+
+    spin.SetDeferUpdateForUnits(false);
+    QVERIFY(spin.HaveDeferredUpdatesForUnits());
+    spin.UpdateForUnits();
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2,50"));
+    QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+
+    // Without deferring every change shows at once.
+    spin.SetDecimalSeparator(QStringLiteral("."));
+    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2.50"));
+    QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+}
+
+void tst_DoubleSpinBox::wheelIsIgnoredWhileDisabled()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->setValue(5.0);
+    const QPointF centre = QRectF(spin->rect()).center();
+    const auto wheel = [&] {
+        QWheelEvent event(centre, spin->mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        return spin->event(&event);
+    };
+    spin->setFocus();
+    QVERIFY(wheel());
+    QCOMPARE(spin->value(), 5.01);
+
+    spin->setEnabled(false);
+    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    QVERIFY(!wheel());
+    QCOMPARE(spin->value(), 5.01);
+    QCOMPARE(changed.count(), 0);
+}
+
+void tst_DoubleSpinBox::focusChangesTheFieldBackground()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    ThemeManager* themes = ThemeManager::GetInstance();
+    QLineEdit* edit = spin->GetNumericField();
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QCOMPARE(edit->palette().brush(QPalette::Active, edit->backgroundRole()).color(),
+             themes->GetColor(ThemeFileKey::ActiveContainer1));
+    QCOMPARE(edit->palette().brush(QPalette::Inactive, edit->backgroundRole()).color(),
+             themes->GetColor(ThemeFileKey::ActiveContainer1));
+    spin->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+    QTRY_VERIFY(!spin->hasFocus());
+    QCOMPARE(edit->palette().brush(QPalette::Active, edit->backgroundRole()).color(),
+             themes->GetColor(ThemeFileKey::WidgetContainer3));
+}
+
+void tst_DoubleSpinBox::firstClickSelectsAllAndReturnSelectsAll()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->setValue(123.45);
+    QLineEdit* edit = spin->GetNumericField();
+    const QRect field = spin->SubControl(QStyle::SC_SpinBoxEditField);
+    const QPoint inEdit = edit->mapFrom(spin, field.center());
+    QTest::mouseClick(edit, Qt::LeftButton, {}, inEdit);
+    QTRY_VERIFY(spin->hasFocus());
+    QCOMPARE(edit->selectedText(), QStringLiteral("123.45"));
+    QTest::mouseClick(edit, Qt::LeftButton, {}, inEdit);
+    QVERIFY(!edit->hasSelectedText());
+
+    QTest::keyClick(spin, Qt::Key_End);
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(edit->selectedText(), QStringLiteral("123.45"));
+}
+
+void tst_DoubleSpinBox::modifiedFlagIsStickyUntilCleared()
+{
+    TestSpinBox* spin = shownSpinBox();
+    QVERIFY(spin);
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QVERIFY(!spin->IsModified());
+    spin->GetNumericField()->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("8"));
+    QVERIFY(spin->IsModified());
+    // Return rewrites the text, the flag stays.
+    QTest::keyClick(spin, Qt::Key_Return);
+    QVERIFY(!spin->GetNumericField()->isModified());
+    QVERIFY(spin->IsModified());
+    spin->ClearModified();
+    QVERIFY(!spin->IsModified());
+}
+
+void tst_DoubleSpinBox::textColourFollowsThemeAndEnabledState()
+{
+    DoubleSpinBox spin;
+    ThemeManager* themes = ThemeManager::GetInstance();
+    QCOMPARE(spin.GetNumericField()->palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+    QCOMPARE(spin.GetNumericField()->palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
+    spin.setEnabled(false);
+    QCOMPARE(spin.GetNumericField()->palette().color(QPalette::Text),
+             themes->GetColor(ThemeFileKey::FontColorDisabled));
+}
+
+void tst_DoubleSpinBox::compactSizeHint()
+{
+    DoubleSpinBox compact(nullptr, true);
+    QCOMPARE(compact.sizeHint(), QSize(56, 24));
+    DoubleSpinBox normal;
+    QVERIFY(normal.sizeHint() != QSize(56, 24));
+}
+
+QTEST_MAIN(tst_DoubleSpinBox)
+#include "tst_doublespinbox.moc"

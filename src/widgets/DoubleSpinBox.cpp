@@ -1,0 +1,299 @@
+#include <KvUICore/widgets/DoubleSpinBox.h>
+
+#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/DoubleSpinBoxNumericField.h>
+
+#include <QKeyEvent>
+#include <QRegularExpressionValidator>
+
+#include <cmath>
+
+namespace Kavrel::UICore {
+
+namespace {
+
+constexpr QSize kCompactSize(56, 24);
+
+} // namespace
+
+class DoubleSpinBoxImp
+{
+public:
+    DoubleSpinBoxImp(DoubleSpinBox* owner, bool compactSize)
+        : mpOwner(owner)
+        , mbCompactSize(compactSize)
+    {}
+
+    // Laid over the line edit so that gradients span the field.
+    void ApplyFieldBackground(const QString& key)
+    {
+        QLineEdit* edit = mpOwner->lineEdit();
+        if (!edit)
+            return;
+        QPalette palette = edit->palette();
+        palette.setBrush(edit->backgroundRole(), ThemeManager::GetInstance()->GetBrush(key, edit->rect()));
+        edit->setPalette(palette);
+    }
+
+    // The deferrable update shared by the format notifications.
+    void UpdateOrMark()
+    {
+        if (mbDeferUpdateForUnits) {
+            mbHaveDeferredUpdatesForUnits = true;
+            return;
+        }
+        mpOwner->setValue(mpOwner->value());
+        mbHaveDeferredUpdatesForUnits = false;
+    }
+
+    DoubleSpinBox* const mpOwner;
+    QRegularExpressionValidator* mpValidator = nullptr;
+    DoubleSpinBoxNumericField* mpNumericField = nullptr;
+    double mdAcceptedValue = 0.0;
+    const bool mbCompactSize;
+    bool mbCanChangeQtDecimals = true;
+    bool mbDeferUpdateForUnits = false;
+    bool mbHaveDeferredUpdatesForUnits = false;
+};
+
+DoubleSpinBox::DoubleSpinBox(QWidget* parent, bool compactSize)
+    : QDoubleSpinBox(parent)
+    , WidgetUnits()
+    , mpImp(std::make_unique<DoubleSpinBoxImp>(this, compactSize))
+{
+    setStyle(CustomStyle::GetInstance());
+    mpImp->mpNumericField = new DoubleSpinBoxNumericField(this);
+    setLineEdit(mpImp->mpNumericField);
+    setAlignment(Qt::AlignRight);
+    Internal::SetTextColor(mpImp->mpNumericField, ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1));
+    mpImp->mpValidator = new QRegularExpressionValidator(QRegularExpression(QStringLiteral(".*")), this);
+    setDecimals(GetDecimalPrecision());
+    setSingleStep(CalculateSingleStep(GetDecimalPrecision()));
+    connect(this, SIGNAL(editingFinished()), this, SLOT(SaveAcceptedValue()));
+    connect(ThemeManager::GetInstance(), SIGNAL(ThemeChanged(const QString&, const QString&)), this,
+            SLOT(OnThemeChanged()));
+    // The text is formatted from the unit part, which learns the new value only
+    // here; take it over first and write the text again, before any other
+    // listener of valueChanged runs.
+    connect(this, &QDoubleSpinBox::valueChanged, this, [this](double value) {
+        SetValue(value, false);
+        QDoubleSpinBox::setValue(QDoubleSpinBox::value());
+    });
+    setAttribute(Qt::WA_MouseTracking, true);
+    setAttribute(Qt::WA_Hover, true);
+    setAttribute(Qt::WA_MacShowFocusRect, false);
+    setKeyboardTracking(false);
+}
+
+DoubleSpinBox::~DoubleSpinBox() = default;
+
+QString DoubleSpinBox::textFromValue(double) const
+{
+    QString text;
+    GetLocaleStringFromValue(GetValue(), text);
+    if (text.isEmpty())
+        text = QString::number(GetValue(), 'f', GetDecimalPrecision());
+    return text;
+}
+
+double DoubleSpinBox::valueFromText(const QString& text) const
+{
+    auto* self = const_cast<DoubleSpinBox*>(this);
+    double value = 0.0;
+    if (!self->ValidateValue(text + QLatin1Char(' '), value))
+        return self->GetAcceptedValue();
+    if (value > maximum())
+        return maximum();
+    if (value < minimum())
+        return minimum();
+    return value;
+}
+
+QValidator::State DoubleSpinBox::validate(QString& text, int& pos) const
+{
+    return mpImp->mpValidator->validate(text, pos);
+}
+
+bool DoubleSpinBox::ValidateValue(const QString& text, double& value)
+{
+    if (!WidgetUnits::ValidateValue(text, value))
+        return false;
+    bool valid = true;
+    Q_EMIT ValidateChangingValue(value, valid);
+    return valid;
+}
+
+double DoubleSpinBox::CalculateSingleStep(int precision)
+{
+    if (GetNumberFormatId() == kavrel::platform::core::units::kNumberFormatFractional)
+        return 1.0 / std::pow(2.0, precision);
+    return 1.0 / std::pow(10.0, precision);
+}
+
+void DoubleSpinBox::ResetSingleStep()
+{
+    setSingleStep(CalculateSingleStep(GetDecimalPrecision()));
+}
+
+double DoubleSpinBox::GetAcceptedValue()
+{
+    return mpImp->mdAcceptedValue;
+}
+
+void DoubleSpinBox::SaveAcceptedValue()
+{
+    mpImp->mdAcceptedValue = value();
+}
+
+NumericField* DoubleSpinBox::GetNumericField() const
+{
+    return mpImp->mpNumericField;
+}
+
+bool DoubleSpinBox::IsModified() const
+{
+    return mpImp->mpNumericField ? mpImp->mpNumericField->IsModified() : false;
+}
+
+void DoubleSpinBox::ClearModified()
+{
+    if (mpImp->mpNumericField)
+        mpImp->mpNumericField->ClearModified();
+}
+
+void DoubleSpinBox::SetDeferUpdateForUnits(bool defer)
+{
+    mpImp->mbDeferUpdateForUnits = defer;
+}
+
+bool DoubleSpinBox::DeferUpdateForUnits() const
+{
+    return mpImp->mbDeferUpdateForUnits;
+}
+
+bool DoubleSpinBox::HaveDeferredUpdatesForUnits() const
+{
+    return mpImp->mbHaveDeferredUpdatesForUnits;
+}
+
+void DoubleSpinBox::SetCanChangeQtDecimals(bool canChange)
+{
+    mpImp->mbCanChangeQtDecimals = canChange;
+}
+
+bool DoubleSpinBox::CanChangeQtDecimals() const
+{
+    return mpImp->mbCanChangeQtDecimals;
+}
+
+void DoubleSpinBox::UpdateForUnits()
+{
+    setValue(value());
+    mpImp->mbHaveDeferredUpdatesForUnits = false;
+}
+
+void DoubleSpinBox::UpdateForUnits(bool, bool)
+{
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_DecimalPrecision(int, int newPrecision)
+{
+    if (mpImp->mbCanChangeQtDecimals)
+        setDecimals(newPrecision);
+    setSingleStep(CalculateSingleStep(newPrecision));
+}
+
+void DoubleSpinBox::OnChanged_UnitSymbol(UnitSymbol, UnitSymbol)
+{
+    ResetSingleStep();
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_NumberFormat(NumberFormat, NumberFormat)
+{
+    ResetSingleStep();
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_DecimalSeparator(QString, QString)
+{
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_GroupSeparator(QString, QString)
+{
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_NumberSign(bool, bool)
+{
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_ExponentSign(bool, bool)
+{
+    mpImp->UpdateOrMark();
+}
+
+void DoubleSpinBox::OnChanged_UnitSymbolDisplayEnabled(bool, bool)
+{
+    mpImp->UpdateOrMark();
+}
+
+QSize DoubleSpinBox::sizeHint() const
+{
+    return mpImp->mbCompactSize ? kCompactSize : QDoubleSpinBox::sizeHint();
+}
+
+void DoubleSpinBox::OnThemeChanged()
+{
+    if (QLineEdit* edit = lineEdit()) {
+        Internal::SetTextColor(edit, ThemeManager::GetInstance()->GetColor(
+                                         isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled));
+        mpImp->ApplyFieldBackground(hasFocus() ? ThemeFileKey::ActiveContainer1 : ThemeFileKey::WidgetContainer3);
+    }
+}
+
+bool DoubleSpinBox::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn: {
+        const bool handled = QDoubleSpinBox::event(event);
+        mpImp->ApplyFieldBackground(ThemeFileKey::ActiveContainer1);
+        return handled;
+    }
+    case QEvent::FocusOut: {
+        const bool handled = QDoubleSpinBox::event(event);
+        mpImp->ApplyFieldBackground(ThemeFileKey::WidgetContainer3);
+        return handled;
+    }
+    case QEvent::Wheel:
+        if (!isEnabled()) {
+            event->ignore();
+            return false;
+        }
+        break;
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            const bool handled = QDoubleSpinBox::event(event);
+            if (QLineEdit* edit = lineEdit())
+                edit->selectAll();
+            return handled;
+        }
+        break;
+    }
+    case QEvent::EnabledChange:
+        OnThemeChanged();
+        break;
+    default:
+        break;
+    }
+    return QDoubleSpinBox::event(event);
+}
+
+} // namespace Kavrel::UICore
