@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QHash>
 #include <QIcon>
@@ -69,10 +70,13 @@ QBrush Brush(const QString& key, const QRectF& rect)
 }
 
 // Icons named by path in the theme, built once: a QIcon keeps its rendered
-// pixmaps, so painting again neither reads nor parses the file.
+// pixmaps, so painting again neither reads nor parses the file. Emptied when
+// the application goes, before pixmaps can no longer be released.
 const QIcon& IconForPath(const QString& path)
 {
     static QHash<QString, QIcon> icons;
+    if (icons.isEmpty())
+        qAddPostRoutine([] { icons.clear(); });
     auto it = icons.find(path);
     if (it == icons.end())
         it = icons.insert(path, QIcon(path));
