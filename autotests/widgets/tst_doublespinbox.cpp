@@ -472,6 +472,9 @@ void tst_DoubleSpinBox::compactSizeHint()
     QCOMPARE(compact.sizeHint(), QSize(56, 24));
     DoubleSpinBox normal;
     QVERIFY(normal.sizeHint() != QSize(56, 24));
+    // Never too low for the field's text.
+    QVERIFY(normal.sizeHint().height() >= 24);
+    QVERIFY(normal.minimumSizeHint().height() >= 24);
 }
 
 QTEST_MAIN(tst_DoubleSpinBox)

@@ -1,3 +1,4 @@
+// test-options: SCALES 1.25 1.5 2
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>

@@ -70,9 +70,12 @@ private Q_SLOTS:
     void valueSetFromCodeMovesTheSliderSilently();
     void arrowKeysStepTheValueFinely_data();
     void arrowKeysStepTheValueFinely();
+    void degreeMinuteSecondKeysStepByTheShownPart_data();
+    void degreeMinuteSecondKeysStepByTheShownPart();
     void escapeDuringAKeyboardDragCancels();
     void wheelNotchAwayFromTheUserLowersThePosition();
     void dragStartsWhereTheThumbIsAndFollowsTheMouse();
+    void rightButtonDragsAndOtherButtonsDoNothing();
     void refusedValuesLeaveValueAndPosition();
     void rangeChangesClampTheValue();
     void deferredUpdatesWaitForUpdateForUnits();
@@ -80,6 +83,8 @@ private Q_SLOTS:
     void valuesCanBeTreatedAsFloat();
     void focusLossIsAnnounced();
     void textColourFollowsThemeAndEnabledState();
+    void textColoursSurviveStyleSheetRepolish();
+    void displayTextIsPaintedOnTheGroove();
 
 private:
     Slider* shownSlider();
@@ -324,6 +329,37 @@ void tst_Slider::arrowKeysStepTheValueFinely()
     QCOMPARE(changed.last().at(0).toDouble(), slider->GetValue());
 }
 
+void tst_Slider::degreeMinuteSecondKeysStepByTheShownPart_data()
+{
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("step");
+
+    QTest::newRow("seconds") << 4 << 1.0 / 3600;
+    QTest::newRow("tenths of a second") << 5 << 1.0 / 36000;
+}
+
+void tst_Slider::degreeMinuteSecondKeysStepByTheShownPart()
+{
+    QFETCH(int, precision);
+    QFETCH(double, step);
+
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetUnitType(Units::eDegree);
+    slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
+    slider->SetRange(0.0, 360.0);
+    slider->SetDecimalPrecision(precision);
+    slider->SetValue(45.5);
+    SliderControl* control = slider->GetSliderControl();
+    QVERIFY(!control->DefaultKeyHandling());
+    control->setFocus();
+    QTest::keyClick(control, Qt::Key_Up);
+    QTest::keyClick(control, Qt::Key_Up);
+    QVERIFY(qAbs(slider->GetValue() - (45.5 + 2 * step)) < 1e-12);
+    QTest::keyClick(control, Qt::Key_PageDown);
+    QVERIFY(qAbs(slider->GetValue() - (45.5 - 8 * step)) < 1e-12);
+}
+
 void tst_Slider::escapeDuringAKeyboardDragCancels()
 {
     Slider* slider = shownSlider();
@@ -408,6 +444,40 @@ void tst_Slider::dragStartsWhereTheThumbIsAndFollowsTheMouse()
                            QStringLiteral("released")};
     QCOMPARE(log.mEntries, log1);
     QVERIFY(control->HeldInputs().isEmpty());
+}
+
+void tst_Slider::rightButtonDragsAndOtherButtonsDoNothing()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetDecimalPrecision(0);
+    slider->SetRange(-100.0, 100.0);
+    slider->SetValue(0.0);
+    SliderControl* control = slider->GetSliderControl();
+    QCOMPARE(control->GetStoredMinimum(), -100);
+    SignalLog log(slider);
+    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+    const QPoint press = groove.center();
+
+    QTest::mousePress(control, Qt::MiddleButton, {}, press);
+    QTest::mouseRelease(control, Qt::MiddleButton, {}, press);
+    QVERIFY(log.mEntries.isEmpty());
+    QCOMPARE(slider->GetValue(), 0.0);
+
+    QTest::mousePress(control, Qt::RightButton, {}, press);
+    // The left button is ignored while the right one drags.
+    QTest::mousePress(control, Qt::LeftButton, {}, press);
+    QCOMPARE(control->HeldInputs(), QList<int>{SliderControl::MouseInput});
+    QMouseEvent move(QEvent::MouseMove, QPointF(groove.left(), press.y()), control->mapToGlobal(QPointF(press)),
+                     Qt::NoButton, Qt::RightButton, Qt::NoModifier);
+    QApplication::sendEvent(control, &move);
+    QVERIFY(slider->GetValue() < 0.0);
+    QCOMPARE(control->minimum(), -100);
+    QCOMPARE(control->maximum(), 100);
+    QTest::mouseRelease(control, Qt::RightButton, {}, QPoint(groove.left(), press.y()));
+    QCOMPARE(log.mEntries.first(), QStringLiteral("pressed"));
+    QCOMPARE(log.mEntries.last(), QStringLiteral("released"));
+    QCOMPARE(log.mEntries.count(), 3);
 }
 
 void tst_Slider::refusedValuesLeaveValueAndPosition()
@@ -551,6 +621,54 @@ void tst_Slider::textColourFollowsThemeAndEnabledState()
     QCOMPARE(slider.GetNumericField()->palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
     slider.setEnabled(false);
     QCOMPARE(label->palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontColorDisabled));
+}
+
+void tst_Slider::textColoursSurviveStyleSheetRepolish()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    ThemeManager* themes = ThemeManager::GetInstance();
+    qApp->setStyleSheet(QStringLiteral("QToolTip { padding: 2px; }"));
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+    // A host re-applies its style sheet after a theme switch: every widget is polished again.
+    qApp->setStyleSheet(qApp->styleSheet() + QLatin1Char(' '));
+    const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
+    QCOMPARE(slider->GetNumericField()->palette().color(QPalette::Text), text);
+    QCOMPARE(slider->findChild<QLabel*>()->palette().color(QPalette::WindowText), text);
+    qApp->setStyleSheet(QString());
+}
+
+void tst_Slider::displayTextIsPaintedOnTheGroove()
+{
+    Slider* slider = shownSlider();
+    QVERIFY(slider);
+    slider->SetNumFieldVisible(false);
+    SliderControl* control = slider->GetSliderControl();
+    slider->SetValue(0.0);
+    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+    const QImage before = control->grab().toImage();
+    slider->SetDisplayText(QStringLiteral("Opacity"));
+    QCOMPARE(control->property("attributeTextTerm").toString(), QStringLiteral("Opacity"));
+    const QImage after = control->grab().toImage();
+    QCOMPARE(after.size(), before.size());
+    // The text changes pixels around the groove's middle, and nowhere near the ends.
+    const qreal ratio = after.devicePixelRatio();
+    const QColor text = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    int changed = 0;
+    int nearText = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (after.pixel(x, y) == before.pixel(x, y))
+                continue;
+            ++changed;
+            QVERIFY(x / ratio > groove.left() + 5 && x / ratio < groove.right() - 5);
+            const QColor c = after.pixelColor(x, y);
+            if (qAbs(c.red() - text.red()) + qAbs(c.green() - text.green()) + qAbs(c.blue() - text.blue()) < 60)
+                ++nearText;
+        }
+    }
+    QVERIFY2(changed > 20, qPrintable(QString::number(changed)));
+    QVERIFY2(nearText > 5, qPrintable(QString::number(nearText)));
 }
 
 QTEST_MAIN(tst_Slider)

@@ -246,7 +246,16 @@ void DoubleSpinBox::OnChanged_UnitSymbolDisplayEnabled(bool, bool)
 
 QSize DoubleSpinBox::sizeHint() const
 {
-    return mpImp->mbCompactSize ? kCompactSize : QDoubleSpinBox::sizeHint();
+    if (mpImp->mbCompactSize)
+        return kCompactSize;
+    // The custom style has no frame, which leaves the base hint too low for the
+    // field's text: never lower than the compact height.
+    return QDoubleSpinBox::sizeHint().expandedTo(QSize(0, kCompactSize.height()));
+}
+
+QSize DoubleSpinBox::minimumSizeHint() const
+{
+    return QDoubleSpinBox::minimumSizeHint().expandedTo(QSize(0, kCompactSize.height()));
 }
 
 void DoubleSpinBox::OnThemeChanged()

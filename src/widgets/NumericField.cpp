@@ -185,7 +185,8 @@ void NumericField::paintEvent(QPaintEvent* event)
 void NumericField::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
+    // A style sheet's polish replaces the palette: colour it again after it.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
         mpImp->ApplyTextColor();
 }
 

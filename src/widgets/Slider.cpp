@@ -195,6 +195,7 @@ Slider::Slider(QWidget* parent)
     mpImp->mpNumericField = new NumericField(this);
     mpImp->mpUnitSymbolLabel = new QLabel(this);
     mpImp->mpUnitSymbolLabel->hide();
+    mpImp->mpUnitSymbolLabel->installEventFilter(this);
 
     mpImp->UpdateRange(false);
 
@@ -394,6 +395,14 @@ void Slider::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         mpImp->ApplyTextColors();
+}
+
+bool Slider::eventFilter(QObject* watched, QEvent* event)
+{
+    // A style sheet's polish replaces the label's palette: colour it again after it.
+    if (watched == mpImp->mpUnitSymbolLabel && event->type() == QEvent::StyleChange)
+        mpImp->ApplyTextColors();
+    return QWidget::eventFilter(watched, event);
 }
 
 void Slider::OnChanged_DecimalPrecision(int, int newPrecision)

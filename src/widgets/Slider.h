@@ -109,6 +109,7 @@ protected:
     bool ValidateValue(const QString& text, double& value) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Q_DISABLE_COPY_MOVE(Slider)

@@ -351,17 +351,20 @@ void SliderControl::paintEvent(QPaintEvent* event)
         return;
     QStyleOptionSlider option;
     initStyleOption(&option);
-    const QRect groove = style()
-                             ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this)
-                             .adjusted(kDisplayTextInset, 0, -kDisplayTextInset, 0);
-    if (groove.width() <= 0)
+    // Base styles differ in how thin their groove is, so the text takes the
+    // groove's length and is centred on its middle line.
+    const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const int textHeight = fontMetrics().height();
+    const QRect textRect(groove.left() + kDisplayTextInset, groove.center().y() - textHeight / 2,
+                         groove.width() - 2 * kDisplayTextInset, textHeight);
+    if (textRect.width() <= 0)
         return;
     QPainter painter(this);
     painter.setFont(font());
     painter.setPen(ThemeManager::GetInstance()->GetColor(isEnabled() ? ThemeFileKey::FontNormal1
                                                                      : ThemeFileKey::FontColorDisabled));
-    painter.drawText(groove, Qt::AlignCenter,
-                     fontMetrics().elidedText(mpImp->msDisplayText, Qt::ElideRight, groove.width()));
+    painter.drawText(textRect, Qt::AlignCenter,
+                     fontMetrics().elidedText(mpImp->msDisplayText, Qt::ElideRight, textRect.width()));
 }
 
 } // namespace Kavrel::UICore
