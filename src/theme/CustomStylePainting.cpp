@@ -28,13 +28,13 @@ bool IsPlainScale(const QTransform& transform)
 
 StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter)
 {
+    // While painting, the device carries the widget's ratio and is cheaper to
+    // ask than the widget, which looks up its screen.
+    const QPaintDevice* device = painter ? painter->device() : nullptr;
+    const qreal ratio = device ? device->devicePixelRatioF() : (widget ? widget->devicePixelRatioF() : 1.0);
+    const int percent = int(std::trunc((ratio * 100.0 + 2.5) / 5.0)) * 5;
     StrokeGrid grid;
-    if (widget) {
-        grid.factor = DeviceScaleFactor(widget);
-    } else if (painter && painter->device()) {
-        const qreal ratio = painter->device()->devicePixelRatioF();
-        grid.factor = ratio < 1.0 ? 1.0f : float(std::min(3.5, std::trunc((ratio * 100.0 + 2.5) / 5.0) * 0.05));
-    }
+    grid.factor = percent < 100 ? 1.0f : float(std::min(percent, 350)) * 0.01f;
     grid.bucket = ResolutionBucket(grid.factor);
     grid.unit = StrokeUnit(grid.factor);
     return grid;

@@ -22,6 +22,8 @@ struct StrokeGrid
     float unit = 1.0f;
 };
 
+// The grid of the device being painted (the widget's device scale factor,
+// rounded to 5 % steps as for the widget); the widget's own ratio without a painter.
 KVUICORE_EXPORT StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter);
 
 // The cosmetic pen of the grid's width: square caps and mitre joins.
