@@ -1,4 +1,5 @@
 // test-options: SCALES 1.25 1.5 2
+#include "../PaintProbe.h"
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -22,17 +23,6 @@
 using namespace Kavrel::UICore;
 
 namespace {
-
-QColor themeColor(const QString& key)
-{
-    return ThemeManager::GetInstance()->GetColor(key);
-}
-
-QColor pixelAt(const QImage& image, QPoint logical)
-{
-    const qreal ratio = image.devicePixelRatio();
-    return image.pixelColor(qRound(logical.x() * ratio), qRound(logical.y() * ratio));
-}
 
 QIcon solidIcon(const QColor& color)
 {
@@ -586,14 +576,14 @@ void tst_DropDown::paintsButtonAndMenuFromTheme()
     dropDown->AddItem(1, QStringLiteral("Second"));
     dropDown->AddItem(2, QStringLiteral("Third"));
 
-    const QColor border = themeColor(ThemeFileKey::DropDownButtonNormalBorderColor);
-    const QColor triangle = themeColor(ThemeFileKey::DropDownTriangle);
+    const QColor border = Probe::ThemeColor(ThemeFileKey::DropDownButtonNormalBorderColor);
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::DropDownTriangle);
     QVERIFY(border.isValid() && triangle.isValid());
     const QImage button = dropDown->grab().toImage();
-    QCOMPARE(pixelAt(button, QPoint(dropDown->width() / 2, 1)).rgb(), border.rgb());
+    QCOMPARE(Probe::PixelAt(button, QPoint(dropDown->width() / 2, 1)).rgb(), border.rgb());
     // Inside the arrow, in the 16-pixel column at the right.
     const QPoint arrow(dropDown->width() - 16 + 6, dropDown->height() / 2 - 1);
-    QCOMPARE(pixelAt(button, arrow).rgb(), triangle.rgb());
+    QCOMPARE(Probe::PixelAt(button, arrow).rgb(), triangle.rgb());
 
     DropDownMenu* menu = dropDown->GetDropDownMenu();
     menu->popup(dropDown->mapToGlobal(QPoint(0, dropDown->height())));
@@ -604,16 +594,16 @@ void tst_DropDown::paintsButtonAndMenuFromTheme()
 
     const QList<QAction*> actions = menu->actions();
     const QRect label = menu->actionGeometry(actions.at(0));
-    const QColor labelColor = themeColor(ThemeFileKey::DropDownGroupLabel);
+    const QColor labelColor = Probe::ThemeColor(ThemeFileKey::DropDownGroupLabel);
     QVERIFY(labelColor.isValid());
-    QCOMPARE(pixelAt(image, QPoint(label.right() - 3, label.center().y())).rgb(), labelColor.rgb());
+    QCOMPARE(Probe::PixelAt(image, QPoint(label.right() - 3, label.center().y())).rgb(), labelColor.rgb());
     const QRect item = menu->actionGeometry(actions.at(2));
-    const QColor background = themeColor(ThemeFileKey::DropDownMenuBackground);
+    const QColor background = Probe::ThemeColor(ThemeFileKey::DropDownMenuBackground);
     QVERIFY(background.isValid());
-    QCOMPARE(pixelAt(image, QPoint(item.right() - 3, item.center().y())).rgb(), background.rgb());
+    QCOMPARE(Probe::PixelAt(image, QPoint(item.right() - 3, item.center().y())).rgb(), background.rgb());
     const QRect separator = menu->actionGeometry(actions.at(4));
     QVERIFY(actions.at(4)->isSeparator());
-    const QColor separatorColor = themeColor(ThemeFileKey::DropDownMenuSeparator);
+    const QColor separatorColor = Probe::ThemeColor(ThemeFileKey::DropDownMenuSeparator);
     QVERIFY(separatorColor.isValid());
     // The line is one device pixel thick: look for it among the separator's device rows.
     bool lineFound = false;

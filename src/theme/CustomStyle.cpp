@@ -816,12 +816,7 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
         ++columns;
     }
 
-    QFont font = item->font;
-    if (themes->Exists(QStringLiteral("FontPixelSizeVal"))) {
-        const int pixelSize = themes->GetInt(QStringLiteral("FontPixelSizeVal"));
-        if (pixelSize > 0)
-            font.setPixelSize(pixelSize);
-    }
+    QFont font = Internal::WithThemePixelSize(item->font);
     if (groupLabel && themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0)
         font.setBold(true);
     painter->setFont(font);

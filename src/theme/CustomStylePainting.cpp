@@ -2,7 +2,11 @@
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/theme/CustomStylePainting_p.h>
 
+#include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+
+#include <QAbstractButton>
+#include <QFont>
 
 #include <QIcon>
 #include <QPaintDevice>
@@ -172,6 +176,30 @@ QIcon IconFromTheme(const QString& key, const QSize& size)
         return QIcon(QPixmap::fromImage(image));
     const QString path = themes->GetString(key);
     return path.isEmpty() ? QIcon() : QIcon(path);
+}
+
+QFont WithThemePixelSize(QFont font)
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    if (themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
+        const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
+        if (pixelSize > 0)
+            font.setPixelSize(pixelSize);
+    }
+    return font;
+}
+
+void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey)
+{
+    const QColor color = ThemeManager::GetInstance()->GetColor(textKey);
+    if (color.isValid())
+        SetTextColor(button, color);
+    if (!iconKey.isEmpty()) {
+        const QIcon icon = IconFromTheme(iconKey, button->iconSize());
+        if (!icon.isNull())
+            button->setIcon(icon);
+    }
+    button->update();
 }
 
 } // namespace Kavrel::UICore::Internal

@@ -55,6 +55,8 @@ KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
 } // namespace Kavrel::UICore::Internal
 
 class QIcon;
+class QAbstractButton;
+class QFont;
 namespace Kavrel::UICore::Internal {
 
 // Schedules the repaint a theme switch needs. The container is marked dirty
@@ -66,5 +68,12 @@ KVUICORE_EXPORT void RepaintAfterThemeChange(QWidget* widget);
 // The icon behind a theme key: an "Icon" entry's image of that size, or the
 // file a "String" entry names. A null icon when the key holds neither.
 KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);
+
+// The font at the theme's pixel size, when the theme sets one.
+KVUICORE_EXPORT QFont WithThemePixelSize(QFont font);
+
+// Colours a button-like control's text with the theme colour of textKey and
+// gives it the icon of iconKey (when there is one at its icon size).
+KVUICORE_EXPORT void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey);
 
 } // namespace Kavrel::UICore::Internal
