@@ -1,5 +1,5 @@
 // test-options: SCALES 1.25 1.5 2
-#include "tst_customstyle_probe.h"
+#include "../PaintProbe.h"
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>

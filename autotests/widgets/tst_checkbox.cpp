@@ -1,4 +1,4 @@
-#include "../theme/tst_customstyle_probe.h"
+#include "../PaintProbe.h"
 
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>

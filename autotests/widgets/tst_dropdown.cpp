@@ -1,3 +1,5 @@
+// test-options: SCALES 1.25 1.5 2
+#include "../PaintProbe.h"
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -14,23 +16,13 @@
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include <functional>
 
 using namespace Kavrel::UICore;
 
 namespace {
-
-QColor themeColor(const QString& key)
-{
-    return ThemeManager::GetInstance()->GetColor(key);
-}
-
-QColor pixelAt(const QImage& image, QPoint logical)
-{
-    const qreal ratio = image.devicePixelRatio();
-    return image.pixelColor(qRound(logical.x() * ratio), qRound(logical.y() * ratio));
-}
 
 QIcon solidIcon(const QColor& color)
 {
@@ -103,7 +95,8 @@ DropDown* tst_DropDown::shownDropDown()
     auto* dropDown = new DropDown(window);
     layout->addWidget(dropDown);
     layout->addStretch();
-    window->setGeometry(200, 200, 220, 120);
+    // Room for the menus on either side, also on the small screen of a scaled run.
+    window->setGeometry(150, 20, 220, 120);
     window->show();
     window->activateWindow();
     if (!QTest::qWaitForWindowActive(window))
@@ -485,7 +478,7 @@ void tst_DropDown::menuOpensAlignedToTheButton()
     DropDown* dropDown = shownDropDown();
     QVERIFY(dropDown);
     dropDown->setFixedWidth(90);
-    dropDown->AddItem(QStringLiteral("A much longer item than the button is wide"));
+    dropDown->AddItem(QStringLiteral("Longer than the button"));
     dropDown->AddItem(QStringLiteral("B"));
     dropDown->SetAlignment(alignment);
     QCOMPARE(dropDown->property("alignment").value<DropDown::AlignmentMode>(), alignment);
@@ -583,14 +576,14 @@ void tst_DropDown::paintsButtonAndMenuFromTheme()
     dropDown->AddItem(1, QStringLiteral("Second"));
     dropDown->AddItem(2, QStringLiteral("Third"));
 
-    const QColor border = themeColor(ThemeFileKey::DropDownButtonNormalBorderColor);
-    const QColor triangle = themeColor(ThemeFileKey::DropDownTriangle);
+    const QColor border = Probe::ThemeColor(ThemeFileKey::DropDownButtonNormalBorderColor);
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::DropDownTriangle);
     QVERIFY(border.isValid() && triangle.isValid());
     const QImage button = dropDown->grab().toImage();
-    QCOMPARE(pixelAt(button, QPoint(dropDown->width() / 2, 1)).rgb(), border.rgb());
+    QCOMPARE(Probe::PixelAt(button, QPoint(dropDown->width() / 2, 1)).rgb(), border.rgb());
     // Inside the arrow, in the 16-pixel column at the right.
     const QPoint arrow(dropDown->width() - 16 + 6, dropDown->height() / 2 - 1);
-    QCOMPARE(pixelAt(button, arrow).rgb(), triangle.rgb());
+    QCOMPARE(Probe::PixelAt(button, arrow).rgb(), triangle.rgb());
 
     DropDownMenu* menu = dropDown->GetDropDownMenu();
     menu->popup(dropDown->mapToGlobal(QPoint(0, dropDown->height())));
@@ -601,19 +594,24 @@ void tst_DropDown::paintsButtonAndMenuFromTheme()
 
     const QList<QAction*> actions = menu->actions();
     const QRect label = menu->actionGeometry(actions.at(0));
-    const QColor labelColor = themeColor(ThemeFileKey::DropDownGroupLabel);
+    const QColor labelColor = Probe::ThemeColor(ThemeFileKey::DropDownGroupLabel);
     QVERIFY(labelColor.isValid());
-    QCOMPARE(pixelAt(image, QPoint(label.right() - 3, label.center().y())).rgb(), labelColor.rgb());
+    QCOMPARE(Probe::PixelAt(image, QPoint(label.right() - 3, label.center().y())).rgb(), labelColor.rgb());
     const QRect item = menu->actionGeometry(actions.at(2));
-    const QColor background = themeColor(ThemeFileKey::DropDownMenuBackground);
+    const QColor background = Probe::ThemeColor(ThemeFileKey::DropDownMenuBackground);
     QVERIFY(background.isValid());
-    QCOMPARE(pixelAt(image, QPoint(item.right() - 3, item.center().y())).rgb(), background.rgb());
+    QCOMPARE(Probe::PixelAt(image, QPoint(item.right() - 3, item.center().y())).rgb(), background.rgb());
     const QRect separator = menu->actionGeometry(actions.at(4));
     QVERIFY(actions.at(4)->isSeparator());
-    const QColor separatorColor = themeColor(ThemeFileKey::DropDownMenuSeparator);
+    const QColor separatorColor = Probe::ThemeColor(ThemeFileKey::DropDownMenuSeparator);
     QVERIFY(separatorColor.isValid());
-    QCOMPARE(pixelAt(image, QPoint(separator.center().x(), separator.top() + separator.height() / 2)).rgb(),
-             separatorColor.rgb());
+    // The line is one device pixel thick: look for it among the separator's device rows.
+    bool lineFound = false;
+    const qreal ratio = image.devicePixelRatio();
+    for (int y = qFloor(separator.top() * ratio); y < qCeil((separator.bottom() + 1) * ratio); ++y)
+        lineFound =
+            lineFound || image.pixelColor(qRound(separator.center().x() * ratio), y).rgb() == separatorColor.rgb();
+    QVERIFY(lineFound);
 
     QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
 }

@@ -1,4 +1,4 @@
-#include "../theme/tst_customstyle_probe.h"
+#include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -52,6 +52,8 @@ private Q_SLOTS:
     void geometryAndShowSignals();
     void autoFixedWidthFollowsText();
     void cutTextIsPaintedInThemeColour();
+    void alignmentPlacesText_data();
+    void alignmentPlacesText();
 };
 
 void tst_Label::initTestCase()
@@ -249,6 +251,42 @@ void tst_Label::cutTextIsPaintedInThemeColour()
             exact += Probe::Near(Probe::Pixel(image, x, y), text, 8) ? 1 : 0;
     }
     QVERIFY(exact > 20);
+}
+
+void tst_Label::alignmentPlacesText_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<double>("low");
+    QTest::addColumn<double>("high");
+    // The horizontal middle of the painted text, as a fraction of the width.
+    QTest::newRow("left") << int(Qt::AlignLeft | Qt::AlignVCenter) << 0.0 << 0.3;
+    QTest::newRow("centre") << int(Qt::AlignCenter) << 0.4 << 0.6;
+    QTest::newRow("right") << int(Qt::AlignRight | Qt::AlignVCenter) << 0.7 << 1.0;
+}
+
+void tst_Label::alignmentPlacesText()
+{
+    QFETCH(int, alignment);
+    QFETCH(double, low);
+    QFETCH(double, high);
+    Label label(QStringLiteral("Text"));
+    label.setAlignment(Qt::Alignment(alignment));
+    label.resize(300, 24);
+    const QImage image = Probe::Grab(&label);
+    const QRgb background = image.pixel(0, 0);
+    int first = image.width();
+    int last = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != background) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+        }
+    }
+    QVERIFY(last >= first);
+    const double middle = (first + last) / 2.0 / image.width();
+    QVERIFY2(middle >= low && middle <= high, qPrintable(QString::number(middle)));
 }
 
 QTEST_MAIN(tst_Label)

@@ -1,5 +1,5 @@
 // test-options: SCALES 1.5
-#include "../theme/tst_customstyle_probe.h"
+#include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>

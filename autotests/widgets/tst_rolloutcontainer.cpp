@@ -1,3 +1,5 @@
+// test-options: SCALES 1.25 1.5 2
+#include "../PaintProbe.h"
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -17,11 +19,6 @@
 using namespace Kavrel::UICore;
 
 namespace {
-
-QColor themeColor(const QString& key)
-{
-    return ThemeManager::GetInstance()->GetColor(key);
-}
 
 QAbstractButton* checkBoxOf(RolloutContainer* container)
 {
@@ -124,7 +121,7 @@ void tst_RolloutContainer::nestedContainersIndentOneStepPerLevel()
     QCOMPARE(later->IndentLevel(), 1);
 
     // Same title, same width: the disclosure triangle starts 32 pixels further right.
-    const QColor triangle = themeColor(ThemeFileKey::Triangle);
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
     QVERIFY(triangle.isValid());
     // A standalone container to compare with: a parent's grab would show its children on top.
     RolloutContainer alone;
@@ -246,7 +243,7 @@ void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
     QCOMPARE(collapsed.count(), 1);
 
     // No triangle is painted.
-    const QColor triangle = themeColor(ThemeFileKey::Triangle);
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
     QVERIFY(triangle.isValid());
     QCOMPARE(firstColumnWithColor(container->grab().toImage(), container->TitleHeight() / 2, triangle), -1);
 }

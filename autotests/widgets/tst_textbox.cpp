@@ -1,3 +1,5 @@
+// test-options: SCALES 1.25 1.5 2
+#include "../PaintProbe.h"
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -20,17 +22,6 @@ namespace {
 
 const QString kTooLong = QStringLiteral("The name is too long.");
 const QString kForbidden = QStringLiteral("The name holds a character that is not allowed.");
-
-QColor themeColor(const QString& key)
-{
-    return ThemeManager::GetInstance()->GetColor(key);
-}
-
-QColor pixelAt(const QImage& image, QPoint logical)
-{
-    const qreal ratio = image.devicePixelRatio();
-    return image.pixelColor(qRound(logical.x() * ratio), qRound(logical.y() * ratio));
-}
 
 QIcon solidIcon(const QColor& color)
 {
@@ -471,8 +462,8 @@ void tst_TextBox::paintsPanelAndBorderFromTheme()
 
     TextBox* box = shownBox();
     QVERIFY(box);
-    const QColor background = themeColor(ThemeFileKey::WidgetContainer9);
-    const QColor border = themeColor(ThemeFileKey::WidgetOutline3);
+    const QColor background = Probe::ThemeColor(ThemeFileKey::WidgetContainer9);
+    const QColor border = Probe::ThemeColor(ThemeFileKey::WidgetOutline3);
     QVERIFY(background.isValid());
     QVERIFY(border.isValid());
     // Right of the (empty) text, inside the panel; and the middle of the top edge.
@@ -480,38 +471,38 @@ void tst_TextBox::paintsPanelAndBorderFromTheme()
     const QPoint topEdge(box->width() / 2, 1);
 
     QImage image = box->grab().toImage();
-    QCOMPARE(pixelAt(image, interior).rgb(), background.rgb());
-    QCOMPARE(pixelAt(image, topEdge).rgb(), border.rgb());
+    QCOMPARE(Probe::PixelAt(image, interior).rgb(), background.rgb());
+    QCOMPARE(Probe::PixelAt(image, topEdge).rgb(), border.rgb());
 
     // Under the mouse.
     box->setAttribute(Qt::WA_UnderMouse, true);
     image = box->grab().toImage();
-    const QColor hoverBackground = themeColor(ThemeFileKey::WidgetContainer12);
-    const QColor hoverBorder = themeColor(ThemeFileKey::HoverOutline4);
+    const QColor hoverBackground = Probe::ThemeColor(ThemeFileKey::WidgetContainer12);
+    const QColor hoverBorder = Probe::ThemeColor(ThemeFileKey::HoverOutline4);
     QVERIFY(hoverBackground.isValid() && hoverBorder.isValid());
-    QCOMPARE(pixelAt(image, interior).rgb(), hoverBackground.rgb());
-    QCOMPARE(pixelAt(image, topEdge).rgb(), hoverBorder.rgb());
+    QCOMPARE(Probe::PixelAt(image, interior).rgb(), hoverBackground.rgb());
+    QCOMPARE(Probe::PixelAt(image, topEdge).rgb(), hoverBorder.rgb());
     box->setAttribute(Qt::WA_UnderMouse, false);
 
     box->setFocus(Qt::TabFocusReason);
     QTRY_VERIFY(box->hasFocus());
     image = box->grab().toImage();
-    const QColor focusBackground = themeColor(ThemeFileKey::WidgetContainer12);
-    const QColor halo = themeColor(ThemeFileKey::FocusOutline2);
-    const QColor focus = themeColor(ThemeFileKey::WidgetOutline6);
+    const QColor focusBackground = Probe::ThemeColor(ThemeFileKey::WidgetContainer12);
+    const QColor halo = Probe::ThemeColor(ThemeFileKey::FocusOutline2);
+    const QColor focus = Probe::ThemeColor(ThemeFileKey::WidgetOutline6);
     QVERIFY(focusBackground.isValid() && halo.isValid() && focus.isValid());
-    QCOMPARE(pixelAt(image, interior).rgb(), focusBackground.rgb());
-    QCOMPARE(pixelAt(image, topEdge).rgb(), halo.rgb());
-    QCOMPARE(pixelAt(image, QPoint(box->width() / 2, 0)).rgb(), focus.rgb());
+    QCOMPARE(Probe::PixelAt(image, interior).rgb(), focusBackground.rgb());
+    QCOMPARE(Probe::PixelAt(image, topEdge).rgb(), halo.rgb());
+    QCOMPARE(Probe::PixelAt(image, QPoint(box->width() / 2, 0)).rgb(), focus.rgb());
 
     box->window()->findChildren<QLineEdit*>().last()->setFocus(Qt::TabFocusReason);
     box->setEnabled(false);
     image = box->grab().toImage();
-    const QColor disabledBackground = themeColor(ThemeFileKey::WidgetContainerDisable);
-    const QColor disabledBorder = themeColor(ThemeFileKey::WidgetOutlineDisable);
+    const QColor disabledBackground = Probe::ThemeColor(ThemeFileKey::WidgetContainerDisable);
+    const QColor disabledBorder = Probe::ThemeColor(ThemeFileKey::WidgetOutlineDisable);
     QVERIFY(disabledBackground.isValid() && disabledBorder.isValid());
-    QCOMPARE(pixelAt(image, interior).rgb(), disabledBackground.rgb());
-    QCOMPARE(pixelAt(image, topEdge).rgb(), disabledBorder.rgb());
+    QCOMPARE(Probe::PixelAt(image, interior).rgb(), disabledBackground.rgb());
+    QCOMPARE(Probe::PixelAt(image, topEdge).rgb(), disabledBorder.rgb());
     // The editor's text is dimmed to 40 %.
     QCOMPARE(box->GetLineEdit()->GetTextColor().alpha(), 102);
 
@@ -525,15 +516,15 @@ void tst_TextBox::outerIconStaysOutsideTheFrame()
     box->SetIcon(solidIcon(Qt::transparent));
     box->SetIconPosition(TextBox::OuterLeft);
     box->layout()->activate();
-    const QColor background = themeColor(ThemeFileKey::WidgetContainer9);
+    const QColor background = Probe::ThemeColor(ThemeFileKey::WidgetContainer9);
     QVERIFY(background.isValid());
     const QImage image = box->grab().toImage();
     const QRect editor = box->GetLineEdit()->geometry();
     // The frame starts 4 pixels left of the editor; the icon column left of it is not painted.
     const QPoint frameLeft(editor.left() - 4, box->height() / 2);
-    QCOMPARE(pixelAt(image, frameLeft + QPoint(3, 0)).rgb(), background.rgb());
-    QVERIFY(pixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb() ||
-            pixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
+    QCOMPARE(Probe::PixelAt(image, frameLeft + QPoint(3, 0)).rgb(), background.rgb());
+    QVERIFY(Probe::PixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb() ||
+            Probe::PixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
 }
 
 void tst_TextBox::sharedFrameAndPanelPainters()

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QHash>
 #include <QIcon>
@@ -69,10 +70,13 @@ QBrush Brush(const QString& key, const QRectF& rect)
 }
 
 // Icons named by path in the theme, built once: a QIcon keeps its rendered
-// pixmaps, so painting again neither reads nor parses the file.
+// pixmaps, so painting again neither reads nor parses the file. Emptied when
+// the application goes, before pixmaps can no longer be released.
 const QIcon& IconForPath(const QString& path)
 {
     static QHash<QString, QIcon> icons;
+    if (icons.isEmpty())
+        qAddPostRoutine([] { icons.clear(); });
     auto it = icons.find(path);
     if (it == icons.end())
         it = icons.insert(path, QIcon(path));
@@ -380,7 +384,9 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
     const auto* libraryCheckBox = qobject_cast<const CheckBox*>(widget);
     const bool keepToolTip = libraryCheckBox && libraryCheckBox->IsAlwaysShowTooltip();
     if (!keepToolTip) {
-        const QString elided = widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
+        const QString elided = libraryCheckBox
+                                   ? libraryCheckBox->ElidedText(text, button->rect.width())
+                                   : widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
         const QString tip = elided == text ? QString() : text;
         // The label explains itself on hover when it is cut.
         if (widget->toolTip() != tip)
@@ -630,24 +636,27 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
     }
 
     if (slider->subControls & SC_SliderHandle) {
-        painter->setRenderHint(QPainter::Antialiasing, true);
-        painter->translate(handle.topLeft());
+        // Both markers in one path: one fill instead of two.
         const qreal half = kSliderTriangleBase / 2.0;
+        QPainterPath markers;
         if (horizontal) {
             const qreal cx = 0.5;
             const qreal bottom = handle.height();
-            FillTriangle(painter, QPointF(cx - half, 0), QPointF(cx + half, 0), QPointF(cx, kSliderTriangleHeight),
-                         marker);
-            FillTriangle(painter, QPointF(cx - half, bottom), QPointF(cx + half, bottom),
-                         QPointF(cx, bottom - kSliderTriangleHeight), marker);
+            markers.addPolygon(
+                QPolygonF({QPointF(cx - half, 0), QPointF(cx + half, 0), QPointF(cx, kSliderTriangleHeight)}));
+            markers.addPolygon(QPolygonF(
+                {QPointF(cx - half, bottom), QPointF(cx + half, bottom), QPointF(cx, bottom - kSliderTriangleHeight)}));
         } else {
             const qreal cy = 0.5;
             const qreal right = handle.width();
-            FillTriangle(painter, QPointF(0, cy - half), QPointF(0, cy + half), QPointF(kSliderTriangleHeight, cy),
-                         marker);
-            FillTriangle(painter, QPointF(right, cy - half), QPointF(right, cy + half),
-                         QPointF(right - kSliderTriangleHeight, cy), marker);
+            markers.addPolygon(
+                QPolygonF({QPointF(0, cy - half), QPointF(0, cy + half), QPointF(kSliderTriangleHeight, cy)}));
+            markers.addPolygon(QPolygonF(
+                {QPointF(right, cy - half), QPointF(right, cy + half), QPointF(right - kSliderTriangleHeight, cy)}));
         }
+        painter->setRenderHint(QPainter::Antialiasing, true);
+        painter->translate(handle.topLeft());
+        painter->fillPath(markers, marker);
     }
     painter->restore();
 }
@@ -807,12 +816,7 @@ void CustomStyle::DrawMenuItem(const QStyleOption* option, QPainter* painter, co
         ++columns;
     }
 
-    QFont font = item->font;
-    if (themes->Exists(QStringLiteral("FontPixelSizeVal"))) {
-        const int pixelSize = themes->GetInt(QStringLiteral("FontPixelSizeVal"));
-        if (pixelSize > 0)
-            font.setPixelSize(pixelSize);
-    }
+    QFont font = Internal::WithThemePixelSize(item->font);
     if (groupLabel && themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0)
         font.setBold(true);
     painter->setFont(font);

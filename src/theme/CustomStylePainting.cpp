@@ -2,7 +2,11 @@
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/theme/CustomStylePainting_p.h>
 
+#include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+
+#include <QAbstractButton>
+#include <QFont>
 
 #include <QIcon>
 #include <QPaintDevice>
@@ -28,13 +32,13 @@ bool IsPlainScale(const QTransform& transform)
 
 StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter)
 {
+    // While painting, the device carries the widget's ratio and is cheaper to
+    // ask than the widget, which looks up its screen.
+    const QPaintDevice* device = painter ? painter->device() : nullptr;
+    const qreal ratio = device ? device->devicePixelRatioF() : (widget ? widget->devicePixelRatioF() : 1.0);
+    const int percent = int(std::trunc((ratio * 100.0 + 2.5) / 5.0)) * 5;
     StrokeGrid grid;
-    if (widget) {
-        grid.factor = DeviceScaleFactor(widget);
-    } else if (painter && painter->device()) {
-        const qreal ratio = painter->device()->devicePixelRatioF();
-        grid.factor = ratio < 1.0 ? 1.0f : float(std::min(3.5, std::trunc((ratio * 100.0 + 2.5) / 5.0) * 0.05));
-    }
+    grid.factor = percent < 100 ? 1.0f : float(std::min(percent, 350)) * 0.01f;
     grid.bucket = ResolutionBucket(grid.factor);
     grid.unit = StrokeUnit(grid.factor);
     return grid;
@@ -172,6 +176,30 @@ QIcon IconFromTheme(const QString& key, const QSize& size)
         return QIcon(QPixmap::fromImage(image));
     const QString path = themes->GetString(key);
     return path.isEmpty() ? QIcon() : QIcon(path);
+}
+
+QFont WithThemePixelSize(QFont font)
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    if (themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
+        const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
+        if (pixelSize > 0)
+            font.setPixelSize(pixelSize);
+    }
+    return font;
+}
+
+void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey)
+{
+    const QColor color = ThemeManager::GetInstance()->GetColor(textKey);
+    if (color.isValid())
+        SetTextColor(button, color);
+    if (!iconKey.isEmpty()) {
+        const QIcon icon = IconFromTheme(iconKey, button->iconSize());
+        if (!icon.isNull())
+            button->setIcon(icon);
+    }
+    button->update();
 }
 
 } // namespace Kavrel::UICore::Internal

@@ -22,6 +22,8 @@ struct StrokeGrid
     float unit = 1.0f;
 };
 
+// The grid of the device being painted (the widget's device scale factor,
+// rounded to 5 % steps as for the widget); the widget's own ratio without a painter.
 KVUICORE_EXPORT StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter);
 
 // The cosmetic pen of the grid's width: square caps and mitre joins.
@@ -53,6 +55,8 @@ KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
 } // namespace Kavrel::UICore::Internal
 
 class QIcon;
+class QAbstractButton;
+class QFont;
 namespace Kavrel::UICore::Internal {
 
 // Schedules the repaint a theme switch needs. The container is marked dirty
@@ -64,5 +68,12 @@ KVUICORE_EXPORT void RepaintAfterThemeChange(QWidget* widget);
 // The icon behind a theme key: an "Icon" entry's image of that size, or the
 // file a "String" entry names. A null icon when the key holds neither.
 KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);
+
+// The font at the theme's pixel size, when the theme sets one.
+KVUICORE_EXPORT QFont WithThemePixelSize(QFont font);
+
+// Colours a button-like control's text with the theme colour of textKey and
+// gives it the icon of iconKey (when there is one at its icon size).
+KVUICORE_EXPORT void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey);
 
 } // namespace Kavrel::UICore::Internal

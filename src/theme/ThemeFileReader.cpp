@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QColor>
 #include <QImage>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QLinearGradient>
 #include <QList>
@@ -138,9 +140,25 @@ QColor ThemeFileReader::ReadHexColor()
     return QColor(r, g, b, a);
 }
 
-void ThemeFileReader::ReadIcon(const QString& name)
+namespace {
+
+// Decoded icon files by path. Switching back and forth between themes reads the
+// same files again and again; decoding their images is most of a theme load.
+struct CachedIcon
 {
-    const QString file = mReader.attributes().value(QLatin1String("file")).toString();
+    QDateTime modified;
+    qint64 size = -1;
+    QList<QImage> images;
+};
+
+QHash<QString, CachedIcon>& iconCache()
+{
+    static QHash<QString, CachedIcon> cache;
+    return cache;
+}
+
+QList<QImage> readImages(const QString& file)
+{
     QList<QImage> images;
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
@@ -153,7 +171,31 @@ void ThemeFileReader::ReadIcon(const QString& name)
             break;
         images.append(image);
     }
-    Store(name, QVariant::fromValue(images));
+    return images;
+}
+
+} // namespace
+
+void ClearIconCache()
+{
+    iconCache().clear();
+}
+
+void ThemeFileReader::ReadIcon(const QString& name)
+{
+    const QString file = mReader.attributes().value(QLatin1String("file")).toString();
+    const QFileInfo info(file);
+    const QDateTime modified = info.lastModified();
+    const qint64 size = info.size();
+    auto cached = iconCache().find(file);
+    if (cached == iconCache().end() || cached->modified != modified || cached->size != size) {
+        QList<QImage> images = readImages(file);
+        if (info.exists())
+            cached = iconCache().insert(file, CachedIcon{modified, size, images});
+        Store(name, QVariant::fromValue(images));
+    } else {
+        Store(name, QVariant::fromValue(cached->images));
+    }
     mReader.skipCurrentElement();
 }
 

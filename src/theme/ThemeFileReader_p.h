@@ -53,6 +53,9 @@ private:
     Substitute mSubstitute;
 };
 
+// Forgets the decoded icon files that theme loads share.
+KVUICORE_EXPORT void ClearIconCache();
+
 // The text that a reference $(Name) to a stored value expands to.
 KVUICORE_EXPORT QString ThemeValueText(const QVariant* value);
 

@@ -75,10 +75,12 @@ ThemeManagerImp::ThemeManagerImp(ThemeManager* owner)
 ThemeManagerImp::~ThemeManagerImp()
 {
     ClearTables();
+    Internal::ClearIconCache();
 }
 
 void ThemeManagerImp::ClearTables()
 {
+    mSolidBrushes.clear();
     qDeleteAll(mThemeValues);
     mThemeValues.clear();
     qDeleteAll(mBaseValues);
@@ -87,7 +89,8 @@ void ThemeManagerImp::ClearTables()
 
 const QVariant* ThemeManagerImp::Find(const QString& key)
 {
-    EnsureTheme();
+    if (msCurrentTheme.isEmpty())
+        EnsureTheme();
     // A theme entry hides a base entry of the same name.
     if (const QVariant* value = mThemeValues.value(key, nullptr))
         return value;
@@ -153,6 +156,8 @@ bool ThemeManagerImp::SetCurrentTheme(const QString& name)
 
 bool ThemeManagerImp::LoadThemeFile(QFile& file, bool asTheme)
 {
+    // Entries may be replaced, and a new value may reuse an old one's address.
+    mSolidBrushes.clear();
     Internal::ThemeFileReader reader(asTheme ? mThemeValues : mBaseValues,
                                      [this](const QString& text) { return Substitute(text); });
     if (reader.Read(&file))
@@ -209,7 +214,7 @@ QColor ThemeManager::GetColor(const QString& key)
     const QVariant* value = mpImp->Find(key);
     if (!value || value->metaType() != QMetaType::fromType<QColor>())
         return QColor();
-    return value->value<QColor>();
+    return *static_cast<const QColor*>(value->constData());
 }
 
 QBrush ThemeManager::GetBrush(const QString& key, const QRect& rect)
@@ -217,8 +222,14 @@ QBrush ThemeManager::GetBrush(const QString& key, const QRect& rect)
     const QVariant* value = mpImp->Find(key);
     if (!value)
         return QBrush();
-    if (value->metaType() == QMetaType::fromType<QColor>())
-        return QBrush(value->value<QColor>(), Qt::SolidPattern);
+    if (value->metaType() == QMetaType::fromType<QColor>()) {
+        // A solid brush allocates; controls ask for the same ones on every paint.
+        auto brush = mpImp->mSolidBrushes.constFind(value);
+        if (brush == mpImp->mSolidBrushes.constEnd())
+            brush = mpImp->mSolidBrushes.insert(
+                value, QBrush(*static_cast<const QColor*>(value->constData()), Qt::SolidPattern));
+        return *brush;
+    }
     if (value->metaType() == QMetaType::fromType<QLinearGradient>()) {
         QLinearGradient gradient = value->value<QLinearGradient>();
         gradient.setStart(rect.left(), rect.top() + 1);

@@ -3,6 +3,8 @@
 #include <KvUICore/KvUICoreExport.h>
 #include <KvUICore/theme/ThemeFileReader_p.h>
 
+#include <QBrush>
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 
@@ -43,6 +45,8 @@ public:
     Internal::ThemeValueTable mBaseValues;
     // Guards against a theme file that refers to values while it is loaded.
     bool mbSwitching = false;
+    // Solid brushes of colour entries, by entry; emptied whenever entries change.
+    QHash<const QVariant*, QBrush> mSolidBrushes;
     // Set when the theme chosen on first use failed to load.
     bool mbAutomaticLoadFailed = false;
 

@@ -15,6 +15,10 @@ class CheckBoxImp
 public:
     QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
     bool mbAlwaysShowTooltip = false;
+    QString msElidedSource;
+    QString msElided;
+    QFont mElidedFont;
+    int miElidedWidth = -1;
 };
 
 CheckBox::CheckBox(QWidget* parent)
@@ -68,6 +72,18 @@ void CheckBox::SetAlwaysShowTooltip(bool alwaysShow)
         return;
     mpImp->mbAlwaysShowTooltip = alwaysShow;
     update();
+}
+
+const QString& CheckBox::ElidedText(const QString& text, int width) const
+{
+    CheckBoxImp& d = *mpImp;
+    if (width != d.miElidedWidth || text != d.msElidedSource || font() != d.mElidedFont) {
+        d.msElidedSource = text;
+        d.miElidedWidth = width;
+        d.mElidedFont = font();
+        d.msElided = fontMetrics().elidedText(text, Qt::ElideRight, width);
+    }
+    return d.msElided;
 }
 
 void CheckBox::OnThemeChanged()

@@ -47,6 +47,11 @@ private:
     void Initialize();
     void ApplyTextColor();
 
+    // The label cut to width, kept between paints: the style asks for it on
+    // every paint, and cutting means laying the text out.
+    friend class CustomStyle;
+    const QString& ElidedText(const QString& text, int width) const;
+
     std::unique_ptr<CheckBoxImp> const mpImp;
 };
 

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStaticText>
 
 namespace Kavrel::UICore {
 
@@ -59,6 +60,33 @@ public:
     QString msLaidOutText;
     QSize mLaidOutSize;
     qint64 miLaidOutIcon = 0;
+
+    // The text cut to the text rectangle and laid out once.
+    const QStaticText& ShownText()
+    {
+        const QString text = mpOwner->text();
+        const QFont font = mpOwner->font();
+        const int width = mTextRect.width();
+        if (width != miShownWidth || text != msShownSource || font != mShownFont) {
+            msShownSource = text;
+            miShownWidth = width;
+            mShownFont = font;
+            QString shown = QFontMetrics(font).elidedText(text, Qt::ElideMiddle, width, Qt::TextShowMnemonic);
+            // Mnemonic markers are not drawn; a doubled one stands for itself.
+            shown.replace(QStringLiteral("&&"), QStringLiteral("\x01"));
+            shown.remove(QLatin1Char('&'));
+            shown.replace(QStringLiteral("\x01"), QStringLiteral("&"));
+            mShownText.setTextFormat(Qt::PlainText);
+            mShownText.setText(shown);
+            mShownText.prepare(QTransform(), font);
+        }
+        return mShownText;
+    }
+
+    QStaticText mShownText;
+    QString msShownSource;
+    QFont mShownFont;
+    int miShownWidth = -1;
 };
 
 PushButton::PushButton(QWidget* parent)
@@ -338,9 +366,11 @@ void PushButton::paintEvent(QPaintEvent*)
         else if (isChecked() && !d.mbIsMiniIcon && themes->Exists(ThemeFileKey::FontActive1))
             colorKey = ThemeFileKey::FontActive1;
         painter.setPen(themes->GetColor(colorKey));
-        const int alignment = d.miLayoutKind == kIconAndTextLayout ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, d.mTextRect.width());
-        painter.drawText(d.mTextRect, alignment | Qt::TextSingleLine | Qt::TextShowMnemonic, shown);
+        const QStaticText& shown = d.ShownText();
+        const QSizeF size = shown.size();
+        const QRect& r = d.mTextRect;
+        const qreal x = d.miLayoutKind == kIconAndTextLayout ? r.left() : r.left() + (r.width() - size.width()) / 2;
+        painter.drawStaticText(QPointF(x, r.top() + (r.height() - size.height()) / 2), shown);
     }
 }
 

@@ -103,15 +103,7 @@ void RadioButton::ApplyTheme()
         key = ThemeFileKey::FontColorDisabled;
     else if (isChecked() && themes->Exists(ThemeFileKey::FontActive1))
         key = ThemeFileKey::FontActive1;
-    const QColor color = themes->GetColor(key);
-    if (color.isValid())
-        Internal::SetTextColor(this, color);
-    if (!mpImp->msIconThemeKey.isEmpty()) {
-        const QIcon icon = Internal::IconFromTheme(mpImp->msIconThemeKey, iconSize());
-        if (!icon.isNull())
-            setIcon(icon);
-    }
-    update();
+    Internal::ApplyThemedTextAndIcon(this, key, mpImp->msIconThemeKey);
 }
 
 void RadioButton::changeEvent(QEvent* event)

@@ -1,5 +1,7 @@
 #include <KvUICore/widgets/RolloutContainer.h>
 
+#include <KvUICore/theme/CustomStylePainting_p.h>
+
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
@@ -26,20 +28,6 @@ constexpr int kIndicatorSize = 14;
 constexpr int kGap = 4;
 // Room kept beside an elided title for the triangle, the check box and padding.
 constexpr int kElideReserve = 62;
-
-// The theme's standard font: the application font at the theme's pixel size
-// when the theme sets one.
-QFont ThemeStandardFont()
-{
-    QFont font = QApplication::font();
-    ThemeManager* themes = ThemeManager::GetInstance();
-    if (themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
-        const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
-        if (pixelSize > 0)
-            font.setPixelSize(pixelSize);
-    }
-    return font;
-}
 
 } // namespace
 
@@ -162,7 +150,7 @@ RolloutContainer::RolloutContainer(QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<RolloutContainerImp>(this))
 {
-    setFont(ThemeStandardFont());
+    setFont(Internal::WithThemePixelSize(QApplication::font()));
     mpImp->miTitleHeight = mpImp->ComputeTitleHeight();
     QWidget::setContentsMargins(0, mpImp->miTitleHeight, 0, 0);
 

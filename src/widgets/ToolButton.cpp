@@ -52,16 +52,8 @@ void ToolButton::OnThemeChanged()
 
 void ToolButton::ApplyTheme()
 {
-    ThemeManager* themes = ThemeManager::GetInstance();
-    const QColor color = themes->GetColor(isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled);
-    if (color.isValid())
-        Internal::SetTextColor(this, color);
-    if (!mpImp->msIconThemeKey.isEmpty()) {
-        const QIcon icon = Internal::IconFromTheme(mpImp->msIconThemeKey, iconSize());
-        if (!icon.isNull())
-            setIcon(icon);
-    }
-    update();
+    Internal::ApplyThemedTextAndIcon(this, isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled,
+                                     mpImp->msIconThemeKey);
 }
 
 void ToolButton::changeEvent(QEvent* event)

@@ -36,10 +36,20 @@ inline QImage Grab(QWidget* widget)
 // The bucket: how many device pixels wide a one-line stroke is at this image's scale.
 inline int Bucket(const QImage& image)
 {
+    using namespace Kavrel::UICore::Internal;
+    return int(ResolutionBucket(DeviceScaleFactorForRatio(float(image.devicePixelRatio()))));
+}
+
+inline QColor ThemeColor(const QString& key)
+{
+    return Kavrel::UICore::ThemeManager::GetInstance()->GetColor(key);
+}
+
+// The colour at a logical point of a grabbed image, whatever its pixel ratio.
+inline QColor PixelAt(const QImage& image, QPoint logical)
+{
     const qreal ratio = image.devicePixelRatio();
-    const int percent = int(std::trunc((ratio * 100.0 + 2.5) / 5.0)) * 5;
-    const float factor = percent < 100 ? 1.0f : std::min(percent, 350) * 0.01f;
-    return int(Kavrel::UICore::Internal::ResolutionBucket(factor));
+    return image.pixelColor(qRound(logical.x() * ratio), qRound(logical.y() * ratio));
 }
 
 inline int DeviceFloor(const QImage& image, qreal logical)
