@@ -99,29 +99,31 @@ QByteArray DesignerForm(int elements)
         QString grid;
         for (int i = 0; i < kElementsPerGroup && made < elements; ++i, ++made) {
             const QString id = QStringLiteral("e%1").arg(made);
-            const QString label = Widget("QLabel", id + QStringLiteral("_label"),
-                                         Property("text", QStringLiteral("<string>Label %1</string>").arg(id)) +
-                                             Property("alignment", QStringLiteral("<set>Qt::AlignRight|Qt::AlignVCenter</set>")));
+            const QString label =
+                Widget("QLabel", id + QStringLiteral("_label"),
+                       Property("text", QStringLiteral("<string>Label %1</string>").arg(id)) +
+                           Property("alignment", QStringLiteral("<set>Qt::AlignRight|Qt::AlignVCenter</set>")));
             QString control;
             switch (KindOf(i)) {
             case 0:
-                control = Widget(
-                    "QWidget", id,
-                    QStringLiteral("<layout class=\"QHBoxLayout\" name=\"%1_layout\">"
-                                   "<property name=\"leftMargin\"><number>0</number></property>"
-                                   "<property name=\"rightMargin\"><number>0</number></property>"
-                                   "<item>%2</item><item>%3</item></layout>")
-                        .arg(id,
-                             Widget("QSlider", id + QStringLiteral("_slider"),
-                                    Property("orientation", QStringLiteral("<enum>Qt::Horizontal</enum>")) +
-                                        Property("maximum", QStringLiteral("<number>10000</number>")) +
-                                        Property("value", QStringLiteral("<number>2500</number>"))),
-                             Widget("QDoubleSpinBox", id + QStringLiteral("_field"),
-                                    Property("maximum", QStringLiteral("<double>100</double>")) +
-                                        Property("value", QStringLiteral("<double>25</double>")))));
+                control =
+                    Widget("QWidget", id,
+                           QStringLiteral("<layout class=\"QHBoxLayout\" name=\"%1_layout\">"
+                                          "<property name=\"leftMargin\"><number>0</number></property>"
+                                          "<property name=\"rightMargin\"><number>0</number></property>"
+                                          "<item>%2</item><item>%3</item></layout>")
+                               .arg(id,
+                                    Widget("QSlider", id + QStringLiteral("_slider"),
+                                           Property("orientation", QStringLiteral("<enum>Qt::Horizontal</enum>")) +
+                                               Property("maximum", QStringLiteral("<number>10000</number>")) +
+                                               Property("value", QStringLiteral("<number>2500</number>"))),
+                                    Widget("QDoubleSpinBox", id + QStringLiteral("_field"),
+                                           Property("maximum", QStringLiteral("<double>100</double>")) +
+                                               Property("value", QStringLiteral("<double>25</double>")))));
                 break;
             case 1:
-                control = Widget("QLineEdit", id, Property("text", QStringLiteral("<string>Value %1</string>").arg(id)));
+                control =
+                    Widget("QLineEdit", id, Property("text", QStringLiteral("<string>Value %1</string>").arg(id)));
                 break;
             case 2:
                 control = Widget("QCheckBox", id,
@@ -129,11 +131,12 @@ QByteArray DesignerForm(int elements)
                                      Property("checked", QStringLiteral("<bool>true</bool>")));
                 break;
             default:
-                control = Widget("QComboBox", id,
-                                 QStringLiteral("<item><property name=\"text\"><string>One</string></property></item>"
-                                                "<item><property name=\"text\"><string>Two</string></property></item>"
-                                                "<item><property name=\"text\"><string>Three</string></property></item>") +
-                                     Property("currentIndex", QStringLiteral("<number>1</number>")));
+                control =
+                    Widget("QComboBox", id,
+                           QStringLiteral("<item><property name=\"text\"><string>One</string></property></item>"
+                                          "<item><property name=\"text\"><string>Two</string></property></item>"
+                                          "<item><property name=\"text\"><string>Three</string></property></item>") +
+                               Property("currentIndex", QStringLiteral("<number>1</number>")));
                 break;
             }
             if (KindOf(i) == 2) {
@@ -151,13 +154,14 @@ QByteArray DesignerForm(int elements)
                                         .arg(g)
                                         .arg(grid)));
     }
-    const QString form = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ui version=\"4.0\"><class>Form</class>"
-                                        "<widget class=\"QWidget\" name=\"Form\">"
-                                        "<layout class=\"QVBoxLayout\" name=\"page\">%1"
-                                        "<item><spacer name=\"stretch\"><property name=\"orientation\">"
-                                        "<enum>Qt::Vertical</enum></property></spacer></item></layout></widget>"
-                                        "<resources/><connections/></ui>")
-                             .arg(body);
+    const QString form =
+        QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ui version=\"4.0\"><class>Form</class>"
+                       "<widget class=\"QWidget\" name=\"Form\">"
+                       "<layout class=\"QVBoxLayout\" name=\"page\">%1"
+                       "<item><spacer name=\"stretch\"><property name=\"orientation\">"
+                       "<enum>Qt::Vertical</enum></property></spacer></item></layout></widget>"
+                       "<resources/><connections/></ui>")
+            .arg(body);
     return form.toUtf8();
 }
 

@@ -76,8 +76,7 @@ Q_SIGNALS:
     void Changed();
 
 private:
-    template <typename T>
-    void Set(T& field, const T& value)
+    template <typename T> void Set(T& field, const T& value)
     {
         ++miWrites;
         if (field == value)
@@ -129,8 +128,7 @@ private Q_SLOTS:
 private:
     // Loads the elements into a group of a built editor bound to mpMaterial.
     void Load(const QString& elements);
-    template <typename T>
-    T* Find(const char* id) const
+    template <typename T> T* Find(const char* id) const
     {
         return qobject_cast<T*>(mpEditor->FindElement(QString::fromLatin1(id)));
     }
@@ -336,7 +334,8 @@ void tst_Elements::comboBoxItemsFromSourceList()
 
 void tst_Elements::radioButtonsBothWays()
 {
-    Load(QStringLiteral("<RadioButtonGroupElement Id=\"r\" Items=\"Binding(Choices)\" Current=\"Binding(ModeName)\"/>"));
+    Load(
+        QStringLiteral("<RadioButtonGroupElement Id=\"r\" Items=\"Binding(Choices)\" Current=\"Binding(ModeName)\"/>"));
     auto* element = Find<RadioButtonGroupElement>("r");
     QButtonGroup* group = element->GetButtonGroup();
     QVERIFY(group);
@@ -420,8 +419,9 @@ void tst_Elements::groupBothWays()
 
 void tst_Elements::commonAttributesFollowSource()
 {
-    Load(QStringLiteral("<TextBoxElement Id=\"t\" Label=\"Name\" LabelPlacement=\"Left\" IsEnabled=\"Binding(Enabled)\" "
-                        "IsVisible=\"Binding(Collapsed)\" Tooltip=\"Binding(Hint)\"/>"));
+    Load(
+        QStringLiteral("<TextBoxElement Id=\"t\" Label=\"Name\" LabelPlacement=\"Left\" IsEnabled=\"Binding(Enabled)\" "
+                       "IsVisible=\"Binding(Collapsed)\" Tooltip=\"Binding(Hint)\"/>"));
     mpEditor->show();
     auto* element = Find<TextBoxElement>("t");
     QWidget* widget = element->GetWidget();
@@ -453,7 +453,8 @@ void tst_Elements::elementsBindToOtherElements()
     QVERIFY(mpEditor->LoadUI(document));
     mpEditor->grab();
     auto* details = Find<GroupElement>("details");
-    QCOMPARE(details->GetBinding(QStringLiteral("IsEnabled"))->GetSource(), mpEditor->FindElement(QStringLiteral("USEDETAILS")));
+    QCOMPARE(details->GetBinding(QStringLiteral("IsEnabled"))->GetSource(),
+             mpEditor->FindElement(QStringLiteral("USEDETAILS")));
     QVERIFY(details->GetWidget()->isEnabled());
 
     // Through the check box from its source, and from a click.

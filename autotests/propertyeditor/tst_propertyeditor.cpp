@@ -69,8 +69,7 @@ class StrictElement : public PropertyEditorElement
 public:
     StrictElement()
         : PropertyEditorElement(Leaf)
-    {
-    }
+    {}
 
     QString msRequired;
 
@@ -157,19 +156,32 @@ void tst_PropertyEditor::registeredKinds_data()
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("className");
 
-    QTest::newRow("group") << "GroupElement" << "Kavrel::UICore::GroupElement";
-    QTest::newRow("check box") << "CheckBoxElement" << "Kavrel::UICore::CheckBoxElement";
-    QTest::newRow("combo box") << "ComboBoxElement" << "Kavrel::UICore::ComboBoxElement";
-    QTest::newRow("button") << "ButtonElement" << "Kavrel::UICore::ButtonElement";
-    QTest::newRow("label") << "LabelElement" << "Kavrel::UICore::LabelElement";
-    QTest::newRow("slider") << "SliderElement" << "Kavrel::UICore::SliderElement";
-    QTest::newRow("text box") << "TextBoxElement" << "Kavrel::UICore::TextBoxElement";
-    QTest::newRow("panel") << "PanelElement" << "Kavrel::UICore::PanelElement";
-    QTest::newRow("radio buttons") << "RadioButtonGroupElement" << "Kavrel::UICore::RadioButtonGroupElement";
-    QTest::newRow("list: deliberately not") << "ListElement" << "";
-    QTest::newRow("page: root only") << "PageElement" << "";
-    QTest::newRow("other meta type") << "QString" << "";
-    QTest::newRow("unknown") << "SpinnerElement" << "";
+    QTest::newRow("group") << "GroupElement"
+                           << "Kavrel::UICore::GroupElement";
+    QTest::newRow("check box") << "CheckBoxElement"
+                               << "Kavrel::UICore::CheckBoxElement";
+    QTest::newRow("combo box") << "ComboBoxElement"
+                               << "Kavrel::UICore::ComboBoxElement";
+    QTest::newRow("button") << "ButtonElement"
+                            << "Kavrel::UICore::ButtonElement";
+    QTest::newRow("label") << "LabelElement"
+                           << "Kavrel::UICore::LabelElement";
+    QTest::newRow("slider") << "SliderElement"
+                            << "Kavrel::UICore::SliderElement";
+    QTest::newRow("text box") << "TextBoxElement"
+                              << "Kavrel::UICore::TextBoxElement";
+    QTest::newRow("panel") << "PanelElement"
+                           << "Kavrel::UICore::PanelElement";
+    QTest::newRow("radio buttons") << "RadioButtonGroupElement"
+                                   << "Kavrel::UICore::RadioButtonGroupElement";
+    QTest::newRow("list: deliberately not") << "ListElement"
+                                            << "";
+    QTest::newRow("page: root only") << "PageElement"
+                                     << "";
+    QTest::newRow("other meta type") << "QString"
+                                     << "";
+    QTest::newRow("unknown") << "SpinnerElement"
+                             << "";
 }
 
 void tst_PropertyEditor::registeredKinds()
@@ -188,18 +200,22 @@ void tst_PropertyEditor::columnWidths_data()
     QTest::addColumn<QString>("widths");
     QTest::addColumn<QList<int>>("expected");
 
-    QTest::newRow("defaults") << "" << "" << QList<int>{100, -1, -1};
-    QTest::newRow("label column width") << "LabelColumnWidth=\"120\"" << "" << QList<int>{120, -1, -1};
-    QTest::newRow("first width overrides label column width")
-        << "LabelColumnWidth=\"120\"" << "<W Width=\"90\"/>" << QList<int>{90, -1, -1};
+    QTest::newRow("defaults") << ""
+                              << "" << QList<int>{100, -1, -1};
+    QTest::newRow("label column width") << "LabelColumnWidth=\"120\""
+                                        << "" << QList<int>{120, -1, -1};
+    QTest::newRow("first width overrides label column width") << "LabelColumnWidth=\"120\""
+                                                              << "<W Width=\"90\"/>" << QList<int>{90, -1, -1};
     QTest::newRow("only one column stretches")
-        << "" << "<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>" << QList<int>{0, -1, 80};
-    QTest::newRow("missing width keeps the current one")
-        << "LabelColumnWidth=\"70\"" << "<W/><W Width=\"0\"/>" << QList<int>{70, 0, -1};
+        << ""
+        << "<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>" << QList<int>{0, -1, 80};
+    QTest::newRow("missing width keeps the current one") << "LabelColumnWidth=\"70\""
+                                                         << "<W/><W Width=\"0\"/>" << QList<int>{70, 0, -1};
     QTest::newRow("fourth child is read and ignored")
-        << "" << "<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>" << QList<int>{1, 2, 3};
-    QTest::newRow("non-numeric keeps the default")
-        << "LabelColumnWidth=\"wide\"" << "<W Width=\"x\"/><W Width=\"40\"/>" << QList<int>{100, 40, -1};
+        << ""
+        << "<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>" << QList<int>{1, 2, 3};
+    QTest::newRow("non-numeric keeps the default") << "LabelColumnWidth=\"wide\""
+                                                   << "<W Width=\"x\"/><W Width=\"40\"/>" << QList<int>{100, 40, -1};
 }
 
 void tst_PropertyEditor::columnWidths()
@@ -209,7 +225,8 @@ void tst_PropertyEditor::columnWidths()
     QFETCH(QList<int>, expected);
 
     PropertyEditor editor;
-    const QString columnWidths = widths.isEmpty() ? QString() : QStringLiteral("<ColumnWidths>%1</ColumnWidths>").arg(widths);
+    const QString columnWidths =
+        widths.isEmpty() ? QString() : QStringLiteral("<ColumnWidths>%1</ColumnWidths>").arg(widths);
     QVERIFY(editor.LoadUI(QStringLiteral("<Editor %1>%2<PageElement/></Editor>").arg(head, columnWidths)));
     QCOMPARE((QList<int>{editor.GetColumnWidth(0), editor.GetColumnWidth(1), editor.GetColumnWidth(2)}), expected);
     QCOMPARE(editor.GetColumnWidth(3), -1);
@@ -244,18 +261,17 @@ void tst_PropertyEditor::layoutAttributes_data()
     QTest::newRow("words ignore case") << "ControlPlacement=\"fullrow\" LabelPlacement=\"LEFT\"" << 1 << 1 << 0x82 << 1
                                        << 0x81 << 0;
     QTest::newRow("alignment list") << "LabelAlignment=\"alignleft,AlignTop\"" << 0 << 0 << 0x21 << 1 << 0x81 << 0;
-    QTest::newRow("double comma") << "ControlAlignment=\"AlignRight,,AlignBottom\"" << 0 << 0 << 0x82 << 1 << 0x42
-                                  << 0;
-    QTest::newRow("unknown alignment keeps default") << "LabelAlignment=\"Diagonal\"" << 0 << 0 << 0x82 << 1 << 0x81
-                                                     << 0;
+    QTest::newRow("double comma") << "ControlAlignment=\"AlignRight,,AlignBottom\"" << 0 << 0 << 0x82 << 1 << 0x42 << 0;
+    QTest::newRow("unknown alignment keeps default")
+        << "LabelAlignment=\"Diagonal\"" << 0 << 0 << 0x82 << 1 << 0x81 << 0;
     QTest::newRow("unknown placement keeps default") << "LabelPlacement=\"Above\"" << 0 << 0 << 0x82 << 1 << 0x81 << 0;
     QTest::newRow("full row label defaults") << "LabelPlacement=\"FullRow\"" << 0 << 2 << 0x81 << 0 << 0x81 << 0;
     QTest::newRow("full row label with explicit wrap and alignment")
         << "LabelPlacement=\"FullRow\" LabelWrap=\"WordWrap\" LabelAlignment=\"AlignCenter\"" << 0 << 2 << 0x84 << 1
         << 0x81 << 0;
     QTest::newRow("indent") << "ControlIndent=\"12\"" << 0 << 0 << 0x82 << 1 << 0x81 << 12;
-    QTest::newRow("label placement control") << "LabelPlacement=\"Control\" LabelWrap=\"nowrap\"" << 0 << 3 << 0x82
-                                             << 0 << 0x81 << 0;
+    QTest::newRow("label placement control")
+        << "LabelPlacement=\"Control\" LabelWrap=\"nowrap\"" << 0 << 3 << 0x82 << 0 << 0x81 << 0;
 }
 
 void tst_PropertyEditor::layoutAttributes()
@@ -277,9 +293,8 @@ void tst_PropertyEditor::layoutAttributes()
 void tst_PropertyEditor::commonAttributesBecomeBindings()
 {
     PropertyEditor editor;
-    QVERIFY(editor.LoadUI(
-        GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Label=\"Check\" IsEnabled=\"False\" "
-                                     "Tooltip=\"Binding(Hint)\"/><LabelElement Id=\"l\"/>"))));
+    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Label=\"Check\" IsEnabled=\"False\" "
+                                                       "Tooltip=\"Binding(Hint)\"/><LabelElement Id=\"l\"/>"))));
     auto* check = qobject_cast<CheckBoxElement*>(editor.FindElement(QStringLiteral("C")));
     QVERIFY(check);
     QCOMPARE(check->GetLabel(), QStringLiteral("Check"));
@@ -311,7 +326,8 @@ void tst_PropertyEditor::duplicateIdsKeepPreviousName()
              QStringLiteral("first"));
 
     // A later load that reuses a name leaves it with its first owner.
-    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><LabelElement Id=\"b\" Label=\"again\"/></PageElement></E>")));
+    QVERIFY(
+        editor.LoadUI(QStringLiteral("<E><PageElement><LabelElement Id=\"b\" Label=\"again\"/></PageElement></E>")));
     QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("b")))->GetLabel(),
              QStringLiteral("third"));
 }
@@ -574,7 +590,9 @@ void tst_PropertyEditor::dividerMarks()
         QString shape;
         for (int i = 0; i < layout->count(); ++i) {
             QWidget* item = layout->itemAt(i)->widget();
-            shape += qobject_cast<Divider*>(item) ? QLatin1Char('-') : qobject_cast<RolloutContainer*>(item) ? QLatin1Char('R') : QLatin1Char('?');
+            shape += qobject_cast<Divider*>(item)            ? QLatin1Char('-')
+                     : qobject_cast<RolloutContainer*>(item) ? QLatin1Char('R')
+                                                             : QLatin1Char('?');
         }
         return shape;
     };
@@ -737,8 +755,8 @@ void tst_PropertyEditor::labelColumnDragIsRemembered()
         QVERIFY(qAbs(editor.GetColumnWidth(0) - 140) <= 1);
         QCOMPARE(group->GetGridLayout()->columnMinimumWidth(0), editor.GetColumnWidth(0));
     }
-    const int remembered = Internal::RememberedColumnWidths().value(
-        QFileInfo(fileName).absoluteFilePath() + QLatin1Char('\n'))[0];
+    const int remembered =
+        Internal::RememberedColumnWidths().value(QFileInfo(fileName).absoluteFilePath() + QLatin1Char('\n'))[0];
     QVERIFY(qAbs(remembered - 140) <= 1);
 
     // The next editor of the same definition opens with the width; others don't.
@@ -763,14 +781,20 @@ void tst_PropertyEditor::namespaceUris_data()
     QTest::addColumn<QString>("ns");
     QTest::addColumn<QString>("module");
 
-    QTest::newRow("library") << "namespace=Kavrel::UICore;module=KvUICore" << true << "Kavrel::UICore" << "KvUICore";
+    QTest::newRow("library") << "namespace=Kavrel::UICore;module=KvUICore" << true << "Kavrel::UICore"
+                             << "KvUICore";
     QTest::newRow("keys ignore case and blanks") << " NameSpace =Acme;; MODULE=AcmeElements;" << true << "Acme"
                                                  << "AcmeElements";
-    QTest::newRow("one part") << "namespace=Acme" << false << "" << "";
-    QTest::newRow("three parts") << "namespace=A;module=B;extra=C" << false << "" << "";
-    QTest::newRow("swapped") << "module=B;namespace=A" << false << "" << "";
-    QTest::newRow("empty value") << "namespace=;module=B" << false << "" << "";
-    QTest::newRow("no equals") << "namespace;module=B" << false << "" << "";
+    QTest::newRow("one part") << "namespace=Acme" << false << ""
+                              << "";
+    QTest::newRow("three parts") << "namespace=A;module=B;extra=C" << false << ""
+                                 << "";
+    QTest::newRow("swapped") << "module=B;namespace=A" << false << ""
+                             << "";
+    QTest::newRow("empty value") << "namespace=;module=B" << false << ""
+                                 << "";
+    QTest::newRow("no equals") << "namespace;module=B" << false << ""
+                               << "";
 }
 
 void tst_PropertyEditor::namespaceUris()

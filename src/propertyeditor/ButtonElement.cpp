@@ -74,8 +74,7 @@ ButtonElementImp* ImpOf(const ButtonElement* element)
 
 ButtonElement::ButtonElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<ButtonElementImp>(), parent)
-{
-}
+{}
 
 ButtonElement::~ButtonElement() = default;
 

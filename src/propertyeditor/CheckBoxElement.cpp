@@ -28,8 +28,7 @@ public:
 
 CheckBoxElement::CheckBoxElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<CheckBoxElementImp>(), parent)
-{
-}
+{}
 
 CheckBoxElement::~CheckBoxElement() = default;
 

@@ -36,8 +36,7 @@ ComboBoxElementImp* ImpOf(const ComboBoxElement* element)
 
 ComboBoxElement::ComboBoxElement(QObject* parent)
     : ListElement(std::make_unique<ComboBoxElementImp>(), parent)
-{
-}
+{}
 
 ComboBoxElement::~ComboBoxElement() = default;
 
@@ -55,7 +54,7 @@ QWidget* ComboBoxElement::CreateWidgetOverride(QWidget* parent)
     // box build its popup list at once, which dominates building long pages.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
     // Written with blanks before the parentheses; Qt normalises both.
-    connect(combo, SIGNAL(currentIndexChanged (int)), this, SLOT(ComboBoxCurrentIndexChanged (int)));
+    connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(ComboBoxCurrentIndexChanged(int)));
     // Items given without a binding reach the new combo box too.
     GetImp()->mpWidget = combo;
     UpdateWidget(AttributeName::Items);

@@ -35,8 +35,7 @@ QSet<int>& ElementTypeIds()
     return ids;
 }
 
-template <typename T>
-void RegisterKind(const char* name)
+template <typename T> void RegisterKind(const char* name)
 {
     PropertyEditorElement::RegisterElementType(QMetaType::fromType<T>(), name);
 }
@@ -183,7 +182,8 @@ bool ElementTypeRegistry::LoadModule(const QString& module)
         errors += library->errorString() + QLatin1Char(' ');
         delete library;
     }
-    WriteDiagnostic(QStringLiteral("Property editor: module \"%1\" could not be loaded. %2\n").arg(module, errors.trimmed()));
+    WriteDiagnostic(
+        QStringLiteral("Property editor: module \"%1\" could not be loaded. %2\n").arg(module, errors.trimmed()));
     return false;
 }
 

@@ -237,8 +237,7 @@ void GroupElementApplyColumnWidths(GroupElement* group, const Internal::ColumnWi
 
 GroupElement::GroupElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<GroupElementImp>(), parent)
-{
-}
+{}
 
 GroupElement::~GroupElement() = default;
 

@@ -27,8 +27,7 @@ public:
 
 LabelElement::LabelElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<LabelElementImp>(), parent)
-{
-}
+{}
 
 LabelElement::~LabelElement() = default;
 

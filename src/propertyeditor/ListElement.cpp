@@ -62,8 +62,9 @@ void ListElementImp::LoadAttributes(XmlFiler& filer)
     filer.RememberPosition();
     for (bool more = filer.GoToFirstChild(); more; more = filer.GoToNextSibling()) {
         const QString text = filer.ReadString(QStringLiteral("Text"));
-        const QVariant value =
-            filer.HasAttribute(QStringLiteral("Value")) ? QVariant(filer.ReadString(QStringLiteral("Value"))) : QVariant();
+        const QVariant value = filer.HasAttribute(QStringLiteral("Value"))
+                                   ? QVariant(filer.ReadString(QStringLiteral("Value")))
+                                   : QVariant();
         model->Add(text, LoadItemImage(filer.ReadString(QStringLiteral("Image"))), value);
     }
     filer.RestorePosition();
@@ -138,8 +139,7 @@ void ListElementImp::SetFixedModel(QAbstractItemModel* model, bool owned)
 
 ListElement::ListElement(std::unique_ptr<PropertyEditorElementImp> imp, QObject* parent)
     : PropertyEditorElement(std::move(imp), parent)
-{
-}
+{}
 
 ListElement::~ListElement() = default;
 

@@ -38,8 +38,7 @@ void EmptyLayout(QLayout* layout)
 
 PageElement::PageElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<PageElementImp>(), parent)
-{
-}
+{}
 
 PageElement::~PageElement() = default;
 

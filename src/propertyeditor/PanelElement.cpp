@@ -23,8 +23,7 @@ public:
 
 PanelElement::PanelElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<PanelElementImp>(), parent)
-{
-}
+{}
 
 PanelElement::~PanelElement() = default;
 

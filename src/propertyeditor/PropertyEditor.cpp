@@ -287,8 +287,7 @@ void PropertyEditorImp::ReportPropertyModified(PropertyEditorElement* element, c
 PropertyEditor::PropertyEditor(QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<PropertyEditorImp>(this))
-{
-}
+{}
 
 PropertyEditor::~PropertyEditor() = default;
 

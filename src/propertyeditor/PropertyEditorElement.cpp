@@ -63,8 +63,7 @@ bool BoolOr(const QVariant& value, bool fallback)
 
 PropertyEditorElementImp::PropertyEditorElementImp(PropertyEditorElement::Attribute attribute)
     : miState(attribute == PropertyEditorElement::Container ? quint32(ContainerBit) : 0u)
-{
-}
+{}
 
 PropertyEditorElementImp::~PropertyEditorElementImp() = default;
 
@@ -85,7 +84,8 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
     info.miControlPlacement =
         filer.ReadEnum(QStringLiteral("ControlPlacement"), kControlPlacementWords, info.miControlPlacement);
     info.miControlIndent = filer.ReadInt(QStringLiteral("ControlIndent"), 0);
-    info.miLabelPlacement = filer.ReadEnum(QStringLiteral("LabelPlacement"), kLabelPlacementWords, info.miLabelPlacement);
+    info.miLabelPlacement =
+        filer.ReadEnum(QStringLiteral("LabelPlacement"), kLabelPlacementWords, info.miLabelPlacement);
     if (info.miLabelPlacement == PropertyEditorElement::LabelFullRow) {
         // A label on a row of its own starts at the left and doesn't wrap,
         // unless the attributes below say otherwise.
@@ -163,9 +163,7 @@ bool PropertyEditorElementImp::LoadFromDomElement(const QDomElement& element)
     return Load(filer);
 }
 
-void PropertyEditorElementImp::LoadAttributes(XmlFiler& /*filer*/)
-{
-}
+void PropertyEditorElementImp::LoadAttributes(XmlFiler& /*filer*/) {}
 
 void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
 {
@@ -181,7 +179,8 @@ void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
     if (!IsContainer())
         return;
     QWidget* childParent = GetChildParentWidget();
-    const qsizetype count = miChildBuildLimit < 0 ? mChildren.size() : qMin<qsizetype>(miChildBuildLimit, mChildren.size());
+    const qsizetype count =
+        miChildBuildLimit < 0 ? mChildren.size() : qMin<qsizetype>(miChildBuildLimit, mChildren.size());
     for (qsizetype i = 0; i < count; ++i)
         Of(mChildren.at(i))->BuildWidgetTree(childParent);
     if (created || (miState & ChildrenChangedBit)) {
@@ -300,8 +299,8 @@ void PropertyEditorElementImp::AppendDebugText(QString& text, int depth) const
         }
         const QString expression = binding->GetExpression();
         text += QStringLiteral("%1  %2 = %3%4%5\n")
-                    .arg(indent, it.key(), expression.isEmpty() ? binding->GetValue().toString() : expression,
-                         source, mpWidget ? QString() : QStringLiteral(" [no widget]"));
+                    .arg(indent, it.key(), expression.isEmpty() ? binding->GetValue().toString() : expression, source,
+                         mpWidget ? QString() : QStringLiteral(" [no widget]"));
     }
     for (PropertyEditorElement* child : std::as_const(mChildren))
         Of(child)->AppendDebugText(text, depth + 1);
@@ -313,14 +312,13 @@ bool PropertyEditorElement::LayoutInfo::operator==(const LayoutInfo& other) cons
 {
     return miControlPlacement == other.miControlPlacement && miControlAlignment == other.miControlAlignment &&
            miLabelPlacement == other.miLabelPlacement && miLabelAlignment == other.miLabelAlignment &&
-           miLabelWrap == other.miLabelWrap && miControlIndent == other.miControlIndent &&
-           miColumn == other.miColumn && miColumnSpan == other.miColumnSpan;
+           miLabelWrap == other.miLabelWrap && miControlIndent == other.miControlIndent && miColumn == other.miColumn &&
+           miColumnSpan == other.miColumnSpan;
 }
 
 PropertyEditorElement::PropertyEditorElement(Attribute attribute, QObject* parent)
     : PropertyEditorElement(std::make_unique<PropertyEditorElementImp>(attribute), parent)
-{
-}
+{}
 
 PropertyEditorElement::PropertyEditorElement(std::unique_ptr<PropertyEditorElementImp> imp, QObject* parent)
     : QObject(parent)
@@ -654,9 +652,7 @@ QWidget* PropertyEditorElement::CreateWidgetOverride(QWidget* parent)
     return widget;
 }
 
-void PropertyEditorElement::AddChildWidgetsOverride()
-{
-}
+void PropertyEditorElement::AddChildWidgetsOverride() {}
 
 void PropertyEditorElement::UpdateWidgetOverride(const QString& attribute)
 {
@@ -758,8 +754,8 @@ void PropertyEditorElement::UpdateWidget(const QString& attribute)
 {
     if (!mpImp->mpWidget)
         return;
-    Internal::WriteDiagnostic(QStringLiteral("Updating widget property for element: %1, target property:%2\n")
-                                  .arg(mpImp->msId, attribute));
+    Internal::WriteDiagnostic(
+        QStringLiteral("Updating widget property for element: %1, target property:%2\n").arg(mpImp->msId, attribute));
     const bool wasUpdating = mpImp->mbUpdatingWidget;
     mpImp->mbUpdatingWidget = true;
     UpdateWidgetOverride(attribute);

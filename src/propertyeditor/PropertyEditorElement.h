@@ -147,8 +147,7 @@ public:
     // module, whose nodes name it through a namespace URI. The type must be a
     // default-constructible PropertyEditorElement.
     static void RegisterElementType(QMetaType type, const char* name);
-    template <typename T>
-    static void RegisterElementType(const char* name)
+    template <typename T> static void RegisterElementType(const char* name)
     {
         RegisterElementType(QMetaType::fromType<T>(), name);
     }

@@ -69,8 +69,7 @@ RadioButtonGroupElementImp* ImpOf(const RadioButtonGroupElement* element)
 
 RadioButtonGroupElement::RadioButtonGroupElement(QObject* parent)
     : ListElement(std::make_unique<RadioButtonGroupElementImp>(), parent)
-{
-}
+{}
 
 RadioButtonGroupElement::~RadioButtonGroupElement() = default;
 

@@ -39,8 +39,7 @@ double DoubleOr(const QVariant& value, double fallback)
 
 SliderElement::SliderElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<SliderElementImp>(), parent)
-{
-}
+{}
 
 SliderElement::~SliderElement() = default;
 

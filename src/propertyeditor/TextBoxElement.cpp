@@ -27,8 +27,7 @@ public:
 
 TextBoxElement::TextBoxElement(QObject* parent)
     : PropertyEditorElement(std::make_unique<TextBoxElementImp>(), parent)
-{
-}
+{}
 
 TextBoxElement::~TextBoxElement() = default;
 

@@ -119,7 +119,8 @@ public:
         static const char* const modes[] = {QT_TRANSLATE_NOOP("PropertyEditorPage", "solid"),
                                             QT_TRANSLATE_NOOP("PropertyEditorPage", "gradient"),
                                             QT_TRANSLATE_NOOP("PropertyEditorPage", "texture")};
-        const QString mode = miColourMode >= 0 && miColourMode < 3 ? PageText(modes[miColourMode]) : QStringLiteral("?");
+        const QString mode =
+            miColourMode >= 0 && miColourMode < 3 ? PageText(modes[miColourMode]) : QStringLiteral("?");
         return PageText("%1, %2 colour, %3 finish, %4 % rough")
             .arg(msName, mode, msFinish.toLower())
             .arg(qRound(mdRoughness * 100));
@@ -136,8 +137,8 @@ public:
                 QLatin1String(property.name()) == QLatin1String("Finishes"))
                 continue;
             const QVariant value = property.read(this);
-            const QString shown = value.typeId() == QMetaType::Double ? QString::number(value.toDouble(), 'g', 6)
-                                                                      : value.toString();
+            const QString shown =
+                value.typeId() == QMetaType::Double ? QString::number(value.toDouble(), 'g', 6) : value.toString();
             text += QStringLiteral("%1 = %2\n").arg(QLatin1String(property.name()), shown);
         }
         return text.trimmed();
@@ -147,8 +148,7 @@ Q_SIGNALS:
     void Changed();
 
 private:
-    template <typename T>
-    void Set(T& field, const T& value)
+    template <typename T> void Set(T& field, const T& value)
     {
         if (field == value)
             return;
