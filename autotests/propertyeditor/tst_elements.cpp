@@ -116,6 +116,7 @@ private Q_SLOTS:
     void radioButtonsBothWays();
     void buttonBothWays();
     void groupBothWays();
+    void collapsedGroupHidesItsGrid();
     void commonAttributesFollowSource();
     void elementsBindToOtherElements();
     void literalEditsAreNotReportedAsModified();
@@ -415,6 +416,25 @@ void tst_Elements::groupBothWays()
     QCOMPARE(modifiedSpy.count(), 2);
     QCOMPARE(modifiedSpy.at(0).at(1).toString(), QStringLiteral("IsCollapsed"));
     QCOMPARE(modifiedSpy.at(1).at(1).toString(), QStringLiteral("IsChecked"));
+}
+
+void tst_Elements::collapsedGroupHidesItsGrid()
+{
+    mpMaterial->SetCollapsed(true);
+    QVERIFY(mpEditor->LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"g\" IsCollapsed=\"Binding(Collapsed)\">"
+                                            "<TextBoxElement Id=\"t\"/></GroupElement></PageElement></E>")));
+    QSignalSpy valueSpy(Find<GroupElement>("g"), &PropertyEditorElement::ValueChanged);
+    mpEditor->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mpEditor.get()));
+    QTRY_VERIFY(Find<GroupElement>("g")->GetGridLayout());
+    QWidget* grid = Find<GroupElement>("g")->GetGridLayout()->parentWidget();
+    QVERIFY(Find<GroupElement>("g")->GetRolloutContainer()->IsCollapsed());
+    QVERIFY(grid->isHidden());
+    // Building is no edit.
+    QCOMPARE(valueSpy.count(), 0);
+    mpMaterial->SetCollapsed(false);
+    QTRY_VERIFY(grid->isVisible());
+    QVERIFY(Find<TextBoxElement>("t")->GetWidget()->isVisible());
 }
 
 void tst_Elements::commonAttributesFollowSource()

@@ -688,6 +688,8 @@ void tst_PropertyEditor::loadFileWithElementPath()
     QVERIFY(editor.LoadUIFile(fileName, QStringLiteral("Material"), QString()));
     QCOMPARE(editor.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
     QCOMPARE(editor.GetColumnWidth(0), 77);
+    QCOMPARE(PropertyEditor::GetSchemaFile(),
+             QCoreApplication::applicationDirPath() + QStringLiteral("/PropertyEditorUIDefinitionSchema.xsd"));
     QVERIFY(editor.FindElement(QStringLiteral("name")));
     QVERIFY(!editor.FindElement(QStringLiteral("on")));
 

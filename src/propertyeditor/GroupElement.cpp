@@ -337,9 +337,6 @@ QWidget* GroupElement::CreateWidgetOverride(QWidget* parent)
 
     auto* rollout = new RolloutContainer(outer);
     rollout->SetElideMode(Qt::ElideRight);
-    rollout->SetIsCollapsed(IsCollapsed());
-    connect(rollout, &RolloutContainer::CheckBoxToggled, this, &GroupElement::CheckStateChanged);
-    connect(rollout, &RolloutContainer::Collapsed, this, &GroupElement::CollapseStateChanged);
     imp->mpRollout = rollout;
 
     auto* rolloutLayout = new QVBoxLayout(rollout);
@@ -352,6 +349,12 @@ QWidget* GroupElement::CreateWidgetOverride(QWidget* parent)
 
     PropertyEditorImp* editor = imp->GetEditorImp();
     imp->ApplyColumnWidths(editor ? editor->GetColumnWidths() : kStandaloneColumnWidths);
+
+    // Collapsing hides the content the container holds, so the grid comes
+    // first; the signals are connected after, as this is no user's doing.
+    rollout->SetIsCollapsed(IsCollapsed());
+    connect(rollout, &RolloutContainer::CheckBoxToggled, this, &GroupElement::CheckStateChanged);
+    connect(rollout, &RolloutContainer::Collapsed, this, &GroupElement::CollapseStateChanged);
 
     outerLayout->addWidget(rollout);
     imp->mpWidget = outer;

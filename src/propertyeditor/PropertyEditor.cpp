@@ -8,6 +8,8 @@
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPaintEvent>
 #include <QTimer>
@@ -44,11 +46,11 @@ PropertyEditorImp::PropertyEditorImp(PropertyEditor* host)
 
 PropertyEditorImp::~PropertyEditorImp()
 {
-    // The page's bindings must not resolve through a context that is going away.
-    mpContext->SetResolver({});
+    // The page and its bindings go before the context they resolve against.
     delete mpPage;
     mpPage = nullptr;
     mNameIndex.clear();
+    mpContext->SetResolver({});
     delete mpContext;
     mpContext = nullptr;
 }
@@ -319,6 +321,12 @@ bool PropertyEditor::LoadUIFile(const QString& fileName, const QString& elementP
         mpImp->ApplyColumnWidthsToGroups();
     }
     return result;
+}
+
+QString PropertyEditor::GetSchemaFile()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/PropertyEditorUIDefinitionSchema.xsd"));
 }
 
 QString PropertyEditor::GetUIFile() const

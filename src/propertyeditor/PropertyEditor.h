@@ -51,6 +51,9 @@ public:
                     const QString& translationFile = QString());
     // The absolute path of the last file LoadUIFile could open.
     QString GetUIFile() const;
+    // Where the schema of UI definitions is installed: beside the
+    // application. Definitions are not validated against it.
+    static QString GetSchemaFile();
 
     PageElement* GetPage() const;
     // The element of the page with that Id (without regard to case), or null.
