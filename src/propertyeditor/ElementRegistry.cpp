@@ -112,7 +112,11 @@ PropertyEditorElement* ElementTypeRegistry::Create(const QString& tagName, const
     if (!type.isValid() || type.id() <= 0 || !ElementTypeIds().contains(type.id()))
         return nullptr;
     // Element types are QObjects, whose QObject part starts the object.
-    return qobject_cast<PropertyEditorElement*>(static_cast<QObject*>(type.create()));
+    void* object = type.create();
+    if (auto* element = qobject_cast<PropertyEditorElement*>(static_cast<QObject*>(object)))
+        return element;
+    type.destroy(object);
+    return nullptr;
 }
 
 bool ElementTypeRegistry::ParseNamespaceUri(const QString& namespaceUri, ElementNamespace* result)
