@@ -9,8 +9,9 @@ namespace Kavrel::UICore {
 class CoreUIManagerImp;
 class IMessageBoxProvider;
 
-// The built-in themes.
-enum Theme
+// The built-in themes. The underlying type is fixed so that any int a host
+// passes is a valid value (it names "Dark").
+enum Theme : int
 {
     Dark = 1,
     Light = 2,
