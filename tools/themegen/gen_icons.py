@@ -527,7 +527,7 @@ def mini_toggle(v, on, hover):
 
 GLYPHS = {
     "CheckMark": g_check, "Search": g_search, "ClearSearch": g_clear, "ContextMenu": g_dots,
-    "DeleteNode": g_delete_node, "Download": g_download, "AspectBrowser": g_grid, "Browser": g_browser,
+    "DeleteNode": g_delete_node, "Download": g_download, "ViewBrowser": g_grid, "Browser": g_browser,
     "EditMaterial": g_edit_material, "EditMaterialOpen": g_edit_material_open,
     "EditMaterialClose": g_edit_material_close, "Exchange": g_exchange,
     "GradientNodeIdle": lambda c, v: g_node(c, v, False),
@@ -559,7 +559,7 @@ NEUTRAL_DRAW = {
     "Checker16": n_checker, "Diagonal16": n_diagonal, "Gradient16": n_gradient16, "Image16": n_image16,
     "Lighting16": n_lighting16, "Linear16": n_linear16, "LinearAsymmetrical16": n_linear_asym,
     "Marble16": n_marble16, "Noise16": n_noise16, "Pong16": n_pong16, "Radial16": n_radial16,
-    "Speckle16": n_speckle16, "Spiral16": n_spiral16, "Sweep16": n_sweep16, "Tartan16": n_tartan16,
+    "Dotted16": n_speckle16, "Spiral16": n_spiral16, "Sweep16": n_sweep16, "Tartan16": n_tartan16,
     "Tiles16": n_tiles16, "Waves16": n_waves16, "Wood16": n_wood16, "MakeMaterialCopy16": n_make_copy,
     "NewMaterial": n_new_material, "ApplyMaterial": n_apply_material,
 }

@@ -10,7 +10,7 @@ NEUTRAL = {
     "Alert", "Warning", "Warning32", "MissingFile", "MissingAsset", "MissingImage", "InvalidLibrary",
     "HueWheel", "ColorBook", "Favorite", "Favorites16", "Cloud16", "GradientDiamond",
     "Box16", "Camera16", "Checker16", "Diagonal16", "Gradient16", "Image16", "Lighting16", "Linear16",
-    "LinearAsymmetrical16", "Marble16", "Noise16", "Pong16", "Radial16", "Speckle16", "Spiral16", "Sweep16",
+    "LinearAsymmetrical16", "Marble16", "Noise16", "Pong16", "Radial16", "Dotted16", "Spiral16", "Sweep16",
     "Tartan16", "Tiles16", "Waves16", "Wood16", "MakeMaterialCopy16", "NewMaterial", "ApplyMaterial",
 }
 NEUTRAL |= {"Rendering_%02d" % i for i in range(1, 25)}

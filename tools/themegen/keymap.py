@@ -262,7 +262,7 @@ K["CurrentTheme"] = ("per", {"Light": ("s", "Light"), "Dark": ("s", "Dark"), "HI
 
 # ---- icons and images ---------------------------------------------------------
 ICONS = {
-    "AlertIcon": "Alert", "ApplyMaterialIcon": "ApplyMaterial", "AspectbrowserIcon": "AspectBrowser",
+    "AlertIcon": "Alert", "ApplyMaterialIcon": "ApplyMaterial", "AspectbrowserIcon": "ViewBrowser",
     "box_16Icon": "Box16", "BranchClosed": "BranchClosed", "BranchClosedSelected": "BranchClosedSelected",
     "BranchOpen": "BranchOpen", "BranchOpenSelected": "BranchOpenSelected", "BrowserIcon": "Browser",
     "cameraNormal_16Icon": "Camera16", "checker_16Icon": "Checker16", "CheckMarkIcon": "CheckMark",
@@ -292,7 +292,7 @@ ICONS = {
     "MissingAssetIcon": "MissingAsset", "MissingImageIcon": "MissingImage", "New_materialIcon": "NewMaterial",
     "noise_16Icon": "Noise16", "PantoneColorIcon": "ColorBook", "PickerIcon": "Picker", "pong_16Icon": "Pong16",
     "radial_16Icon": "Radial16", "SearchIcon": "Search", "SelectByMaterialIcon": "SelectByMaterial",
-    "ShowLibraryPanelIcon": "ShowLibraryPanel", "show tree": "ShowTree", "speckle_16Icon": "Speckle16",
+    "ShowLibraryPanelIcon": "ShowLibraryPanel", "show tree": "ShowTree", "speckle_16Icon": "Dotted16",
     "spiral_16Icon": "Spiral16", "sweep_16Icon": "Sweep16", "tartan_16Icon": "Tartan16", "tiles_16Icon": "Tiles16",
     "ToolbarExtensionIcon": "ToolbarExtension", "TreeCategoryIcon": "TreeCategory", "TreeHomeIcon": "TreeHome",
     "TreeLibraryIcon": "TreeLibrary", "TreeReadOnlyIcon": "ReadOnly", "Warning32Icon": "Warning32",
