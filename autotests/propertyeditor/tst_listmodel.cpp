@@ -45,7 +45,6 @@ void tst_ListModel::data_data()
     QTest::newRow("image") << 1 << int(Qt::DecorationRole) << QVariant(swatch(Qt::red));
     QTest::newRow("value") << 1 << int(Qt::UserRole) << QVariant(0xff0000);
     QTest::newRow("edit role") << 1 << int(Qt::EditRole) << QVariant();
-    QTest::newRow("tool tip role") << 1 << int(Qt::ToolTipRole) << QVariant();
     QTest::newRow("user role + 1") << 1 << int(Qt::UserRole + 1) << QVariant();
     QTest::newRow("row -1") << -1 << int(Qt::DisplayRole) << QVariant();
     QTest::newRow("row count") << 3 << int(Qt::DisplayRole) << QVariant();

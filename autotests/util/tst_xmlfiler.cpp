@@ -278,7 +278,6 @@ void tst_XmlFiler::typedReaders_data()
     QTest::newRow("bool True") << "True" << QVariant(false) << QVariant(true);
     QTest::newRow("bool lower false") << "false" << QVariant(true) << QVariant(false);
     QTest::newRow("bool malformed") << "yes" << QVariant(true) << QVariant(true);
-    QTest::newRow("bool absent") << QString() << QVariant(true) << QVariant(true);
     const QVariant rectDefault(QRect(9, 9, 9, 9));
     QTest::newRow("rect") << "1, 2,30,40" << rectDefault << QVariant(QRect(1, 2, 30, 40));
     QTest::newRow("rect too short") << "1,2,3" << rectDefault << rectDefault;
