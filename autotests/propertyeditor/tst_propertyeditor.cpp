@@ -191,37 +191,38 @@ void tst_PropertyEditor::registeredKinds()
 
 void tst_PropertyEditor::columnWidths_data()
 {
-    // The definition up to its page.
     QTest::addColumn<QString>("head");
+    QTest::addColumn<QString>("widths");
     QTest::addColumn<QList<int>>("expected");
 
-    const QString widths = QStringLiteral("<Editor %1><ColumnWidths>%2</ColumnWidths>");
-    QTest::newRow("defaults") << "<Editor>" << QList<int>{100, -1, -1};
-    QTest::newRow("label column width") << "<Editor LabelColumnWidth=\"120\">" << QList<int>{120, -1, -1};
-    QTest::newRow("first width overrides label column width")
-        << widths.arg(QStringLiteral("LabelColumnWidth=\"120\""), QStringLiteral("<W Width=\"90\"/>"))
-        << QList<int>{90, -1, -1};
+    QTest::newRow("defaults") << ""
+                              << "" << QList<int>{100, -1, -1};
+    QTest::newRow("label column width") << "LabelColumnWidth=\"120\""
+                                        << "" << QList<int>{120, -1, -1};
+    QTest::newRow("first width overrides label column width") << "LabelColumnWidth=\"120\""
+                                                              << "<W Width=\"90\"/>" << QList<int>{90, -1, -1};
     QTest::newRow("only one column stretches")
-        << widths.arg(QString(), QStringLiteral("<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>"))
-        << QList<int>{0, -1, 80};
-    QTest::newRow("missing width keeps the current one")
-        << widths.arg(QStringLiteral("LabelColumnWidth=\"70\""), QStringLiteral("<W/><W Width=\"0\"/>"))
-        << QList<int>{70, 0, -1};
+        << ""
+        << "<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>" << QList<int>{0, -1, 80};
+    QTest::newRow("missing width keeps the current one") << "LabelColumnWidth=\"70\""
+                                                         << "<W/><W Width=\"0\"/>" << QList<int>{70, 0, -1};
     QTest::newRow("fourth child is read and ignored")
-        << widths.arg(QString(), QStringLiteral("<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>"))
-        << QList<int>{1, 2, 3};
-    QTest::newRow("non-numeric keeps the default")
-        << widths.arg(QStringLiteral("LabelColumnWidth=\"wide\""), QStringLiteral("<W Width=\"x\"/><W Width=\"40\"/>"))
-        << QList<int>{100, 40, -1};
+        << ""
+        << "<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>" << QList<int>{1, 2, 3};
+    QTest::newRow("non-numeric keeps the default") << "LabelColumnWidth=\"wide\""
+                                                   << "<W Width=\"x\"/><W Width=\"40\"/>" << QList<int>{100, 40, -1};
 }
 
 void tst_PropertyEditor::columnWidths()
 {
     QFETCH(QString, head);
+    QFETCH(QString, widths);
     QFETCH(QList<int>, expected);
 
     PropertyEditor editor;
-    QVERIFY(editor.LoadUI(head + QStringLiteral("<PageElement/></Editor>")));
+    const QString columnWidths =
+        widths.isEmpty() ? QString() : QStringLiteral("<ColumnWidths>%1</ColumnWidths>").arg(widths);
+    QVERIFY(editor.LoadUI(QStringLiteral("<Editor %1>%2<PageElement/></Editor>").arg(head, columnWidths)));
     QCOMPARE((QList<int>{editor.GetColumnWidth(0), editor.GetColumnWidth(1), editor.GetColumnWidth(2)}), expected);
     QCOMPARE(editor.GetColumnWidth(3), -1);
     QCOMPARE(editor.GetColumnWidth(-1), -1);

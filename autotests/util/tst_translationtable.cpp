@@ -77,16 +77,17 @@ void tst_TranslationTable::readsUnitsOfBothVersions()
 {
     const QString path = mDir.filePath(QStringLiteral("units.xlf"));
     QVERIFY(writeFile(
-        path, xliff(unit(QStringLiteral("General"), QStringLiteral("Allgemein")) + QStringLiteral("<group id=\"g\">") +
-                    unit(QStringLiteral("Width"), QStringLiteral("Breite")) + QStringLiteral("</group>") +
-                    QStringLiteral("<trans-unit id=\"Untranslated\"><source>Untranslated</source></trans-unit>") +
-                    QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>") +
-                    QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
-                                   "<target>Fest</target></trans-unit>") +
-                    QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
-                                   "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>") +
-                    QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
-                                   "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
+        path, xliff(unit(QStringLiteral("General"), QStringLiteral("Allgemein"))
+                    + QStringLiteral("<group id=\"g\">") + unit(QStringLiteral("Width"), QStringLiteral("Breite"))
+                    + QStringLiteral("</group>")
+                    + QStringLiteral("<trans-unit id=\"Untranslated\"><source>Untranslated</source></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
+                                     "<target>Fest</target></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
+                                     "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>")
+                    + QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
+                                     "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
     TranslationTable table(QStringLiteral("units"));
     QVERIFY(table.LoadFile(path));
     QCOMPARE(table.GetText(QStringLiteral("General")), QStringLiteral("Allgemein"));
@@ -188,11 +189,13 @@ void tst_TranslationTable::cacheIsKeyedByLowerCaseNameAndFollowsLocale()
     QCOMPARE(TranslationTable::GetCached(QStringLiteral("CACHED")), table);
     QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Ja"));
     QVERIFY(!TranslationTable::GetCached(QString()));
-    // A filer translates through the cached table.
+    // A filer translates through a cached table whose file name differs in case.
+    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Page_de-DE.xlf")),
+                      xliff(unit(QStringLiteral("Group.Title"), QStringLiteral("Gruppe")))));
     XmlFiler filer;
-    QVERIFY(filer.Parse(QStringLiteral("<Root Label=\"tr( Yes )\" Other=\"tr(Missing)\"/>")));
-    filer.SetTranslationTable(TranslationTable::GetCached(QStringLiteral("cached")));
-    QCOMPARE(filer.ReadString(QStringLiteral("Label")), QStringLiteral("Ja"));
+    QVERIFY(filer.Parse(QStringLiteral("<Root Label=\"tr( Group.Title )\" Other=\"tr(Missing)\"/>")));
+    filer.SetTranslationTable(TranslationTable::GetCached(QStringLiteral("page")));
+    QCOMPARE(filer.ReadString(QStringLiteral("Label")), QStringLiteral("Gruppe"));
     QCOMPARE(filer.ReadString(QStringLiteral("Other")), QStringLiteral("Missing"));
 
     setLocale(QStringLiteral("fr-FR"));
