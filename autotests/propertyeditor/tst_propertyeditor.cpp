@@ -43,6 +43,17 @@ void Build(PropertyEditor& editor)
     editor.grab();
 }
 
+template <typename T = PropertyEditorElement> T* Find(PropertyEditor& editor, const char* id)
+{
+    return qobject_cast<T*>(editor.FindElement(QString::fromLatin1(id)));
+}
+
+QString WriteFile(const QTemporaryDir& folder, const char* name, const QByteArray& content)
+{
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+}
+
 struct Cell
 {
     int row = -2;
@@ -102,25 +113,21 @@ private Q_SLOTS:
     void layoutAttributes_data();
     void layoutAttributes();
     void commonAttributesBecomeBindings();
-    void duplicateIdsKeepPreviousName();
-    void unknownAndListTagsAreSkipped();
-    void failingChildStopsTheLoad();
-    void missingPageFails();
+    void loadedChildren_data();
+    void loadedChildren();
     void malformedXmlFailsSilently();
-    void secondLoadAddsToPage();
     void translatedTexts();
 
     void gridPlacement_data();
     void gridPlacement();
-    void explicitColumnOnFirstChild();
     void controlIndentWrapsControl();
     void columnKeepersAndStretch();
+    void dividerMarks_data();
     void dividerMarks();
 
     void buildIsDeferredToPaint();
     void longPagesBuildInSlices();
     void loadFileWithElementPath();
-    void loadFileFailures();
     void labelColumnDragIsRemembered();
 
     void namespaceUris_data();
@@ -154,43 +161,31 @@ void tst_PropertyEditor::cleanup()
 void tst_PropertyEditor::registeredKinds_data()
 {
     QTest::addColumn<QString>("tag");
-    QTest::addColumn<QString>("className");
+    QTest::addColumn<bool>("registered");
 
-    QTest::newRow("group") << "GroupElement"
-                           << "Kavrel::UICore::GroupElement";
-    QTest::newRow("check box") << "CheckBoxElement"
-                               << "Kavrel::UICore::CheckBoxElement";
-    QTest::newRow("combo box") << "ComboBoxElement"
-                               << "Kavrel::UICore::ComboBoxElement";
-    QTest::newRow("button") << "ButtonElement"
-                            << "Kavrel::UICore::ButtonElement";
-    QTest::newRow("label") << "LabelElement"
-                           << "Kavrel::UICore::LabelElement";
-    QTest::newRow("slider") << "SliderElement"
-                            << "Kavrel::UICore::SliderElement";
-    QTest::newRow("text box") << "TextBoxElement"
-                              << "Kavrel::UICore::TextBoxElement";
-    QTest::newRow("panel") << "PanelElement"
-                           << "Kavrel::UICore::PanelElement";
-    QTest::newRow("radio buttons") << "RadioButtonGroupElement"
-                                   << "Kavrel::UICore::RadioButtonGroupElement";
-    QTest::newRow("list: deliberately not") << "ListElement"
-                                            << "";
-    QTest::newRow("page: root only") << "PageElement"
-                                     << "";
-    QTest::newRow("other meta type") << "QString"
-                                     << "";
-    QTest::newRow("unknown") << "SpinnerElement"
-                             << "";
+    QTest::newRow("group") << "GroupElement" << true;
+    QTest::newRow("check box") << "CheckBoxElement" << true;
+    QTest::newRow("combo box") << "ComboBoxElement" << true;
+    QTest::newRow("button") << "ButtonElement" << true;
+    QTest::newRow("label") << "LabelElement" << true;
+    QTest::newRow("slider") << "SliderElement" << true;
+    QTest::newRow("text box") << "TextBoxElement" << true;
+    QTest::newRow("panel") << "PanelElement" << true;
+    QTest::newRow("radio buttons") << "RadioButtonGroupElement" << true;
+    QTest::newRow("list: deliberately not") << "ListElement" << false;
+    QTest::newRow("page: root only") << "PageElement" << false;
+    QTest::newRow("other meta type") << "QString" << false;
+    QTest::newRow("unknown") << "SpinnerElement" << false;
 }
 
 void tst_PropertyEditor::registeredKinds()
 {
     QFETCH(QString, tag);
-    QFETCH(QString, className);
+    QFETCH(bool, registered);
     std::unique_ptr<PropertyEditorElement> element(Internal::ElementTypeRegistry::Instance().Create(tag, QString()));
-    QCOMPARE(element ? QString::fromLatin1(element->metaObject()->className()) : QString(), className);
-    if (!className.isEmpty())
+    QCOMPARE(element ? QString::fromLatin1(element->metaObject()->className()) : QString(),
+             registered ? QStringLiteral("Kavrel::UICore::") + tag : QString());
+    if (registered)
         QVERIFY(QMetaType::fromName(tag.toLatin1()).isValid());
 }
 
@@ -279,7 +274,7 @@ void tst_PropertyEditor::layoutAttributes()
     QFETCH(QString, attributes);
     PropertyEditor editor;
     QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" %1/>").arg(attributes))));
-    auto* element = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")));
+    auto* element = Find(editor, "t");
     QVERIFY(element);
     const PropertyEditorElement::LayoutInfo info = element->GetLayoutInfo();
     QTEST(int(info.miControlPlacement), "controlPlacement");
@@ -295,7 +290,7 @@ void tst_PropertyEditor::commonAttributesBecomeBindings()
     PropertyEditor editor;
     QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Label=\"Check\" IsEnabled=\"False\" "
                                                        "Tooltip=\"Binding(Hint)\"/><LabelElement Id=\"l\"/>"))));
-    auto* check = qobject_cast<CheckBoxElement*>(editor.FindElement(QStringLiteral("C")));
+    auto* check = Find<CheckBoxElement>(editor, "C");
     QVERIFY(check);
     QCOMPARE(check->GetLabel(), QStringLiteral("Check"));
     QVERIFY(!check->IsEnabled());
@@ -305,69 +300,55 @@ void tst_PropertyEditor::commonAttributesBecomeBindings()
     QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetExpression(), QStringLiteral("Binding(Hint)"));
     QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetContext(), editor.GetContext());
 
-    auto* label = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("l")));
+    auto* label = Find(editor, "l");
     QCOMPARE(label->GetBinding(QStringLiteral("Tooltip"))->GetValue().toString(), QString());
     QCOMPARE(label->GetParent(), editor.FindElement(QStringLiteral("g")));
     QCOMPARE(label->GetEditor(), &editor);
 }
 
-void tst_PropertyEditor::duplicateIdsKeepPreviousName()
+void tst_PropertyEditor::loadedChildren_data()
 {
-    PropertyEditor editor;
-    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<LabelElement Id=\"a\" Label=\"first\"/>"
-                                                       "<LabelElement Id=\"A\" Label=\"second\"/>"
-                                                       "<LabelElement Id=\"b\" Label=\"third\"/>"))));
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
-    QCOMPARE(group->GetChildCount(), 3);
-    QCOMPARE(group->GetChild(0)->GetId(), QStringLiteral("a"));
-    QCOMPARE(group->GetChild(1)->GetId(), QString());
-    QCOMPARE(group->GetChild(2)->GetId(), QStringLiteral("b"));
-    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("a")))->GetLabel(),
-             QStringLiteral("first"));
+    QTest::addColumn<QString>("children");
+    QTest::addColumn<bool>("loads");
+    // Per child of the group: class, id and label.
+    QTest::addColumn<QString>("shape");
 
-    // A later load that reuses a name leaves it with its first owner.
-    QVERIFY(
-        editor.LoadUI(QStringLiteral("<E><PageElement><LabelElement Id=\"b\" Label=\"again\"/></PageElement></E>")));
-    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("b")))->GetLabel(),
-             QStringLiteral("third"));
-}
-
-void tst_PropertyEditor::unknownAndListTagsAreSkipped()
-{
-    PropertyEditor editor;
-    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<ListElement Id=\"list\"/><Spinner Id=\"s\"/>"
-                                                       "<TextBoxElement Id=\"t\"/><PageElement Id=\"p\"/>"))));
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
-    QCOMPARE(group->GetChildCount(), 1);
-    QVERIFY(qobject_cast<TextBoxElement*>(group->GetChild(0)));
-    QVERIFY(!editor.FindElement(QStringLiteral("list")));
-}
-
-void tst_PropertyEditor::failingChildStopsTheLoad()
-{
-    PropertyEditor editor;
-    QVERIFY(!editor.LoadUI(GroupDocument(QStringLiteral("<LabelElement Id=\"before\"/>"
-                                                        "<StrictElement Id=\"strict\"/>"
-                                                        "<LabelElement Id=\"after\"/>"))));
+    QTest::newRow("duplicate id loses its name")
+        << "<LabelElement Id=\"a\" Label=\"first\"/><LabelElement Id=\"A\" Label=\"second\"/>"
+           "<LabelElement Id=\"b\" Label=\"third\"/>"
+        << true << "LabelElement:a:first LabelElement::second LabelElement:b:third";
+    QTest::newRow("unknown, list and page tags are skipped")
+        << "<ListElement Id=\"list\"/><Spinner Id=\"s\"/><TextBoxElement Id=\"t\"/><PageElement Id=\"p\"/>" << true
+        << "TextBoxElement:t:";
     // What loaded before the failure stays.
-    QVERIFY(editor.FindElement(QStringLiteral("before")));
-    QVERIFY(editor.FindElement(QStringLiteral("strict")));
-    QVERIFY(!editor.FindElement(QStringLiteral("after")));
-
-    PropertyEditor other;
-    QVERIFY(other.LoadUI(GroupDocument(QStringLiteral("<StrictElement Id=\"strict\" Required=\"yes\" Label=\"S\"/>"))));
-    auto* strict = qobject_cast<StrictElement*>(other.FindElement(QStringLiteral("strict")));
-    QVERIFY(strict);
-    QCOMPARE(strict->msRequired, QStringLiteral("yes"));
-    QCOMPARE(strict->GetLabel(), QStringLiteral("S"));
+    QTest::newRow("failing child stops the load")
+        << "<LabelElement Id=\"before\"/><StrictElement Id=\"strict\"/><LabelElement Id=\"after\"/>" << false
+        << "LabelElement:before: StrictElement:strict:";
+    QTest::newRow("foreign element reads its own attribute")
+        << "<StrictElement Id=\"strict\" Required=\"yes\" Label=\"S\"/>" << true << "StrictElement:strict:S";
 }
 
-void tst_PropertyEditor::missingPageFails()
+void tst_PropertyEditor::loadedChildren()
 {
+    QFETCH(QString, children);
+    QFETCH(bool, loads);
+    QFETCH(QString, shape);
+
     PropertyEditor editor;
-    QVERIFY(!editor.LoadUI(QStringLiteral("<Editor LabelColumnWidth=\"80\"><Page/></Editor>")));
-    // The widths before the page were read all the same.
-    QCOMPARE(editor.GetColumnWidth(0), 80);
+    QCOMPARE(editor.LoadUI(GroupDocument(children)), loads);
+    auto* group = Find<GroupElement>(editor, "g");
+    QStringList actual;
+    for (int i = 0; i < group->GetChildCount(); ++i) {
+        PropertyEditorElement* child = group->GetChild(i);
+        const QString className =
+            QString::fromLatin1(child->metaObject()->className()).section(QStringLiteral("::"), -1);
+        actual.append(QStringList{className, child->GetId(), child->GetLabel()}.join(QLatin1Char(':')));
+        if (!child->GetId().isEmpty())
+            QCOMPARE(editor.FindElement(child->GetId()), child);
+    }
+    QCOMPARE(actual.join(QLatin1Char(' ')), shape);
+    QVERIFY(!editor.FindElement(QStringLiteral("list")));
+    QVERIFY(!editor.FindElement(QStringLiteral("after")));
 }
 
 void tst_PropertyEditor::malformedXmlFailsSilently()
@@ -380,58 +361,36 @@ void tst_PropertyEditor::malformedXmlFailsSilently()
     // No message box came up.
     QCOMPARE(QApplication::topLevelWidgets(), QWidgetList{&editor});
     QCOMPARE(editor.GetPage()->GetChildCount(), 0);
-}
 
-void tst_PropertyEditor::secondLoadAddsToPage()
-{
-    PropertyEditor editor;
-    editor.resize(400, 300);
-    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" LabelPlacement=\"Left\"/>"))));
-    Build(editor);
-    QWidget* firstGroupWidget = editor.GetPage()->GetChild(0)->GetWidget();
-    QVERIFY(firstGroupWidget);
-
-    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"h\"><CheckBoxElement Id=\"c\"/>"
-                                         "</GroupElement></PageElement></E>")));
-    QCOMPARE(editor.GetPage()->GetChildCount(), 2);
-    Build(editor);
-    // The first group's widget survives; the new one joins the page.
-    QCOMPARE(editor.GetPage()->GetChild(0)->GetWidget(), firstGroupWidget);
-    auto* layout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->indexOf(editor.GetPage()->GetChild(1)->GetWidget()), 1);
-    QVERIFY(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("c")))->GetWidget());
+    QVERIFY(!editor.LoadUI(QStringLiteral("<Editor LabelColumnWidth=\"80\"><Page/></Editor>")));
+    // The widths before the missing page were read all the same.
+    QCOMPARE(editor.GetColumnWidth(0), 80);
 }
 
 void tst_PropertyEditor::translatedTexts()
 {
     QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    QFile file(folder.filePath(QStringLiteral("editortexts.xlf")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"(<?xml version="1.0"?>
+    const QString texts = WriteFile(folder, "editortexts.xlf", R"(<?xml version="1.0"?>
 <xliff version="1.2"><file source-language="en" target-language="de"><body>
 <trans-unit id="title"><source>Title</source><target>Titel</target></trans-unit>
 <trans-unit id="tip"><source>Tip</source><target>Hinweis</target></trans-unit>
 </body></file></xliff>)");
-    file.close();
+    QVERIFY(!texts.isEmpty());
 
     const QString document = GroupDocument(
         QStringLiteral("<LabelElement Id=\"l\" Label=\" TR ( title ) \" Tooltip=\"tr(tip)\" Text=\"tr(missing)\"/>"
                        "<LabelElement Id=\"m\" Label=\"tr(title) and more\"/>"));
     PropertyEditor translated;
-    QVERIFY(translated.LoadUI(document, file.fileName()));
-    auto* label = qobject_cast<PropertyEditorElement*>(translated.FindElement(QStringLiteral("l")));
+    QVERIFY(translated.LoadUI(document, texts));
+    auto* label = Find(translated, "l");
     QCOMPARE(label->GetLabel(), QStringLiteral("Titel"));
     QCOMPARE(label->GetTooltip(), QStringLiteral("Hinweis"));
     QCOMPARE(label->GetValue(QStringLiteral("Text")).toString(), QStringLiteral("missing"));
-    QCOMPARE(qobject_cast<PropertyEditorElement*>(translated.FindElement(QStringLiteral("m")))->GetLabel(),
-             QStringLiteral("tr(title) and more"));
+    QCOMPARE(Find(translated, "m")->GetLabel(), QStringLiteral("tr(title) and more"));
 
     PropertyEditor untranslated;
     QVERIFY(untranslated.LoadUI(document));
-    QCOMPARE(qobject_cast<PropertyEditorElement*>(untranslated.FindElement(QStringLiteral("l")))->GetLabel(),
-             QStringLiteral("title"));
+    QCOMPARE(Find(untranslated, "l")->GetLabel(), QStringLiteral("title"));
     TranslationTable::ClearCache();
 }
 
@@ -463,6 +422,10 @@ void tst_PropertyEditor::gridPlacement_data()
     QTest::newRow("explicit column with span")
         << "<TextBoxElement/><LabelElement Column=\"1\" ColumnSpan=\"2\"/>"
         << QList<QList<int>>{{0, 1, 1, 1, -2, -2, 0, 0}, {0, 1, 1, 2, -2, -2, 0, 0}};
+    // No row before it to share: row 0 rather than a row -1 that would break the grid.
+    QTest::newRow("explicit column on the first child")
+        << "<CheckBoxElement Column=\"2\" LabelPlacement=\"Left\" Label=\"no label here\"/>"
+        << QList<QList<int>>{{0, 2, 1, 1, -2, -2, 0, 0}};
 }
 
 void tst_PropertyEditor::gridPlacement()
@@ -474,7 +437,7 @@ void tst_PropertyEditor::gridPlacement()
     editor.resize(500, 400);
     QVERIFY(editor.LoadUI(GroupDocument(children)));
     Build(editor);
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    auto* group = Find<GroupElement>(editor, "g");
     QGridLayout* grid = group->GetGridLayout();
     QVERIFY(grid);
     QCOMPARE(group->GetChildCount(), cells.size());
@@ -491,22 +454,6 @@ void tst_PropertyEditor::gridPlacement()
         if (child->GetLabelWidget())
             QCOMPARE(child->GetLabelWidget()->parentWidget(), grid->parentWidget());
     }
-}
-
-void tst_PropertyEditor::explicitColumnOnFirstChild()
-{
-    // The first child with an explicit column has no row before it to share:
-    // it takes row 0 rather than a row -1 that would break the grid.
-    PropertyEditor editor;
-    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<CheckBoxElement Id=\"c\" Column=\"2\" "
-                                                       "LabelPlacement=\"Left\" Label=\"no label here\"/>"))));
-    Build(editor);
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
-    auto* check = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("c")));
-    const Cell cell = CellOf(group->GetGridLayout(), check->GetWidget());
-    QCOMPARE(cell.row, 0);
-    QCOMPARE(cell.column, 2);
-    QVERIFY(!check->GetLabelWidget());
     QVERIFY(group->GetWidget()->sizeHint().isValid());
 }
 
@@ -516,20 +463,20 @@ void tst_PropertyEditor::controlIndentWrapsControl()
     QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" ControlIndent=\"16\"/>"
                                                        "<TextBoxElement Id=\"u\" ControlIndent=\"0\"/>"))));
     Build(editor);
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    auto* group = Find<GroupElement>(editor, "g");
     QGridLayout* grid = group->GetGridLayout();
-    QWidget* indented = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+    QWidget* indented = Find(editor, "t")->GetWidget();
     QWidget* wrapper = indented->parentWidget();
     QVERIFY(wrapper != grid->parentWidget());
     QCOMPARE(wrapper->layout()->contentsMargins().left(), 16);
     QVERIFY(qobject_cast<QVBoxLayout*>(wrapper->layout()));
     QCOMPARE(CellOf(grid, wrapper).row, 0);
     QCOMPARE(CellOf(grid, wrapper).column, 1);
-    QWidget* plain = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("u")))->GetWidget();
+    QWidget* plain = Find(editor, "u")->GetWidget();
     QCOMPARE(plain->parentWidget(), grid->parentWidget());
 
     // Hiding the element hides its wrapper, so no empty margin stays behind.
-    qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->SetVisible(false);
+    Find(editor, "t")->SetVisible(false);
     QVERIFY(indented->isHidden());
     QVERIFY(wrapper->isHidden());
 }
@@ -541,7 +488,7 @@ void tst_PropertyEditor::columnKeepersAndStretch()
                                         QStringLiteral("<ColumnWidths><W Width=\"90\"/><W Width=\"0\"/>"
                                                        "<W Width=\"60\"/></ColumnWidths>"))));
     Build(editor);
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    auto* group = Find<GroupElement>(editor, "g");
     QGridLayout* grid = group->GetGridLayout();
     QCOMPARE(grid->columnMinimumWidth(0), 90);
     QCOMPARE(grid->columnStretch(0), 0);
@@ -562,50 +509,44 @@ void tst_PropertyEditor::columnKeepersAndStretch()
         }
     }
     QCOMPARE(keepers, 2);
+}
 
-    // A group without children keeps no columns.
-    PropertyEditor empty;
-    QVERIFY(empty.LoadUI(GroupDocument(QString())));
-    Build(empty);
-    QCOMPARE(qobject_cast<GroupElement*>(empty.FindElement(QStringLiteral("g")))->GetGridLayout()->count(), 0);
+void tst_PropertyEditor::dividerMarks_data()
+{
+    QTest::addColumn<QString>("children");
+    // Per nested group: its mark (N none, A above, B below), then its column (- divider, R rollout).
+    QTest::addColumn<QString>("groups");
+
+    QTest::newRow("groups among other elements")
+        << "<GroupElement/><TextBoxElement/><GroupElement/><GroupElement/><CheckBoxElement/>"
+        << "NR A-R BR-";
+    QTest::newRow("last child is a group") << "<TextBoxElement/><GroupElement/>"
+                                           << "A-R";
 }
 
 void tst_PropertyEditor::dividerMarks()
 {
+    QFETCH(QString, children);
     PropertyEditor editor;
-    QVERIFY(editor.LoadUI(GroupDocument(QStringLiteral("<GroupElement Id=\"first\"/><TextBoxElement/>"
-                                                       "<GroupElement Id=\"middle\"/><GroupElement Id=\"last\"/>"
-                                                       "<CheckBoxElement/>"))));
+    QVERIFY(editor.LoadUI(GroupDocument(children)));
     Build(editor);
-    auto mark = [&editor](const char* id) {
-        return qobject_cast<GroupElement*>(editor.FindElement(QString::fromLatin1(id)))->GetDividerMark();
-    };
-    QCOMPARE(mark("first"), int(GroupElement::NoDivider));
-    QCOMPARE(mark("middle"), int(GroupElement::DividerAbove));
-    QCOMPARE(mark("last"), int(GroupElement::DividerBelow));
-
-    auto dividers = [&editor](const char* id) {
-        QWidget* widget = qobject_cast<GroupElement*>(editor.FindElement(QString::fromLatin1(id)))->GetWidget();
-        auto* layout = qobject_cast<QVBoxLayout*>(widget->layout());
-        QString shape;
-        for (int i = 0; i < layout->count(); ++i) {
-            QWidget* item = layout->itemAt(i)->widget();
-            shape += qobject_cast<Divider*>(item)            ? QLatin1Char('-')
-                     : qobject_cast<RolloutContainer*>(item) ? QLatin1Char('R')
-                                                             : QLatin1Char('?');
+    GroupElement* outer = Find<GroupElement>(editor, "g");
+    QStringList groups;
+    for (int i = 0; i < outer->GetChildCount(); ++i) {
+        auto* group = qobject_cast<GroupElement*>(outer->GetChild(i));
+        if (!group)
+            continue;
+        QString shape(QLatin1Char("NAB"[qBound(0, group->GetDividerMark(), 2)]));
+        QLayout* layout = group->GetWidget()->layout();
+        for (int item = 0; item < layout->count(); ++item) {
+            QWidget* widget = layout->itemAt(item)->widget();
+            shape += qobject_cast<Divider*>(widget)            ? QLatin1Char('-')
+                     : qobject_cast<RolloutContainer*>(widget) ? QLatin1Char('R')
+                                                               : QLatin1Char('?');
         }
-        return shape;
-    };
-    QCOMPARE(dividers("first"), QStringLiteral("R"));
-    QCOMPARE(dividers("middle"), QStringLiteral("-R"));
-    QCOMPARE(dividers("last"), QStringLiteral("R-"));
-
-    // When the last child is a group, the groups keep their marks above.
-    PropertyEditor other;
-    QVERIFY(other.LoadUI(GroupDocument(QStringLiteral("<TextBoxElement/><GroupElement Id=\"x\"/>"))));
-    Build(other);
-    QCOMPARE(qobject_cast<GroupElement*>(other.FindElement(QStringLiteral("x")))->GetDividerMark(),
-             int(GroupElement::DividerAbove));
+        groups.append(shape);
+    }
+    QTEST(groups.join(QLatin1Char(' ')), "groups");
 }
 
 void tst_PropertyEditor::buildIsDeferredToPaint()
@@ -623,12 +564,25 @@ void tst_PropertyEditor::buildIsDeferredToPaint()
     QCOMPARE(layout->indexOf(page), 0);
 
     // Nothing is rebuilt until something changes.
-    QWidget* text = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+    QWidget* text = Find(editor, "t")->GetWidget();
+    QWidget* groupWidget = Find(editor, "g")->GetWidget();
     Build(editor);
-    QCOMPARE(qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget(), text);
+    QCOMPARE(Find(editor, "t")->GetWidget(), text);
+
+    // A second load adds to the page; a name it reuses stays with its first owner.
+    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"h\"><CheckBoxElement Id=\"c\"/>"
+                                         "<LabelElement Id=\"t\"/></GroupElement></PageElement></E>")));
+    QCOMPARE(editor.GetPage()->GetChildCount(), 2);
+    QVERIFY(Find<TextBoxElement>(editor, "t"));
+    Build(editor);
+    QCOMPARE(Find(editor, "g")->GetWidget(), groupWidget);
+    auto* pageLayout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
+    QVERIFY(pageLayout);
+    QCOMPARE(pageLayout->indexOf(Find(editor, "h")->GetWidget()), 1);
+    QVERIFY(Find(editor, "c")->GetWidget());
 
     // Deleting an element removes its widget at once and replaces the rest at the next paint.
-    auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+    auto* group = Find<GroupElement>(editor, "g");
     QPointer<QWidget> watched = text;
     group->DeleteChild(0);
     QVERIFY(watched.isNull());
@@ -651,8 +605,8 @@ void tst_PropertyEditor::longPagesBuildInSlices()
     QVERIFY(!editor.IsBuilt());
     Build(editor);
     // What shows first is built at the first paint, the rest right after it.
-    auto* first = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t0")));
-    auto* last = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t59")));
+    auto* first = Find(editor, "t0");
+    auto* last = Find(editor, "t59");
     QVERIFY(first->GetWidget());
     QVERIFY(!last->GetWidget());
     QVERIFY(!editor.IsBuilt());
@@ -667,22 +621,18 @@ void tst_PropertyEditor::longPagesBuildInSlices()
     QVERIFY(other.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(groups)));
     other.BuildNow();
     QVERIFY(other.IsBuilt());
-    QVERIFY(qobject_cast<PropertyEditorElement*>(other.FindElement(QStringLiteral("t59")))->GetWidget());
+    QVERIFY(Find(other, "t59")->GetWidget());
 }
 
 void tst_PropertyEditor::loadFileWithElementPath()
 {
     QTemporaryDir folder;
-    const QString fileName = folder.filePath(QStringLiteral("definitions.xml"));
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"(<Definitions>
+    const QString fileName = WriteFile(folder, "definitions.xml", R"(<Definitions>
   <Material LabelColumnWidth="77">
     <PageElement><GroupElement Id="m"><TextBoxElement Id="name"/></GroupElement></PageElement>
   </Material>
   <Light><PageElement><CheckBoxElement Id="on"/></PageElement></Light>
 </Definitions>)");
-    file.close();
 
     PropertyEditor editor;
     QVERIFY(editor.LoadUIFile(fileName, QStringLiteral("Material"), QString()));
@@ -693,47 +643,33 @@ void tst_PropertyEditor::loadFileWithElementPath()
     QVERIFY(editor.FindElement(QStringLiteral("name")));
     QVERIFY(!editor.FindElement(QStringLiteral("on")));
 
+    // A file that was open is recorded even when the path in it is missing.
     PropertyEditor absolute;
+    QVERIFY(!absolute.LoadUIFile(fileName, QStringLiteral("Nowhere"), QString()));
+    QCOMPARE(absolute.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
     QVERIFY(absolute.LoadUIFile(fileName, QStringLiteral("/Definitions/Light"), QString()));
     QVERIFY(absolute.FindElement(QStringLiteral("on")));
 
-    // The whole document has no PageElement of its own.
+    // A missing file fails silently; the whole document has no PageElement of its own.
     PropertyEditor whole;
+    mMessages.clear();
+    QVERIFY(!whole.LoadUIFile(folder.filePath(QStringLiteral("missing.xml")), QString(), QString()));
+    QVERIFY(whole.GetUIFile().isEmpty());
+    QVERIFY(mMessages.isEmpty());
     QVERIFY(!whole.LoadUIFile(fileName, QString(), QString()));
     QCOMPARE(whole.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
-}
-
-void tst_PropertyEditor::loadFileFailures()
-{
-    QTemporaryDir folder;
-    PropertyEditor editor;
-    QVERIFY(!editor.LoadUIFile(folder.filePath(QStringLiteral("missing.xml")), QString(), QString()));
-    QVERIFY(editor.GetUIFile().isEmpty());
-    QVERIFY(mMessages.isEmpty());
-
-    const QString fileName = folder.filePath(QStringLiteral("ok.xml"));
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<Root><PageElement/></Root>");
-    file.close();
-    QVERIFY(!editor.LoadUIFile(fileName, QStringLiteral("Nowhere"), QString()));
-    // The file was open: it is recorded even though the path is missing.
-    QCOMPARE(editor.GetUIFile(), QFileInfo(fileName).absoluteFilePath());
-    QVERIFY(editor.LoadUIFile(fileName, QString(), QString()));
 }
 
 void tst_PropertyEditor::labelColumnDragIsRemembered()
 {
     QTemporaryDir folder;
-    const QString fileName = folder.filePath(QStringLiteral("drag.xml"));
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
     // The control column stretches, so the label column is as wide as set.
-    file.write(GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" Label=\"Name\" LabelPlacement=\"Left\"/>"),
-                             QStringLiteral("LabelColumnWidth=\"100\""),
-                             QStringLiteral("<ColumnWidths><W/><W Width=\"0\"/></ColumnWidths>"))
-                   .toUtf8());
-    file.close();
+    const QString fileName =
+        WriteFile(folder, "drag.xml",
+                  GroupDocument(QStringLiteral("<TextBoxElement Id=\"t\" Label=\"Name\" LabelPlacement=\"Left\"/>"),
+                                QStringLiteral("LabelColumnWidth=\"100\""),
+                                QStringLiteral("<ColumnWidths><W/><W Width=\"0\"/></ColumnWidths>"))
+                      .toUtf8());
 
     {
         PropertyEditor editor;
@@ -742,9 +678,9 @@ void tst_PropertyEditor::labelColumnDragIsRemembered()
         editor.show();
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
         QTRY_VERIFY(editor.GetPage()->GetWidget());
-        auto* group = qobject_cast<GroupElement*>(editor.FindElement(QStringLiteral("g")));
+        auto* group = Find<GroupElement>(editor, "g");
         QWidget* gridWidget = group->GetGridLayout()->parentWidget();
-        QWidget* text = qobject_cast<PropertyEditorElement*>(editor.FindElement(QStringLiteral("t")))->GetWidget();
+        QWidget* text = Find(editor, "t")->GetWidget();
         QTRY_VERIFY(text->isVisible() && text->x() > 100);
         const int spacing = group->GetGridLayout()->horizontalSpacing();
         // The controls start one spacing right of the label column.
@@ -779,36 +715,28 @@ void tst_PropertyEditor::labelColumnDragIsRemembered()
 void tst_PropertyEditor::namespaceUris_data()
 {
     QTest::addColumn<QString>("uri");
-    QTest::addColumn<bool>("valid");
-    QTest::addColumn<QString>("ns");
-    QTest::addColumn<QString>("module");
+    // Namespace and module, or nothing when the text is refused.
+    QTest::addColumn<QStringList>("parts");
 
-    QTest::newRow("library") << "namespace=Kavrel::UICore;module=KvUICore" << true << "Kavrel::UICore"
-                             << "KvUICore";
-    QTest::newRow("keys ignore case and blanks") << " NameSpace =Acme;; MODULE=AcmeElements;" << true << "Acme"
-                                                 << "AcmeElements";
-    QTest::newRow("one part") << "namespace=Acme" << false << ""
-                              << "";
-    QTest::newRow("three parts") << "namespace=A;module=B;extra=C" << false << ""
-                                 << "";
-    QTest::newRow("swapped") << "module=B;namespace=A" << false << ""
-                             << "";
-    QTest::newRow("empty value") << "namespace=;module=B" << false << ""
-                                 << "";
-    QTest::newRow("no equals") << "namespace;module=B" << false << ""
-                               << "";
+    QTest::newRow("library") << "namespace=Kavrel::UICore;module=KvUICore"
+                             << QStringList{QStringLiteral("Kavrel::UICore"), QStringLiteral("KvUICore")};
+    QTest::newRow("keys ignore case and blanks") << " NameSpace =Acme;; MODULE=AcmeElements;"
+                                                 << QStringList{QStringLiteral("Acme"), QStringLiteral("AcmeElements")};
+    QTest::newRow("one part") << "namespace=Acme" << QStringList();
+    QTest::newRow("three parts") << "namespace=A;module=B;extra=C" << QStringList();
+    QTest::newRow("swapped") << "module=B;namespace=A" << QStringList();
+    QTest::newRow("empty value") << "namespace=;module=B" << QStringList();
+    QTest::newRow("no equals") << "namespace;module=B" << QStringList();
 }
 
 void tst_PropertyEditor::namespaceUris()
 {
     QFETCH(QString, uri);
-    QFETCH(bool, valid);
+    QFETCH(QStringList, parts);
     Internal::ElementNamespace ns;
-    QCOMPARE(Internal::ElementTypeRegistry::ParseNamespaceUri(uri, &ns), valid);
-    if (valid) {
-        QTEST(ns.msNamespace, "ns");
-        QTEST(ns.msModule, "module");
-    }
+    QCOMPARE(Internal::ElementTypeRegistry::ParseNamespaceUri(uri, &ns), !parts.isEmpty());
+    if (!parts.isEmpty())
+        QCOMPARE((QStringList{ns.msNamespace, ns.msModule}), parts);
 }
 
 void tst_PropertyEditor::moduleNamesWithPathsAreRefused_data()

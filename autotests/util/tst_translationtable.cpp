@@ -49,14 +49,12 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
-    void readsTransUnits();
-    void readsXliff2Units();
+    void readsUnitsOfBothVersions();
     void malformedFileLeavesTableEmpty();
     void renamingEmptiesTable();
     void fileFoundByNameAndLocale_data();
     void fileFoundByNameAndLocale();
     void cacheIsKeyedByLowerCaseNameAndFollowsLocale();
-    void filerTranslatesThroughCachedTable();
 
 private:
     QTemporaryDir mDir;
@@ -75,7 +73,7 @@ void tst_TranslationTable::cleanup()
     Internal::SetDiagnosticHook({});
 }
 
-void tst_TranslationTable::readsTransUnits()
+void tst_TranslationTable::readsUnitsOfBothVersions()
 {
     const QString path = mDir.filePath(QStringLiteral("units.xlf"));
     QVERIFY(writeFile(
@@ -103,19 +101,16 @@ void tst_TranslationTable::readsTransUnits()
     QCOMPARE(table.GetText(QStringLiteral("general")), QStringLiteral("general"));
     QCOMPARE(table.GetText(QStringLiteral("Height")), QStringLiteral("Höhe"));
     QCOMPARE(table.GetCount(), 5);
-}
 
-void tst_TranslationTable::readsXliff2Units()
-{
-    const QString path = mDir.filePath(QStringLiteral("units2.xlf"));
-    QVERIFY(writeFile(path, QStringLiteral("<xliff version=\"2.0\" xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" "
-                                           "srcLang=\"en\" trgLang=\"de\"><file id=\"f\">"
-                                           "<unit id=\"Greeting\"><segment><source>Hello.</source>"
-                                           "<target>Hallo.</target></segment><segment><source> Bye.</source>"
-                                           "<target> Tschüss.</target></segment></unit>"
-                                           "</file></xliff>")));
-    TranslationTable table;
-    QVERIFY(table.LoadFile(path));
+    // Version 2 joins the segments of a unit.
+    const QString path2 = mDir.filePath(QStringLiteral("units2.xlf"));
+    QVERIFY(writeFile(path2, QStringLiteral("<xliff version=\"2.0\" xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" "
+                                            "srcLang=\"en\" trgLang=\"de\"><file id=\"f\">"
+                                            "<unit id=\"Greeting\"><segment><source>Hello.</source>"
+                                            "<target>Hallo.</target></segment><segment><source> Bye.</source>"
+                                            "<target> Tschüss.</target></segment></unit>"
+                                            "</file></xliff>")));
+    QVERIFY(table.LoadFile(path2));
     QCOMPARE(table.GetText(QStringLiteral("Greeting")), QStringLiteral("Hallo. Tschüss."));
 }
 
@@ -194,6 +189,14 @@ void tst_TranslationTable::cacheIsKeyedByLowerCaseNameAndFollowsLocale()
     QCOMPARE(TranslationTable::GetCached(QStringLiteral("CACHED")), table);
     QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Ja"));
     QVERIFY(!TranslationTable::GetCached(QString()));
+    // A filer translates through a cached table whose file name differs in case.
+    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Page_de-DE.xlf")),
+                      xliff(unit(QStringLiteral("Group.Title"), QStringLiteral("Gruppe")))));
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root Label=\"tr( Group.Title )\" Other=\"tr(Missing)\"/>")));
+    filer.SetTranslationTable(TranslationTable::GetCached(QStringLiteral("page")));
+    QCOMPARE(filer.ReadString(QStringLiteral("Label")), QStringLiteral("Gruppe"));
+    QCOMPARE(filer.ReadString(QStringLiteral("Other")), QStringLiteral("Missing"));
 
     setLocale(QStringLiteral("fr-FR"));
     QCOMPARE(TranslationTable::GetCached(QStringLiteral("cached")), table);
@@ -202,18 +205,6 @@ void tst_TranslationTable::cacheIsKeyedByLowerCaseNameAndFollowsLocale()
     setLocale(QStringLiteral("ja-JP"));
     TranslationTable::GetCached(QStringLiteral("Cached"));
     QCOMPARE(table->GetText(QStringLiteral("Yes")), QStringLiteral("Yes"));
-}
-
-void tst_TranslationTable::filerTranslatesThroughCachedTable()
-{
-    QVERIFY(writeFile(mDir.filePath(QStringLiteral("Page_de-DE.xlf")),
-                      xliff(unit(QStringLiteral("Group.Title"), QStringLiteral("Gruppe")))));
-    setLocale(QStringLiteral("de-DE"));
-    XmlFiler filer;
-    QVERIFY(filer.Parse(QStringLiteral("<Root Label=\"tr( Group.Title )\" Other=\"tr(Missing)\"/>")));
-    filer.SetTranslationTable(TranslationTable::GetCached(QStringLiteral("page")));
-    QCOMPARE(filer.ReadString(QStringLiteral("Label")), QStringLiteral("Gruppe"));
-    QCOMPARE(filer.ReadString(QStringLiteral("Other")), QStringLiteral("Missing"));
 }
 
 QTEST_MAIN(tst_TranslationTable)

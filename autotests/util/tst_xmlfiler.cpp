@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
@@ -25,7 +26,7 @@ const char* const kNavigationDocument = "<Root id=\"root\">"
 const XmlWordTable& alignmentTable()
 {
     static const XmlWordTable table = {
-        {0x1, QStringLiteral("AlignLeft")},  {0x2, QStringLiteral("AlignRight")},
+        {0x1, QStringLiteral("AlignLeft")},    {0x2, QStringLiteral("AlignRight")},
         {0x4, QStringLiteral("AlignHCenter")}, {0x20, QStringLiteral("AlignTop")},
         {0x40, QStringLiteral("AlignBottom")}, {0x80, QStringLiteral("AlignVCenter")},
         {0x84, QStringLiteral("AlignCenter")},
@@ -35,23 +36,51 @@ const XmlWordTable& alignmentTable()
 
 const XmlWordTable& placementTable()
 {
-    static const XmlWordTable table = {
-        {0, QStringLiteral("Default")}, {1, QStringLiteral("Left")}, {2, QStringLiteral("FullRow")},
-        {3, QStringLiteral("Control")}};
+    static const XmlWordTable table = {{0, QStringLiteral("Default")},
+                                       {1, QStringLiteral("Left")},
+                                       {2, QStringLiteral("FullRow")},
+                                       {3, QStringLiteral("Control")}};
     return table;
 }
 
-// Collects the diagnostic texts written while it lives.
-class DiagnosticRecorder
+bool writeFile(const QString& path, const QByteArray& content)
 {
-public:
-    DiagnosticRecorder()
-    {
-        Internal::SetDiagnosticHook([this](const QString& text) { mTexts.append(text); });
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+// The typed reader and writer that match the value's type.
+QVariant readTyped(const XmlFiler& filer, const QString& name, const QVariant& defaultValue)
+{
+    switch (defaultValue.metaType().id()) {
+    case QMetaType::Int:
+        return filer.ReadInt(name, defaultValue.toInt());
+    case QMetaType::UInt:
+        return filer.ReadUInt(name, defaultValue.toUInt());
+    case QMetaType::Long:
+        return QVariant::fromValue(filer.ReadLong(name, defaultValue.value<long>()));
+    case QMetaType::ULong:
+        return QVariant::fromValue(filer.ReadULong(name, defaultValue.value<ulong>()));
+    case QMetaType::LongLong:
+        return filer.ReadLongLong(name, defaultValue.toLongLong());
+    case QMetaType::ULongLong:
+        return filer.ReadULongLong(name, defaultValue.toULongLong());
+    case QMetaType::Double:
+        return filer.ReadDouble(name, defaultValue.toDouble());
+    case QMetaType::Bool:
+        return filer.ReadBool(name, defaultValue.toBool());
+    case QMetaType::QRect:
+        return filer.ReadRect(name, defaultValue.toRect());
+    case QMetaType::QSize:
+        return filer.ReadSize(name, defaultValue.toSize());
+    case QMetaType::QPoint:
+        return filer.ReadPoint(name, defaultValue.toPoint());
+    case QMetaType::QDateTime:
+        return filer.ReadDateTime(name, defaultValue.toDateTime());
+    default:
+        return filer.ReadString(name, defaultValue.toString());
     }
-    ~DiagnosticRecorder() { Internal::SetDiagnosticHook({}); }
-    QStringList mTexts;
-};
+}
 
 // Two complete versions of a document, told apart by their element counts.
 QString versionedDocument(int version)
@@ -75,10 +104,7 @@ class tst_XmlFiler : public QObject
 private Q_SLOTS:
     void initTestCase();
 
-    void openMissingFileFailsSilently();
-    void openUnreadableFileWritesMessage();
-    void openMalformedFileFails();
-    void parseSetsCursorToDocumentElement();
+    void openAndParseFailures();
 
     void goToPath_data();
     void goToPath();
@@ -95,15 +121,11 @@ private Q_SLOTS:
     void writersRoundTripThroughFile();
     void elementContentRoundTrips();
     void createPathAndRemove();
-    void insertFragment();
-    void outerXmlIsTheElementWithItsSubtree();
+    void fragmentsInAndOut();
     void savingKeepsEveryCharacter_data();
     void savingKeepsEveryCharacter();
 
-    void saveEmptyDocumentCreatesNoFile();
-    void openOrCreate();
-    void openOrCreateKeepsMalformedFile();
-    void saveIfModified();
+    void openOrCreateAndSave();
     void killedSaveNeverTruncatesFile();
 
 private:
@@ -125,51 +147,37 @@ void tst_XmlFiler::initTestCase()
     QVERIFY(mDir.isValid());
 }
 
-void tst_XmlFiler::openMissingFileFailsSilently()
+void tst_XmlFiler::openAndParseFailures()
 {
-    DiagnosticRecorder recorder;
+    QStringList messages;
+    Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
+    const auto unhook = qScopeGuard([] { Internal::SetDiagnosticHook({}); });
     XmlFiler filer;
+    // A missing file fails silently.
     QVERIFY(!filer.Open(mDir.filePath(QStringLiteral("missing.xml"))));
     QVERIFY(filer.GetFileName().isEmpty());
-    QVERIFY(recorder.mTexts.isEmpty());
-}
+    QVERIFY(messages.isEmpty());
 
-void tst_XmlFiler::openUnreadableFileWritesMessage()
-{
-    // A folder exists but can't be opened as a file.
-    const QString path = mDir.filePath(QStringLiteral("folder.xml"));
-    QVERIFY(QDir().mkpath(path));
-    DiagnosticRecorder recorder;
-    XmlFiler filer;
-    QVERIFY(!filer.Open(path));
-    QCOMPARE(recorder.mTexts.size(), 1);
-    QVERIFY2(recorder.mTexts.first().startsWith(QStringLiteral("XmlFiler: Failed to open file %1. ").arg(path)),
-             qPrintable(recorder.mTexts.first()));
-    QVERIFY(recorder.mTexts.first().contains(QRegularExpression(QStringLiteral("\\(Error code: \\d+\\)$"))));
-}
+    // A folder exists but can't be opened as a file: that is worth a message.
+    const QString folder = mDir.filePath(QStringLiteral("folder.xml"));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(!filer.Open(folder));
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().startsWith(QStringLiteral("XmlFiler: Failed to open file %1. ").arg(folder)),
+             qPrintable(messages.first()));
+    QVERIFY(messages.first().contains(QRegularExpression(QStringLiteral("\\(Error code: \\d+\\)$"))));
 
-void tst_XmlFiler::openMalformedFileFails()
-{
-    const QString path = mDir.filePath(QStringLiteral("malformed.xml"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<Root><Open></Root>");
-    file.close();
-    XmlFiler filer;
-    QVERIFY(!filer.Open(path));
+    const QString malformed = mDir.filePath(QStringLiteral("malformed.xml"));
+    QVERIFY(writeFile(malformed, "<Root><Open></Root>"));
+    QVERIFY(!filer.Open(malformed));
     QVERIFY(filer.ToString().isEmpty());
     QVERIFY(!filer.GoToDocumentElement());
-}
 
-void tst_XmlFiler::parseSetsCursorToDocumentElement()
-{
-    XmlFiler filer;
     QVERIFY(!filer.Parse(QStringLiteral("not xml")));
     QVERIFY(filer.Parse(QString::fromLatin1(kNavigationDocument)));
     QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("root"));
     QCOMPARE(filer.GetChildElementCount(), 2);
 }
-
 void tst_XmlFiler::goToPath_data()
 {
     QTest::addColumn<QString>("start");
@@ -243,102 +251,62 @@ void tst_XmlFiler::siblingsParentsAndRememberedPositions()
 
 void tst_XmlFiler::typedReaders_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<bool>("present");
+    // The default value's type picks the reader; a null text means the attribute is absent.
     QTest::addColumn<QString>("text");
     QTest::addColumn<QVariant>("defaultValue");
     QTest::addColumn<QVariant>("expected");
 
     const QVariant intDefault = QVariant(-7);
-    QTest::newRow("int absent") << "int" << false << "" << intDefault << intDefault;
-    QTest::newRow("int empty") << "int" << true << "" << intDefault << intDefault;
-    QTest::newRow("int malformed") << "int" << true << "12abc" << intDefault << intDefault;
-    QTest::newRow("int") << "int" << true << " -42 " << intDefault << QVariant(-42);
-    QTest::newRow("int hex") << "int" << true << "0x1F" << intDefault << QVariant(31);
-    QTest::newRow("int leading zero is decimal") << "int" << true << "010" << intDefault << QVariant(10);
-    QTest::newRow("int overflow") << "int" << true << "4294967296" << intDefault << intDefault;
-    QTest::newRow("uint negative") << "uint" << true << "-1" << QVariant(5u) << QVariant(5u);
-    QTest::newRow("uint max") << "uint" << true << "4294967295" << QVariant(5u) << QVariant(4294967295u);
-    QTest::newRow("long") << "long" << true << "-123456" << QVariant::fromValue(1L)
-                          << QVariant::fromValue(-123456L);
-    QTest::newRow("ulong") << "ulong" << true << "123456" << QVariant::fromValue(1UL)
-                           << QVariant::fromValue(123456UL);
-    QTest::newRow("longlong") << "longlong" << true << "-9223372036854775808" << QVariant(1LL)
+    QTest::newRow("int absent") << QString() << intDefault << intDefault;
+    QTest::newRow("int empty") << "" << intDefault << intDefault;
+    QTest::newRow("int malformed") << "12abc" << intDefault << intDefault;
+    QTest::newRow("int") << " -42 " << intDefault << QVariant(-42);
+    QTest::newRow("int hex") << "0x1F" << intDefault << QVariant(31);
+    QTest::newRow("int leading zero is decimal") << "010" << intDefault << QVariant(10);
+    QTest::newRow("int overflow") << "4294967296" << intDefault << intDefault;
+    QTest::newRow("uint negative") << "-1" << QVariant(5u) << QVariant(5u);
+    QTest::newRow("uint max") << "4294967295" << QVariant(5u) << QVariant(4294967295u);
+    QTest::newRow("long") << "-123456" << QVariant::fromValue(1L) << QVariant::fromValue(-123456L);
+    QTest::newRow("ulong") << "123456" << QVariant::fromValue(1UL) << QVariant::fromValue(123456UL);
+    QTest::newRow("longlong") << "-9223372036854775808" << QVariant(1LL)
                               << QVariant(std::numeric_limits<qlonglong>::min());
-    QTest::newRow("ulonglong") << "ulonglong" << true << "18446744073709551615" << QVariant(1ULL)
+    QTest::newRow("ulonglong") << "18446744073709551615" << QVariant(1ULL)
                                << QVariant(std::numeric_limits<qulonglong>::max());
-    QTest::newRow("double") << "double" << true << "2.5e-3" << QVariant(1.0) << QVariant(0.0025);
-    QTest::newRow("double comma is malformed") << "double" << true << "2,5" << QVariant(1.0) << QVariant(1.0);
-    QTest::newRow("double empty") << "double" << true << "" << QVariant(1.0) << QVariant(1.0);
-    QTest::newRow("bool True") << "bool" << true << "True" << QVariant(false) << QVariant(true);
-    QTest::newRow("bool lower false") << "bool" << true << "false" << QVariant(true) << QVariant(false);
-    QTest::newRow("bool malformed") << "bool" << true << "yes" << QVariant(true) << QVariant(true);
-    QTest::newRow("bool absent") << "bool" << false << "" << QVariant(true) << QVariant(true);
-    QTest::newRow("rect") << "rect" << true << "1, 2,30,40" << QVariant(QRect(9, 9, 9, 9))
-                          << QVariant(QRect(1, 2, 30, 40));
-    QTest::newRow("rect too short") << "rect" << true << "1,2,3" << QVariant(QRect(9, 9, 9, 9))
-                                    << QVariant(QRect(9, 9, 9, 9));
-    QTest::newRow("rect malformed part") << "rect" << true << "1,2,x,4" << QVariant(QRect(9, 9, 9, 9))
-                                         << QVariant(QRect(9, 9, 9, 9));
-    QTest::newRow("size") << "size" << true << "640,480" << QVariant(QSize()) << QVariant(QSize(640, 480));
-    QTest::newRow("size empty") << "size" << true << "" << QVariant(QSize(1, 1)) << QVariant(QSize(1, 1));
-    QTest::newRow("point") << "point" << true << "-3,4" << QVariant(QPoint()) << QVariant(QPoint(-3, 4));
-    QTest::newRow("point too long") << "point" << true << "1,2,3" << QVariant(QPoint(7, 7)) << QVariant(QPoint(7, 7));
-    const QDateTime fallback(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
-    QTest::newRow("datetime utc") << "datetime" << true << "2024-02-29T13:14:15.678Z" << QVariant(fallback)
+    QTest::newRow("double") << "2.5e-3" << QVariant(1.0) << QVariant(0.0025);
+    QTest::newRow("double comma is malformed") << "2,5" << QVariant(1.0) << QVariant(1.0);
+    QTest::newRow("double empty") << "" << QVariant(1.0) << QVariant(1.0);
+    QTest::newRow("bool True") << "True" << QVariant(false) << QVariant(true);
+    QTest::newRow("bool lower false") << "false" << QVariant(true) << QVariant(false);
+    QTest::newRow("bool malformed") << "yes" << QVariant(true) << QVariant(true);
+    const QVariant rectDefault(QRect(9, 9, 9, 9));
+    QTest::newRow("rect") << "1, 2,30,40" << rectDefault << QVariant(QRect(1, 2, 30, 40));
+    QTest::newRow("rect too short") << "1,2,3" << rectDefault << rectDefault;
+    QTest::newRow("rect malformed part") << "1,2,x,4" << rectDefault << rectDefault;
+    QTest::newRow("size") << "640,480" << QVariant(QSize()) << QVariant(QSize(640, 480));
+    QTest::newRow("size empty") << "" << QVariant(QSize(1, 1)) << QVariant(QSize(1, 1));
+    QTest::newRow("point") << "-3,4" << QVariant(QPoint()) << QVariant(QPoint(-3, 4));
+    QTest::newRow("point too long") << "1,2,3" << QVariant(QPoint(7, 7)) << QVariant(QPoint(7, 7));
+    const QVariant fallback(QDateTime(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC));
+    QTest::newRow("datetime utc") << "2024-02-29T13:14:15.678Z" << fallback
                                   << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 14, 15, 678), Qt::UTC));
-    QTest::newRow("datetime offset")
-        << "datetime" << true << "2024-02-29T15:14:15+02:00" << QVariant(fallback)
-        << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 14, 15), Qt::UTC));
-    QTest::newRow("datetime malformed") << "datetime" << true << "yesterday" << QVariant(fallback)
-                                        << QVariant(fallback);
-    QTest::newRow("string absent") << "string" << false << "" << QVariant(QStringLiteral("def"))
-                                   << QVariant(QStringLiteral("def"));
-    QTest::newRow("string empty is a value") << "string" << true << "" << QVariant(QStringLiteral("def"))
-                                             << QVariant(QString());
+    QTest::newRow("datetime offset") << "2024-02-29T15:14:15+02:00" << fallback
+                                     << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 14, 15), Qt::UTC));
+    QTest::newRow("datetime malformed") << "yesterday" << fallback << fallback;
+    const QVariant stringDefault(QStringLiteral("def"));
+    QTest::newRow("string absent") << QString() << stringDefault << stringDefault;
+    QTest::newRow("string empty is a value") << "" << stringDefault << QVariant(QString());
 }
 
 void tst_XmlFiler::typedReaders()
 {
-    QFETCH(QString, type);
-    QFETCH(bool, present);
     QFETCH(QString, text);
     QFETCH(QVariant, defaultValue);
-    QFETCH(QVariant, expected);
 
     XmlFiler filer;
     QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
-    if (present)
+    if (!text.isNull())
         QVERIFY(filer.WriteString(QStringLiteral("v"), text));
-    const QString name = QStringLiteral("v");
-    QVariant actual;
-    if (type == QLatin1String("int"))
-        actual = filer.ReadInt(name, defaultValue.toInt());
-    else if (type == QLatin1String("uint"))
-        actual = filer.ReadUInt(name, defaultValue.toUInt());
-    else if (type == QLatin1String("long"))
-        actual = QVariant::fromValue(filer.ReadLong(name, defaultValue.value<long>()));
-    else if (type == QLatin1String("ulong"))
-        actual = QVariant::fromValue(filer.ReadULong(name, defaultValue.value<ulong>()));
-    else if (type == QLatin1String("longlong"))
-        actual = filer.ReadLongLong(name, defaultValue.toLongLong());
-    else if (type == QLatin1String("ulonglong"))
-        actual = filer.ReadULongLong(name, defaultValue.toULongLong());
-    else if (type == QLatin1String("double"))
-        actual = filer.ReadDouble(name, defaultValue.toDouble());
-    else if (type == QLatin1String("bool"))
-        actual = filer.ReadBool(name, defaultValue.toBool());
-    else if (type == QLatin1String("rect"))
-        actual = filer.ReadRect(name, defaultValue.toRect());
-    else if (type == QLatin1String("size"))
-        actual = filer.ReadSize(name, defaultValue.toSize());
-    else if (type == QLatin1String("point"))
-        actual = filer.ReadPoint(name, defaultValue.toPoint());
-    else if (type == QLatin1String("datetime"))
-        actual = filer.ReadDateTime(name, defaultValue.toDateTime());
-    else
-        actual = filer.ReadString(name, defaultValue.toString());
-    QCOMPARE(actual, expected);
+    QTEST(readTyped(filer, QStringLiteral("v"), defaultValue), "expected");
 }
 
 void tst_XmlFiler::enumsAndFlags_data()
@@ -570,31 +538,26 @@ void tst_XmlFiler::createPathAndRemove()
     QVERIFY(!filer.GoToDocumentElement());
 }
 
-void tst_XmlFiler::insertFragment()
+void tst_XmlFiler::fragmentsInAndOut()
 {
     XmlFiler filer;
     QVERIFY(filer.Parse(QStringLiteral("<Root><Existing/></Root>")));
     filer.SetModified(false);
     QVERIFY(!filer.InsertFragment(QStringLiteral("<Broken>")));
     QVERIFY(!filer.IsModified());
-    QVERIFY(filer.InsertFragment(QStringLiteral("<A v=\"1\"/><B><C/></B>")));
+    QVERIFY(filer.InsertFragment(QStringLiteral("<A v=\"1\"/><B LabelColumnWidth=\"90\"><C/></B>")));
     QVERIFY(filer.IsModified());
     QCOMPARE(filer.GetChildElementCount(), 3);
-    QVERIFY(filer.GoToPath(QStringLiteral("B/C")));
     QVERIFY(filer.GoToPath(QStringLiteral("/Root/A")));
     QCOMPARE(filer.ReadInt(QStringLiteral("v")), 1);
-}
 
-void tst_XmlFiler::outerXmlIsTheElementWithItsSubtree()
-{
-    XmlFiler filer;
-    QVERIFY(filer.Parse(QStringLiteral("<Root><Def LabelColumnWidth=\"90\"><PageElement/></Def></Root>")));
-    QVERIFY(filer.GoToFirstChild());
+    // The outer XML is the element with its whole subtree.
+    QVERIFY(filer.GoToPath(QStringLiteral("/Root/B")));
     XmlFiler inner;
     QVERIFY(inner.Parse(filer.ReadOuterXml()));
-    QCOMPARE(inner.GetElementName(), QStringLiteral("Def"));
+    QCOMPARE(inner.GetElementName(), QStringLiteral("B"));
     QCOMPARE(inner.ReadInt(QStringLiteral("LabelColumnWidth")), 90);
-    QVERIFY(inner.GoToFirstChild(QStringLiteral("PageElement")));
+    QVERIFY(inner.GoToFirstChild(QStringLiteral("C")));
 }
 
 void tst_XmlFiler::savingKeepsEveryCharacter_data()
@@ -604,10 +567,10 @@ void tst_XmlFiler::savingKeepsEveryCharacter_data()
     QTest::addColumn<QByteArray>("expectedBytes");
     QTest::addColumn<QString>("expectedEncoding");
 
-    QTest::newRow("latin-1 text in latin-1") << "ISO-8859-1" << QString::fromUtf8("caf\u00e9") << QByteArray("caf\xe9")
-                                             << "ISO-8859-1";
-    QTest::newRow("euro sign in latin-1") << "ISO-8859-1" << QString::fromUtf8("5 \u20ac")
-                                          << QByteArray("5 \xe2\x82\xac") << "UTF-8";
+    QTest::newRow("latin-1 text in latin-1")
+        << "ISO-8859-1" << QString::fromUtf8("caf\u00e9") << QByteArray("caf\xe9") << "ISO-8859-1";
+    QTest::newRow("euro sign in latin-1")
+        << "ISO-8859-1" << QString::fromUtf8("5 \u20ac") << QByteArray("5 \xe2\x82\xac") << "UTF-8";
     QTest::newRow("unknown encoding") << "x-no-such-encoding" << QString::fromUtf8("\u00e9") << QByteArray("\xc3\xa9")
                                       << "UTF-8";
     QTest::newRow("utf-8") << "UTF-8" << QString::fromUtf8("\u0436\u20ac") << QByteArray("\xd0\xb6\xe2\x82\xac")
@@ -640,19 +603,17 @@ void tst_XmlFiler::savingKeepsEveryCharacter()
     QCOMPARE(reopened.ReadString(QStringLiteral("Text")), text);
 }
 
-void tst_XmlFiler::saveEmptyDocumentCreatesNoFile()
+void tst_XmlFiler::openOrCreateAndSave()
 {
-    const QString path = mDir.filePath(QStringLiteral("empty.xml"));
-    XmlFiler filer;
-    QVERIFY(!filer.Save(path));
-    QVERIFY(!QFile::exists(path));
-    QVERIFY(filer.Parse(QStringLiteral("<Root/>")));
-    QVERIFY(!filer.Save(mDir.filePath(QStringLiteral("no/such/folder/file.xml"))));
-    QVERIFY(!filer.Save());
-}
+    // Nothing to save, or nowhere to save it: no file comes into being.
+    const QString emptyDocument = mDir.filePath(QStringLiteral("empty.xml"));
+    XmlFiler unsaved;
+    QVERIFY(!unsaved.Save(emptyDocument));
+    QVERIFY(!QFile::exists(emptyDocument));
+    QVERIFY(unsaved.Parse(QStringLiteral("<Root/>")));
+    QVERIFY(!unsaved.Save(mDir.filePath(QStringLiteral("no/such/folder/file.xml"))));
+    QVERIFY(!unsaved.Save());
 
-void tst_XmlFiler::openOrCreate()
-{
     const QString path = mDir.filePath(QStringLiteral("created.xml"));
     XmlFiler filer;
     QVERIFY(filer.OpenOrCreate(path));
@@ -661,60 +622,40 @@ void tst_XmlFiler::openOrCreate()
     QVERIFY(filer.ToString().startsWith(QStringLiteral("<?xml version=\"1.0\"?>")));
     QVERIFY(filer.SaveIfModified());
     QVERIFY(QFile::exists(path));
-
-    XmlFiler reopened;
-    QVERIFY(reopened.OpenOrCreate(path));
-    QVERIFY(!reopened.IsModified());
-    QCOMPARE(reopened.ToString().count(QStringLiteral("<?xml")), 1);
-
-    // An empty file is a settings file with nothing in it yet.
-    const QString emptyPath = mDir.filePath(QStringLiteral("zero.xml"));
-    QFile empty(emptyPath);
-    QVERIFY(empty.open(QIODevice::WriteOnly));
-    empty.close();
-    XmlFiler fromEmpty;
-    QVERIFY(fromEmpty.OpenOrCreate(emptyPath));
-    QCOMPARE(fromEmpty.GetElementName(), QStringLiteral("Root"));
-    QCOMPARE(fromEmpty.GetFileName(), emptyPath);
-}
-
-void tst_XmlFiler::openOrCreateKeepsMalformedFile()
-{
-    const QString path = mDir.filePath(QStringLiteral("broken-settings.xml"));
-    const QByteArray content = "<Root><Unclosed></Root>";
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    XmlFiler filer;
-    QVERIFY(!filer.OpenOrCreate(path));
-    QVERIFY(filer.SaveIfModified());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
-}
-
-void tst_XmlFiler::saveIfModified()
-{
-    const QString path = mDir.filePath(QStringLiteral("modified.xml"));
-    XmlFiler filer;
-    QVERIFY(filer.OpenOrCreate(path));
-    QVERIFY(filer.SaveIfModified());
-    const QDateTime firstSave = filer.GetLastSaveTime();
-    QVERIFY(firstSave.isValid());
+    QVERIFY(filer.GetLastSaveTime().isValid());
     QVERIFY(!filer.IsModified());
-
     // Nothing changed: the file isn't touched.
     QVERIFY(QFile::remove(path));
     QVERIFY(filer.SaveIfModified());
     QVERIFY(!QFile::exists(path));
-
     QVERIFY(filer.WriteInt(QStringLiteral("Count"), 3));
     QVERIFY(filer.IsModified());
     QVERIFY(filer.SaveIfModified());
     QVERIFY(!filer.IsModified());
-    XmlFiler check;
-    QVERIFY(check.Open(path));
-    QCOMPARE(check.ReadInt(QStringLiteral("Count")), 3);
+    XmlFiler reopened;
+    QVERIFY(reopened.OpenOrCreate(path));
+    QVERIFY(!reopened.IsModified());
+    QCOMPARE(reopened.ReadInt(QStringLiteral("Count")), 3);
+    QCOMPARE(reopened.ToString().count(QStringLiteral("<?xml")), 1);
+
+    // An empty file is a settings file with nothing in it yet.
+    const QString emptyPath = mDir.filePath(QStringLiteral("zero.xml"));
+    QVERIFY(writeFile(emptyPath, QByteArray()));
+    XmlFiler fromEmpty;
+    QVERIFY(fromEmpty.OpenOrCreate(emptyPath));
+    QCOMPARE(fromEmpty.GetElementName(), QStringLiteral("Root"));
+    QCOMPARE(fromEmpty.GetFileName(), emptyPath);
+
+    // A malformed file is refused and never overwritten.
+    const QString brokenPath = mDir.filePath(QStringLiteral("broken-settings.xml"));
+    const QByteArray content = "<Root><Unclosed></Root>";
+    QVERIFY(writeFile(brokenPath, content));
+    XmlFiler broken;
+    QVERIFY(!broken.OpenOrCreate(brokenPath));
+    QVERIFY(broken.SaveIfModified());
+    QFile file(brokenPath);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), content);
 }
 
 void tst_XmlFiler::killedSaveNeverTruncatesFile()
@@ -729,7 +670,7 @@ void tst_XmlFiler::killedSaveNeverTruncatesFile()
     for (int round = 0; round < 20; ++round) {
         QProcess child;
         child.setProcessEnvironment(environment);
-        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("openMissingFileFailsSilently")});
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("openAndParseFailures")});
         QVERIFY(child.waitForStarted());
         // Let it get into its loop, then kill it at a random point of a save.
         QTest::qWait(150 + int(QRandomGenerator::global()->bounded(100)));
