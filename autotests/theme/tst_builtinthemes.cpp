@@ -34,6 +34,49 @@ enum class PairKind
     NonText,      // 3 in HIGLight
 };
 
+// Every foreground of a row against every background of it.
+struct ContrastPairs
+{
+    QList<const char*> foregrounds;
+    PairKind kind;
+    QList<const char*> backgrounds;
+};
+
+// Extend this table when a control puts a themed colour on a themed surface.
+const ContrastPairs kContrastPairs[] = {
+    {{"FontNormal1"}, PairKind::Text,
+     {"Container1", "WidgetContainer9", "WidgetContainer12", "WidgetContainer3", "ActiveContainer1", "HoverContainer1",
+      "ClickContainer1", "RolloutContainerTitleBackgroundColor", "ToolTipBackground", "DropDownContainer",
+      "DropDownButtonHoverBackground", "DropDownButtonClickedBackground"}},
+    {{"FontNormal3"}, PairKind::Text,
+     {"DropDownMenuBackground", "DropDownMenuHoverBackground", "DropDownMenuClickedBackground"}},
+    {{"FontGroupHeader"}, PairKind::Text, {"DropDownGroupLabel"}},
+    {{"TitleBarTextColor"}, PairKind::Text, {"TitleBarTopColor", "TitleBarBottomColor"}},
+    {{"FontBuiltInNormal1"}, PairKind::Text,
+     {"MenuBuiltInBackgroundColor1", "MenuBuiltInItemSelectedBackgroundColor1",
+      "MenuBuiltInItemPressedBackgroundColor1"}},
+    {{"FontSearchPrompt"}, PairKind::Text, {"SearchBoxNormalBackground", "SearchBoxHoverBackground"}},
+    {{"FontSearch2"}, PairKind::Text, {"SearchBoxFocusedBackground"}},
+    {{"FontActive1", "FontUnderline1"}, PairKind::Text, {"Container1"}},
+    {{"FontColorDisabled"}, PairKind::DisabledText, {"Container1", "WidgetContainerDisable"}},
+    {{"FontDisable"}, PairKind::DisabledText, {"DropDownMenuBackground"}},
+    {{"FontBuiltInDisable1"}, PairKind::DisabledText, {"MenuBuiltInBackgroundColor1"}},
+    {{"FontNormalDisabled1"}, PairKind::DisabledText, {"Container1"}},
+    // Focus outlines, control outlines and marks against the container behind them.
+    {{"FocusOutline1", "FocusOutline2", "WidgetOutline3", "WidgetOutline6", "WidgetOutline9", "WidgetOutline10",
+      "HoverOutline4", "HoverOutline7", "DropDownButtonFocusOutline", "SearchBoxFocusedBorder",
+      "DropDownMenuBorderColor"},
+     PairKind::NonText,
+     {"Container1"}},
+    {{"FocusOutline2"}, PairKind::NonText, {"WidgetContainer12"}},
+    {{"CheckMark"}, PairKind::NonText, {"WidgetContainer9"}},
+    {{"CheckMark1"}, PairKind::NonText, {"WidgetContainer11"}},
+    {{"Triangle"}, PairKind::NonText, {"RolloutContainerTitleBackgroundColor"}},
+    {{"Triangle2"}, PairKind::NonText, {"WidgetContainer4"}},
+    {{"DropDownTriangle"}, PairKind::NonText, {"DropDownContainer"}},
+    {{"ControlActive1"}, PairKind::NonText, {"WidgetContainer5"}},
+};
+
 struct ContrastPair
 {
     const char* foreground;
@@ -41,61 +84,17 @@ struct ContrastPair
     PairKind kind;
 };
 
-// Extend this table when a control puts a themed colour on a themed surface.
-const ContrastPair kContrastPairs[] = {
-    // Text on the surfaces it is drawn on.
-    {"FontNormal1", "Container1", PairKind::Text},
-    {"FontNormal1", "WidgetContainer9", PairKind::Text},
-    {"FontNormal1", "WidgetContainer12", PairKind::Text},
-    {"FontNormal1", "WidgetContainer3", PairKind::Text},
-    {"FontNormal1", "ActiveContainer1", PairKind::Text},
-    {"FontNormal1", "HoverContainer1", PairKind::Text},
-    {"FontNormal1", "ClickContainer1", PairKind::Text},
-    {"FontNormal1", "RolloutContainerTitleBackgroundColor", PairKind::Text},
-    {"FontNormal1", "ToolTipBackground", PairKind::Text},
-    {"FontNormal1", "DropDownContainer", PairKind::Text},
-    {"FontNormal1", "DropDownButtonHoverBackground", PairKind::Text},
-    {"FontNormal1", "DropDownButtonClickedBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuHoverBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuClickedBackground", PairKind::Text},
-    {"FontGroupHeader", "DropDownGroupLabel", PairKind::Text},
-    {"TitleBarTextColor", "TitleBarTopColor", PairKind::Text},
-    {"TitleBarTextColor", "TitleBarBottomColor", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInBackgroundColor1", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInItemSelectedBackgroundColor1", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInItemPressedBackgroundColor1", PairKind::Text},
-    {"FontSearchPrompt", "SearchBoxNormalBackground", PairKind::Text},
-    {"FontSearchPrompt", "SearchBoxHoverBackground", PairKind::Text},
-    {"FontSearch2", "SearchBoxFocusedBackground", PairKind::Text},
-    {"FontActive1", "Container1", PairKind::Text},
-    {"FontUnderline1", "Container1", PairKind::Text},
-    // Disabled text.
-    {"FontColorDisabled", "Container1", PairKind::DisabledText},
-    {"FontColorDisabled", "WidgetContainerDisable", PairKind::DisabledText},
-    {"FontDisable", "DropDownMenuBackground", PairKind::DisabledText},
-    {"FontBuiltInDisable1", "MenuBuiltInBackgroundColor1", PairKind::DisabledText},
-    {"FontNormalDisabled1", "Container1", PairKind::DisabledText},
-    // Focus outlines, control outlines and marks against the container behind them.
-    {"FocusOutline1", "Container1", PairKind::NonText},
-    {"FocusOutline2", "Container1", PairKind::NonText},
-    {"FocusOutline2", "WidgetContainer12", PairKind::NonText},
-    {"WidgetOutline3", "Container1", PairKind::NonText},
-    {"WidgetOutline6", "Container1", PairKind::NonText},
-    {"WidgetOutline9", "Container1", PairKind::NonText},
-    {"WidgetOutline10", "Container1", PairKind::NonText},
-    {"HoverOutline4", "Container1", PairKind::NonText},
-    {"HoverOutline7", "Container1", PairKind::NonText},
-    {"DropDownButtonFocusOutline", "Container1", PairKind::NonText},
-    {"SearchBoxFocusedBorder", "Container1", PairKind::NonText},
-    {"DropDownMenuBorderColor", "Container1", PairKind::NonText},
-    {"CheckMark", "WidgetContainer9", PairKind::NonText},
-    {"CheckMark1", "WidgetContainer11", PairKind::NonText},
-    {"Triangle", "RolloutContainerTitleBackgroundColor", PairKind::NonText},
-    {"Triangle2", "WidgetContainer4", PairKind::NonText},
-    {"DropDownTriangle", "DropDownContainer", PairKind::NonText},
-    {"ControlActive1", "WidgetContainer5", PairKind::NonText},
-};
+QList<ContrastPair> Pairs()
+{
+    QList<ContrastPair> pairs;
+    for (const ContrastPairs& row : kContrastPairs) {
+        for (const char* foreground : row.foregrounds) {
+            for (const char* background : row.backgrounds)
+                pairs.append({foreground, background, row.kind});
+        }
+    }
+    return pairs;
+}
 
 double Minimum(PairKind kind, bool highContrast)
 {
@@ -430,7 +429,7 @@ private slots:
         QStringList faults;
         double lowest = 100.0;
         QString lowestPair;
-        for (const ContrastPair& pair : kContrastPairs) {
+        for (const ContrastPair& pair : Pairs()) {
             const QString fgKey = QString::fromLatin1(pair.foreground);
             const QString bgKey = QString::fromLatin1(pair.background);
             const QList<QColor> foregrounds = PaintedColors(themes, fgKey);

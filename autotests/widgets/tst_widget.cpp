@@ -129,52 +129,46 @@ private Q_SLOTS:
         QVERIFY(!imp.IsBorderVisible());
     }
 
-    void handleOfQtWidgetFillsThatWidget()
+    void qtHostWidget_data()
     {
+        QTest::addColumn<bool>("viaHandle");
+        QTest::addColumn<bool>("ownLayout");
+        QTest::newRow("handle of a widget without layout") << true << false;
+        QTest::newRow("handle of a widget with a layout") << true << true;
+        QTest::newRow("parent widget with a layout") << false << true;
+    }
+
+    void qtHostWidget()
+    {
+        QFETCH(bool, viaHandle);
+        QFETCH(bool, ownLayout);
         QWidget owner;
         owner.resize(300, 200);
-        const HWND handle = Platform::HandleFromWId(owner.winId());
-        auto* imp = new WidgetImp(handle);
+        QPointer<QLayout> oldLayout = ownLayout ? new QVBoxLayout(&owner) : nullptr;
+        auto* label = new QLabel(QStringLiteral("kept"), &owner);
+        if (oldLayout)
+            oldLayout->addWidget(label);
+        auto* imp = viaHandle ? new WidgetImp(Platform::HandleFromWId(owner.winId())) : new WidgetImp(&owner);
         QCOMPARE(imp->parentWidget(), &owner);
+        QCOMPARE(label->parentWidget(), &owner);
+        QVERIFY(!imp->isWindow());
         QVERIFY(!imp->IsParentWindowsNativeWindow());
-        QVERIFY(owner.layout());
+        if (viaHandle && ownLayout) {
+            // A handle keeps the layout it finds; the host places the widget.
+            QCOMPARE(owner.layout(), oldLayout.data());
+            QCOMPARE(owner.layout()->count(), 1);
+            imp->Move(5, 7);
+            QCOMPARE(QPoint(imp->GetX(), imp->GetY()), QPoint(5, 7));
+            return;
+        }
+        // Otherwise the widget fills its host through a layout of its own.
+        QVERIFY(oldLayout.isNull());
         QCOMPARE(owner.layout()->indexOf(imp), 0);
+        QCOMPARE(owner.layout()->count(), 1);
         QCOMPARE(owner.layout()->contentsMargins(), QMargins());
         owner.show();
         QVERIFY(QTest::qWaitForWindowExposed(&owner));
         QTRY_COMPARE(imp->geometry(), owner.rect());
-    }
-
-    void handleOfQtWidgetWithLayoutKeepsIt()
-    {
-        QWidget owner;
-        auto* ownLayout = new QVBoxLayout(&owner);
-        auto* label = new QLabel(QStringLiteral("kept"));
-        ownLayout->addWidget(label);
-        auto* imp = new WidgetImp(Platform::HandleFromWId(owner.winId()));
-        QCOMPARE(owner.layout(), ownLayout);
-        QCOMPARE(ownLayout->count(), 1);
-        QCOMPARE(imp->parentWidget(), &owner);
-        QVERIFY(!imp->isWindow());
-        QVERIFY(!imp->IsParentWindowsNativeWindow());
-        imp->Move(5, 7);
-        QCOMPARE(QPoint(imp->GetX(), imp->GetY()), QPoint(5, 7));
-    }
-
-    void qtParentLosesItsOldLayout()
-    {
-        QWidget parent;
-        auto* oldLayout = new QVBoxLayout(&parent);
-        auto* label = new QLabel(QStringLiteral("kept"));
-        oldLayout->addWidget(label);
-        QPointer<QLayout> guard(oldLayout);
-
-        auto* imp = new WidgetImp(&parent);
-        QVERIFY(guard.isNull());
-        QCOMPARE(label->parentWidget(), &parent);
-        QCOMPARE(parent.layout()->indexOf(imp), 0);
-        QCOMPARE(parent.layout()->count(), 1);
-        QVERIFY(!imp->IsParentWindowsNativeWindow());
     }
 
     void copiesShareOneImplementation()
@@ -249,6 +243,7 @@ private Q_SLOTS:
         QVERIFY(!handle.IsVisible());
         handle.SetEnabled(false);
         QVERIFY(!handle.Imp()->isEnabled());
+        QVERIFY(handle.GetWinId() != nullptr);
         handle.Imp()->setMinimumHeight(33);
         QCOMPARE(handle.GetMinimumHeight(), 33);
     }
