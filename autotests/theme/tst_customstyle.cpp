@@ -265,7 +265,6 @@ private Q_SLOTS:
         QVERIFY(handle.left() >= base.left() && handle.left() <= base.right());
     }
 
-
     void sliderHandleClamps_data()
     {
         QTest::addColumn<int>("left");
