@@ -92,6 +92,25 @@ inline QColor Reference(const QImage& like, const QColor& background, const QBru
     return QColor::fromRgba(image.pixel(deviceX, deviceY));
 }
 
+// How many pixels of an image pass a test of their colour.
+template <class Test>
+int Count(const QImage& image, Test test)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += test(QColor::fromRgba(image.pixel(x, y))) ? 1 : 0;
+    }
+    return count;
+}
+
+// Shows a widget and waits until it is on screen.
+inline bool Shown(QWidget* widget)
+{
+    widget->show();
+    return QTest::qWaitForWindowExposed(widget);
+}
+
 inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)
 {
     return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&
@@ -117,6 +136,17 @@ inline QList<Run> Runs(const QImage& image, int fixed, int first, int last, bool
             runs.append(Run{pixel, i, 1});
     }
     return runs;
+}
+
+// The runs whose colour is not the background's.
+inline QList<Run> Foreground(const QList<Run>& runs, QRgb background)
+{
+    QList<Run> result;
+    for (const Run& run : runs) {
+        if (run.color != background)
+            result.append(run);
+    }
+    return result;
 }
 
 inline QString Describe(const QList<Run>& runs)

@@ -34,6 +34,49 @@ enum class PairKind
     NonText,      // 3 in HIGLight
 };
 
+// Every foreground of a row against every background of it.
+struct ContrastPairs
+{
+    QList<const char*> foregrounds;
+    PairKind kind;
+    QList<const char*> backgrounds;
+};
+
+// Extend this table when a control puts a themed colour on a themed surface.
+const ContrastPairs kContrastPairs[] = {
+    {{"FontNormal1"}, PairKind::Text,
+     {"Container1", "WidgetContainer9", "WidgetContainer12", "WidgetContainer3", "ActiveContainer1", "HoverContainer1",
+      "ClickContainer1", "RolloutContainerTitleBackgroundColor", "ToolTipBackground", "DropDownContainer",
+      "DropDownButtonHoverBackground", "DropDownButtonClickedBackground"}},
+    {{"FontNormal3"}, PairKind::Text,
+     {"DropDownMenuBackground", "DropDownMenuHoverBackground", "DropDownMenuClickedBackground"}},
+    {{"FontGroupHeader"}, PairKind::Text, {"DropDownGroupLabel"}},
+    {{"TitleBarTextColor"}, PairKind::Text, {"TitleBarTopColor", "TitleBarBottomColor"}},
+    {{"FontBuiltInNormal1"}, PairKind::Text,
+     {"MenuBuiltInBackgroundColor1", "MenuBuiltInItemSelectedBackgroundColor1",
+      "MenuBuiltInItemPressedBackgroundColor1"}},
+    {{"FontSearchPrompt"}, PairKind::Text, {"SearchBoxNormalBackground", "SearchBoxHoverBackground"}},
+    {{"FontSearch2"}, PairKind::Text, {"SearchBoxFocusedBackground"}},
+    {{"FontActive1", "FontUnderline1"}, PairKind::Text, {"Container1"}},
+    {{"FontColorDisabled"}, PairKind::DisabledText, {"Container1", "WidgetContainerDisable"}},
+    {{"FontDisable"}, PairKind::DisabledText, {"DropDownMenuBackground"}},
+    {{"FontBuiltInDisable1"}, PairKind::DisabledText, {"MenuBuiltInBackgroundColor1"}},
+    {{"FontNormalDisabled1"}, PairKind::DisabledText, {"Container1"}},
+    // Focus outlines, control outlines and marks against the container behind them.
+    {{"FocusOutline1", "FocusOutline2", "WidgetOutline3", "WidgetOutline6", "WidgetOutline9", "WidgetOutline10",
+      "HoverOutline4", "HoverOutline7", "DropDownButtonFocusOutline", "SearchBoxFocusedBorder",
+      "DropDownMenuBorderColor"},
+     PairKind::NonText,
+     {"Container1"}},
+    {{"FocusOutline2"}, PairKind::NonText, {"WidgetContainer12"}},
+    {{"CheckMark"}, PairKind::NonText, {"WidgetContainer9"}},
+    {{"CheckMark1"}, PairKind::NonText, {"WidgetContainer11"}},
+    {{"Triangle"}, PairKind::NonText, {"RolloutContainerTitleBackgroundColor"}},
+    {{"Triangle2"}, PairKind::NonText, {"WidgetContainer4"}},
+    {{"DropDownTriangle"}, PairKind::NonText, {"DropDownContainer"}},
+    {{"ControlActive1"}, PairKind::NonText, {"WidgetContainer5"}},
+};
+
 struct ContrastPair
 {
     const char* foreground;
@@ -41,61 +84,17 @@ struct ContrastPair
     PairKind kind;
 };
 
-// Extend this table when a control puts a themed colour on a themed surface.
-const ContrastPair kContrastPairs[] = {
-    // Text on the surfaces it is drawn on.
-    {"FontNormal1", "Container1", PairKind::Text},
-    {"FontNormal1", "WidgetContainer9", PairKind::Text},
-    {"FontNormal1", "WidgetContainer12", PairKind::Text},
-    {"FontNormal1", "WidgetContainer3", PairKind::Text},
-    {"FontNormal1", "ActiveContainer1", PairKind::Text},
-    {"FontNormal1", "HoverContainer1", PairKind::Text},
-    {"FontNormal1", "ClickContainer1", PairKind::Text},
-    {"FontNormal1", "RolloutContainerTitleBackgroundColor", PairKind::Text},
-    {"FontNormal1", "ToolTipBackground", PairKind::Text},
-    {"FontNormal1", "DropDownContainer", PairKind::Text},
-    {"FontNormal1", "DropDownButtonHoverBackground", PairKind::Text},
-    {"FontNormal1", "DropDownButtonClickedBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuHoverBackground", PairKind::Text},
-    {"FontNormal3", "DropDownMenuClickedBackground", PairKind::Text},
-    {"FontGroupHeader", "DropDownGroupLabel", PairKind::Text},
-    {"TitleBarTextColor", "TitleBarTopColor", PairKind::Text},
-    {"TitleBarTextColor", "TitleBarBottomColor", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInBackgroundColor1", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInItemSelectedBackgroundColor1", PairKind::Text},
-    {"FontBuiltInNormal1", "MenuBuiltInItemPressedBackgroundColor1", PairKind::Text},
-    {"FontSearchPrompt", "SearchBoxNormalBackground", PairKind::Text},
-    {"FontSearchPrompt", "SearchBoxHoverBackground", PairKind::Text},
-    {"FontSearch2", "SearchBoxFocusedBackground", PairKind::Text},
-    {"FontActive1", "Container1", PairKind::Text},
-    {"FontUnderline1", "Container1", PairKind::Text},
-    // Disabled text.
-    {"FontColorDisabled", "Container1", PairKind::DisabledText},
-    {"FontColorDisabled", "WidgetContainerDisable", PairKind::DisabledText},
-    {"FontDisable", "DropDownMenuBackground", PairKind::DisabledText},
-    {"FontBuiltInDisable1", "MenuBuiltInBackgroundColor1", PairKind::DisabledText},
-    {"FontNormalDisabled1", "Container1", PairKind::DisabledText},
-    // Focus outlines, control outlines and marks against the container behind them.
-    {"FocusOutline1", "Container1", PairKind::NonText},
-    {"FocusOutline2", "Container1", PairKind::NonText},
-    {"FocusOutline2", "WidgetContainer12", PairKind::NonText},
-    {"WidgetOutline3", "Container1", PairKind::NonText},
-    {"WidgetOutline6", "Container1", PairKind::NonText},
-    {"WidgetOutline9", "Container1", PairKind::NonText},
-    {"WidgetOutline10", "Container1", PairKind::NonText},
-    {"HoverOutline4", "Container1", PairKind::NonText},
-    {"HoverOutline7", "Container1", PairKind::NonText},
-    {"DropDownButtonFocusOutline", "Container1", PairKind::NonText},
-    {"SearchBoxFocusedBorder", "Container1", PairKind::NonText},
-    {"DropDownMenuBorderColor", "Container1", PairKind::NonText},
-    {"CheckMark", "WidgetContainer9", PairKind::NonText},
-    {"CheckMark1", "WidgetContainer11", PairKind::NonText},
-    {"Triangle", "RolloutContainerTitleBackgroundColor", PairKind::NonText},
-    {"Triangle2", "WidgetContainer4", PairKind::NonText},
-    {"DropDownTriangle", "DropDownContainer", PairKind::NonText},
-    {"ControlActive1", "WidgetContainer5", PairKind::NonText},
-};
+QList<ContrastPair> Pairs()
+{
+    QList<ContrastPair> pairs;
+    for (const ContrastPairs& row : kContrastPairs) {
+        for (const char* foreground : row.foregrounds) {
+            for (const char* background : row.backgrounds)
+                pairs.append({foreground, background, row.kind});
+        }
+    }
+    return pairs;
+}
 
 double Minimum(PairKind kind, bool highContrast)
 {
@@ -193,25 +192,14 @@ QHash<QString, FileEntry> ReadEntries(const QString& path, QString* error)
 
 QString UseName(ThemeKeyUse use)
 {
-    switch (use) {
-    case ThemeKeyUse::Color:
-        return QStringLiteral("Color");
-    case ThemeKeyUse::ColorOrBrush:
-        return QStringLiteral("ColorOrBrush");
-    case ThemeKeyUse::Brush:
-        return QStringLiteral("Brush");
-    case ThemeKeyUse::String:
-        return QStringLiteral("String");
-    case ThemeKeyUse::Int:
-        return QStringLiteral("Int");
-    case ThemeKeyUse::Icon:
-        return QStringLiteral("Icon");
-    case ThemeKeyUse::Exists:
-        return QStringLiteral("Exists");
-    case ThemeKeyUse::HostOnly:
-        return QStringLiteral("HostOnly");
-    }
-    return QString();
+    const char* const names[] = {"Color", "ColorOrBrush", "Brush", "String", "Int", "Icon", "Exists", "HostOnly"};
+    return QString::fromLatin1(names[int(use)]);
+}
+
+ThemeManager* Switch(const QString& theme)
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    return themes->SetCurrentTheme(theme) ? themes : nullptr;
 }
 
 } // namespace
@@ -220,301 +208,256 @@ class tst_BuiltInThemes : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void catalogueKeys_data();
-    void catalogueKeys();
-    void filesAreSelfContained_data();
-    void filesAreSelfContained();
-    void resourcePathsLoad_data();
-    void resourcePathsLoad();
-    void iconsHoldAllSizes_data();
-    void iconsHoldAllSizes();
-    void everyIconSourceIsCompiledIn();
-    void contrast_data();
-    void contrast();
-
-private:
-    ThemeManager* Switch(const QString& theme);
-
     QStringList mWarnings;
-};
 
-void tst_BuiltInThemes::initTestCase()
-{
-    Internal::SetWarningHook([this](const QString& title, const QString& text) {
-        mWarnings.append(title + QLatin1String(": ") + text);
-        return true;
-    });
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-}
-
-void tst_BuiltInThemes::cleanupTestCase()
-{
-    Internal::SetWarningHook(nullptr);
-    QVERIFY2(mWarnings.isEmpty(), qPrintable(mWarnings.join(QLatin1Char('\n'))));
-}
-
-ThemeManager* tst_BuiltInThemes::Switch(const QString& theme)
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    if (!themes->SetCurrentTheme(theme))
-        return nullptr;
-    return themes;
-}
-
-void tst_BuiltInThemes::catalogueKeys_data()
-{
-    QTest::addColumn<QString>("theme");
-    for (const QString& theme : kThemes)
-        QTest::newRow(qPrintable(theme)) << theme;
-}
-
-void tst_BuiltInThemes::catalogueKeys()
-{
-    QFETCH(QString, theme);
-    QString error;
-    const QHash<QString, FileEntry> entries = ReadEntries(ThemeFilePath(theme), &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    ThemeManager* themes = Switch(theme);
-    QVERIFY(themes);
-
-    // Hover and press rings on check boxes are a high-contrast feature.
-    const QSet<QString> onlyInHighContrast = {QStringLiteral("FocusOutline3"), QStringLiteral("FocusOutline4"),
-                                              QStringLiteral("FocusOutline7")};
-    const QSet<QString> knownKinds = {QStringLiteral("Color"), QStringLiteral("Icon"), QStringLiteral("Int"),
-                                      QStringLiteral("ScalableInt"), QStringLiteral("String"), QStringLiteral("Size")};
-    std::size_t count = 0;
-    const ThemeKeyEntry* catalogue = ThemeKeyCatalogue(&count);
-    QCOMPARE(count, std::size_t(389));
-    QStringList faults;
-    for (std::size_t i = 0; i < count; ++i) {
-        const QString key = QString::fromLatin1(catalogue[i].text);
-        const ThemeKeyUse use = catalogue[i].use;
-        const FileEntry entry = entries.value(key);
-        const QString where = QStringLiteral("%1 (%2)").arg(key, UseName(use));
-        if (onlyInHighContrast.contains(key)) {
-            if (themes->Exists(key) != (theme == QLatin1String("HIGLight")))
-                faults << where + QStringLiteral(": present only in HIGLight");
-            else if (themes->Exists(key) && !themes->GetColor(key).isValid())
-                faults << where + QStringLiteral(": not a colour");
-            continue;
-        }
-        if (!themes->Exists(key)) {
-            faults << where + QStringLiteral(": missing");
-            continue;
-        }
-        switch (use) {
-        case ThemeKeyUse::Color:
-            if (entry.kind != QLatin1String("Color") || entry.colorChildren != 1 || !themes->GetColor(key).isValid())
-                faults << where + QStringLiteral(": not a single colour");
-            break;
-        case ThemeKeyUse::ColorOrBrush:
-        case ThemeKeyUse::Brush:
-            if (entry.kind != QLatin1String("Color") || PaintedColors(themes, key).isEmpty())
-                faults << where + QStringLiteral(": not a colour or gradient");
-            break;
-        case ThemeKeyUse::String:
-            if (entry.kind != QLatin1String("String") || themes->GetString(key).isEmpty())
-                faults << where + QStringLiteral(": not a non-empty string");
-            break;
-        case ThemeKeyUse::Int:
-            if (entry.kind != QLatin1String("Int") && entry.kind != QLatin1String("ScalableInt"))
-                faults << where + QStringLiteral(": not an integer");
-            break;
-        case ThemeKeyUse::Icon:
-            if (entry.kind != QLatin1String("Icon") || themes->GetImage(key, QSize(16, 16)).isNull())
-                faults << where + QStringLiteral(": not an icon");
-            break;
-        case ThemeKeyUse::Exists:
-            // FontPixelSizeVal: a pixel size for menu text.
-            if (entry.kind != QLatin1String("Int") || themes->GetInt(key) < 8 || themes->GetInt(key) > 32)
-                faults << where + QStringLiteral(": not a pixel size");
-            break;
-        case ThemeKeyUse::HostOnly:
-            if (!knownKinds.contains(entry.kind))
-                faults << where + QStringLiteral(": unexpected element %1").arg(entry.kind);
-            break;
-        }
+private slots:
+    void initTestCase()
+    {
+        Internal::SetWarningHook([this](const QString& title, const QString& text) {
+            mWarnings.append(title + QLatin1String(": ") + text);
+            return true;
+        });
+        ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
     }
-    // The base file's style sheets refer to these.
-    for (const char* key : {"ScrollBarBackground", "ScrollBarHandleNormalBackground", "ScrollBarHandleHoverBackground",
-                            "HScrollBarSubLine", "HScrollBarAddLine", "ToolTipBackground", "ToolTipBorder"}) {
-        if (!themes->GetColor(QString::fromLatin1(key)).isValid())
-            faults << QString::fromLatin1(key) + QStringLiteral(": base file reference not a colour");
+
+    void cleanupTestCase()
+    {
+        Internal::SetWarningHook(nullptr);
+        QVERIFY2(mWarnings.isEmpty(), qPrintable(mWarnings.join(QLatin1Char('\n'))));
     }
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
-    QCOMPARE(themes->GetString(ThemeFileKey::CurrentTheme), theme);
-    QVERIFY(themes->GetStyleSheet(QStringLiteral("ScrollBarGlobal")).contains(
-        themes->GetColor(QStringLiteral("ScrollBarHandleNormalBackground")).name(QColor::HexArgb)));
-}
 
-void tst_BuiltInThemes::filesAreSelfContained_data()
-{
-    catalogueKeys_data();
-}
-
-void tst_BuiltInThemes::filesAreSelfContained()
-{
-    // A file loaded by a theme switch is read before the switch records the
-    // new theme, so a reference in it would expand against the old one.
-    QFETCH(QString, theme);
-    QFile file(ThemeFilePath(theme));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
-    QVERIFY2(!text.contains("$("), "a theme file refers to another entry");
-}
-
-void tst_BuiltInThemes::resourcePathsLoad_data()
-{
-    catalogueKeys_data();
-}
-
-void tst_BuiltInThemes::resourcePathsLoad()
-{
-    QFETCH(QString, theme);
-    QString error;
-    const QHash<QString, FileEntry> entries = ReadEntries(ThemeFilePath(theme), &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QStringList faults;
-    int paths = 0;
-    for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
-        const QString& path = it.value().value;
-        if (!path.startsWith(QLatin1String(":/")))
-            continue;
-        ++paths;
-        QImageReader reader(path);
-        const QImage image = reader.read();
-        if (image.isNull())
-            faults << QStringLiteral("%1: %2 does not load (%3)").arg(it.key(), path, reader.errorString());
-        else if (image.width() < 16 || image.height() < 16)
-            faults << QStringLiteral("%1: %2 is smaller than 16 pixels").arg(it.key(), path);
-        // The busy animation takes its frames through QIcon at 16 by 16.
-        if (QIcon(path).pixmap(16, 16).isNull())
-            faults << QStringLiteral("%1: %2 gives no icon pixmap").arg(it.key(), path);
+    void catalogueKeys_data()
+    {
+        QTest::addColumn<QString>("theme");
+        for (const QString& theme : kThemes)
+            QTest::newRow(qPrintable(theme)) << theme;
     }
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
-    QVERIFY(paths > 150);
-}
 
-void tst_BuiltInThemes::iconsHoldAllSizes_data()
-{
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<QString>("key");
-    std::size_t count = 0;
-    const ThemeKeyEntry* catalogue = ThemeKeyCatalogue(&count);
-    for (const QString& theme : kThemes) {
+    void catalogueKeys()
+    {
+        QFETCH(QString, theme);
+        QString error;
+        const QHash<QString, FileEntry> entries = ReadEntries(ThemeFilePath(theme), &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        ThemeManager* themes = Switch(theme);
+        QVERIFY(themes);
+        // A file loaded by a theme switch is read before the switch records the
+        // new theme, so a reference in it would expand against the old one.
+        QFile file(ThemeFilePath(theme));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(!file.readAll().contains("$("), "a theme file refers to another entry");
+
+        // Hover and press rings on check boxes are a high-contrast feature.
+        const QSet<QString> onlyInHighContrast = {QStringLiteral("FocusOutline3"), QStringLiteral("FocusOutline4"),
+                                                  QStringLiteral("FocusOutline7")};
+        const QSet<QString> knownKinds = {QStringLiteral("Color"), QStringLiteral("Icon"), QStringLiteral("Int"),
+                                          QStringLiteral("ScalableInt"), QStringLiteral("String"), QStringLiteral("Size")};
+        std::size_t count = 0;
+        const ThemeKeyEntry* catalogue = ThemeKeyCatalogue(&count);
+        QCOMPARE(count, std::size_t(389));
+        QStringList faults;
         for (std::size_t i = 0; i < count; ++i) {
-            if (catalogue[i].use == ThemeKeyUse::Icon)
-                QTest::addRow("%s %s", qPrintable(theme), catalogue[i].text) << theme << catalogue[i].text;
-        }
-        QTest::addRow("%s MiniButtonToggleOn", qPrintable(theme)) << theme << QStringLiteral("MiniButtonToggleOn");
-    }
-}
-
-void tst_BuiltInThemes::iconsHoldAllSizes()
-{
-    QFETCH(QString, theme);
-    QFETCH(QString, key);
-    ThemeManager* themes = Switch(theme);
-    QVERIFY(themes);
-
-    // The container holds every size, smallest first, as the reader returns them.
-    QString error;
-    const QString path = ReadEntries(ThemeFilePath(theme), &error).value(key).value;
-    QVERIFY2(path.endsWith(QLatin1String(".ico")), qPrintable(path));
-    QImageReader reader(path);
-    QList<int> widths;
-    do {
-        const QImage image = reader.read();
-        if (image.isNull())
-            break;
-        QCOMPARE(image.height(), image.width());
-        widths.append(image.width());
-    } while (reader.jumpToNextImage());
-    QCOMPARE(widths, (QList<int>{16, 24, 32, 48, 64}));
-
-    for (int size : {16, 24, 32, 48, 64}) {
-        const QImage image = themes->GetImage(key, QSize(size, size));
-        QCOMPARE(image.size(), QSize(size, size));
-        // Not an empty canvas: the switch is drawn.
-        int opaque = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                opaque += qAlpha(image.pixel(x, y)) > 200 ? 1 : 0;
-        QVERIFY2(opaque > size * size / 8, qPrintable(QStringLiteral("%1 px: %2 opaque").arg(size).arg(opaque)));
-    }
-    // A size between two stored ones gets the narrowest image, never a scaled one.
-    QCOMPARE(themes->GetImage(key, QSize(20, 20)).size(), QSize(16, 16));
-}
-
-void tst_BuiltInThemes::everyIconSourceIsCompiledIn()
-{
-    QDirIterator it(QStringLiteral(KVUICORE_SOURCE_DIR "/resources/icons"), {QStringLiteral("*.svg")}, QDir::Files);
-    QStringList missing;
-    int count = 0;
-    while (it.hasNext()) {
-        it.next();
-        ++count;
-        if (!QFile::exists(QStringLiteral(":/icons/") + it.fileName()))
-            missing << it.fileName();
-    }
-    QVERIFY(count > 0);
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char(' '))));
-}
-
-void tst_BuiltInThemes::contrast_data()
-{
-    catalogueKeys_data();
-}
-
-void tst_BuiltInThemes::contrast()
-{
-    QFETCH(QString, theme);
-    ThemeManager* themes = Switch(theme);
-    QVERIFY(themes);
-    const bool highContrast = theme == QLatin1String("HIGLight");
-
-    QStringList faults;
-    double lowestText = 100.0;
-    QString lowestTextPair;
-    double lowestChecked = 100.0;
-    QString lowestCheckedPair;
-    for (const ContrastPair& pair : kContrastPairs) {
-        const QString fgKey = QString::fromLatin1(pair.foreground);
-        const QString bgKey = QString::fromLatin1(pair.background);
-        const QList<QColor> foregrounds = PaintedColors(themes, fgKey);
-        const QList<QColor> backgrounds = PaintedColors(themes, bgKey);
-        if (foregrounds.isEmpty() || backgrounds.isEmpty()) {
-            faults << QStringLiteral("%1 on %2: a colour is missing").arg(fgKey, bgKey);
-            continue;
-        }
-        const double minimum = Minimum(pair.kind, highContrast);
-        for (const QColor& fg : foregrounds) {
-            for (const QColor& bg : backgrounds) {
-                const double ratio = ContrastRatio(fg, bg);
-                const QString name = QStringLiteral("%1 %2 on %3 %4 = %5:1")
-                                         .arg(fgKey, fg.name(), bgKey, bg.name())
-                                         .arg(ratio, 0, 'f', 2);
-                if (pair.kind == PairKind::Text && ratio < lowestText) {
-                    lowestText = ratio;
-                    lowestTextPair = name;
-                }
-                if (minimum > 0.0 && ratio < lowestChecked) {
-                    lowestChecked = ratio;
-                    lowestCheckedPair = name;
-                }
-                if (ratio < minimum)
-                    faults << QStringLiteral("%1, below %2:1").arg(name).arg(minimum);
+            const QString key = QString::fromLatin1(catalogue[i].text);
+            const ThemeKeyUse use = catalogue[i].use;
+            const FileEntry entry = entries.value(key);
+            const QString where = QStringLiteral("%1 (%2)").arg(key, UseName(use));
+            if (onlyInHighContrast.contains(key)) {
+                if (themes->Exists(key) != (theme == QLatin1String("HIGLight")))
+                    faults << where + QStringLiteral(": present only in HIGLight");
+                else if (themes->Exists(key) && !themes->GetColor(key).isValid())
+                    faults << where + QStringLiteral(": not a colour");
+                continue;
+            }
+            if (!themes->Exists(key)) {
+                faults << where + QStringLiteral(": missing");
+                continue;
+            }
+            switch (use) {
+            case ThemeKeyUse::Color:
+                if (entry.kind != QLatin1String("Color") || entry.colorChildren != 1 || !themes->GetColor(key).isValid())
+                    faults << where + QStringLiteral(": not a single colour");
+                break;
+            case ThemeKeyUse::ColorOrBrush:
+            case ThemeKeyUse::Brush:
+                if (entry.kind != QLatin1String("Color") || PaintedColors(themes, key).isEmpty())
+                    faults << where + QStringLiteral(": not a colour or gradient");
+                break;
+            case ThemeKeyUse::String:
+                if (entry.kind != QLatin1String("String") || themes->GetString(key).isEmpty())
+                    faults << where + QStringLiteral(": not a non-empty string");
+                break;
+            case ThemeKeyUse::Int:
+                if (entry.kind != QLatin1String("Int") && entry.kind != QLatin1String("ScalableInt"))
+                    faults << where + QStringLiteral(": not an integer");
+                break;
+            case ThemeKeyUse::Icon:
+                if (entry.kind != QLatin1String("Icon") || themes->GetImage(key, QSize(16, 16)).isNull())
+                    faults << where + QStringLiteral(": not an icon");
+                break;
+            case ThemeKeyUse::Exists:
+                // FontPixelSizeVal: a pixel size for menu text.
+                if (entry.kind != QLatin1String("Int") || themes->GetInt(key) < 8 || themes->GetInt(key) > 32)
+                    faults << where + QStringLiteral(": not a pixel size");
+                break;
+            case ThemeKeyUse::HostOnly:
+                if (!knownKinds.contains(entry.kind))
+                    faults << where + QStringLiteral(": unexpected element %1").arg(entry.kind);
+                break;
             }
         }
+        // The base file's style sheets refer to these.
+        for (const char* key : {"ScrollBarBackground", "ScrollBarHandleNormalBackground", "ScrollBarHandleHoverBackground",
+                                "HScrollBarSubLine", "HScrollBarAddLine", "ToolTipBackground", "ToolTipBorder"}) {
+            if (!themes->GetColor(QString::fromLatin1(key)).isValid())
+                faults << QString::fromLatin1(key) + QStringLiteral(": base file reference not a colour");
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+        QCOMPARE(themes->GetString(ThemeFileKey::CurrentTheme), theme);
+        QVERIFY(themes->GetStyleSheet(QStringLiteral("ScrollBarGlobal")).contains(
+            themes->GetColor(QStringLiteral("ScrollBarHandleNormalBackground")).name(QColor::HexArgb)));
     }
-    qInfo("%s: lowest text contrast %s", qPrintable(theme), qPrintable(lowestTextPair));
-    qInfo("%s: lowest contrast among checked pairs %s", qPrintable(theme), qPrintable(lowestCheckedPair));
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
-    QVERIFY(lowestChecked < 100.0);
-}
+
+    void resourcePathsLoad_data()
+    {
+        catalogueKeys_data();
+    }
+
+    void resourcePathsLoad()
+    {
+        QFETCH(QString, theme);
+        QString error;
+        const QHash<QString, FileEntry> entries = ReadEntries(ThemeFilePath(theme), &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QStringList faults;
+        int paths = 0;
+        for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
+            const QString& path = it.value().value;
+            if (!path.startsWith(QLatin1String(":/")))
+                continue;
+            ++paths;
+            QImageReader reader(path);
+            const QImage image = reader.read();
+            if (image.isNull())
+                faults << QStringLiteral("%1: %2 does not load (%3)").arg(it.key(), path, reader.errorString());
+            else if (image.width() < 16 || image.height() < 16)
+                faults << QStringLiteral("%1: %2 is smaller than 16 pixels").arg(it.key(), path);
+            // The busy animation takes its frames through QIcon at 16 by 16.
+            if (QIcon(path).pixmap(16, 16).isNull())
+                faults << QStringLiteral("%1: %2 gives no icon pixmap").arg(it.key(), path);
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+        QVERIFY(paths > 150);
+    }
+
+    void iconsHoldAllSizes_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<QString>("key");
+        std::size_t count = 0;
+        const ThemeKeyEntry* catalogue = ThemeKeyCatalogue(&count);
+        for (const QString& theme : kThemes) {
+            for (std::size_t i = 0; i < count; ++i) {
+                if (catalogue[i].use == ThemeKeyUse::Icon)
+                    QTest::addRow("%s %s", qPrintable(theme), catalogue[i].text) << theme << catalogue[i].text;
+            }
+            QTest::addRow("%s MiniButtonToggleOn", qPrintable(theme)) << theme << QStringLiteral("MiniButtonToggleOn");
+        }
+    }
+
+    void iconsHoldAllSizes()
+    {
+        QFETCH(QString, theme);
+        QFETCH(QString, key);
+        ThemeManager* themes = Switch(theme);
+        QVERIFY(themes);
+
+        // The container holds every size, smallest first, as the reader returns them.
+        QString error;
+        const QString path = ReadEntries(ThemeFilePath(theme), &error).value(key).value;
+        QVERIFY2(path.endsWith(QLatin1String(".ico")), qPrintable(path));
+        QImageReader reader(path);
+        QList<int> widths;
+        do {
+            const QImage image = reader.read();
+            if (image.isNull())
+                break;
+            QCOMPARE(image.height(), image.width());
+            widths.append(image.width());
+        } while (reader.jumpToNextImage());
+        QCOMPARE(widths, (QList<int>{16, 24, 32, 48, 64}));
+
+        for (int size : {16, 24, 32, 48, 64}) {
+            const QImage image = themes->GetImage(key, QSize(size, size));
+            QCOMPARE(image.size(), QSize(size, size));
+            // Not an empty canvas: the switch is drawn.
+            int opaque = 0;
+            for (int i = 0; i < size * size; ++i)
+                opaque += qAlpha(image.pixel(i % size, i / size)) > 200 ? 1 : 0;
+            QVERIFY2(opaque > size * size / 8, qPrintable(QStringLiteral("%1 px: %2 opaque").arg(size).arg(opaque)));
+        }
+        // A size between two stored ones gets the narrowest image, never a scaled one.
+        QCOMPARE(themes->GetImage(key, QSize(20, 20)).size(), QSize(16, 16));
+    }
+
+    void everyIconSourceIsCompiledIn()
+    {
+        QDirIterator it(QStringLiteral(KVUICORE_SOURCE_DIR "/resources/icons"), {QStringLiteral("*.svg")}, QDir::Files);
+        QStringList missing;
+        int count = 0;
+        while (it.hasNext()) {
+            it.next();
+            ++count;
+            if (!QFile::exists(QStringLiteral(":/icons/") + it.fileName()))
+                missing << it.fileName();
+        }
+        QVERIFY(count > 0);
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char(' '))));
+    }
+
+    void contrast_data()
+    {
+        catalogueKeys_data();
+    }
+
+    void contrast()
+    {
+        QFETCH(QString, theme);
+        ThemeManager* themes = Switch(theme);
+        QVERIFY(themes);
+        const bool highContrast = theme == QLatin1String("HIGLight");
+
+        QStringList faults;
+        double lowest = 100.0;
+        QString lowestPair;
+        for (const ContrastPair& pair : Pairs()) {
+            const QString fgKey = QString::fromLatin1(pair.foreground);
+            const QString bgKey = QString::fromLatin1(pair.background);
+            const QList<QColor> foregrounds = PaintedColors(themes, fgKey);
+            const QList<QColor> backgrounds = PaintedColors(themes, bgKey);
+            if (foregrounds.isEmpty() || backgrounds.isEmpty()) {
+                faults << QStringLiteral("%1 on %2: a colour is missing").arg(fgKey, bgKey);
+                continue;
+            }
+            const double minimum = Minimum(pair.kind, highContrast);
+            for (const QColor& fg : foregrounds) {
+                for (const QColor& bg : backgrounds) {
+                    const double ratio = ContrastRatio(fg, bg);
+                    const QString name = QStringLiteral("%1 %2 on %3 %4 = %5:1")
+                                             .arg(fgKey, fg.name(), bgKey, bg.name())
+                                             .arg(ratio, 0, 'f', 2);
+                    if (minimum > 0.0 && ratio < lowest) {
+                        lowest = ratio;
+                        lowestPair = name;
+                    }
+                    if (ratio < minimum)
+                        faults << QStringLiteral("%1, below %2:1").arg(name).arg(minimum);
+                }
+            }
+        }
+        qInfo("%s: lowest contrast among checked pairs %s", qPrintable(theme), qPrintable(lowestPair));
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+    }
+};
 
 QTEST_MAIN(tst_BuiltInThemes)
 #include "tst_builtinthemes.moc"

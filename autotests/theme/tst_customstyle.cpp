@@ -11,7 +11,6 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QSlider>
@@ -31,47 +30,63 @@ public:
     using QMenu::initStyleOption;
 };
 
-enum class Look
-{
-    Normal,
-    Hovered,
-    Sunken,
-    Focused,
-    Disabled,
-    Checked,
-};
+enum class Look { Normal, Hovered, Sunken, Focused, Disabled, Checked };
 
-class ProbeCheckBox : public CheckBox
+// Widgets whose style options the probes need.
+template <class Widget>
+struct Probed : Widget
 {
-public:
-    using CheckBox::CheckBox;
-    using CheckBox::initStyleOption;
+    using Widget::Widget;
+    using Widget::initStyleOption;
 };
-
-class ProbeSlider : public QSlider
-{
-public:
-    using QSlider::initStyleOption;
-    using QSlider::QSlider;
-};
-
-class ProbeSpinBox : public QDoubleSpinBox
-{
-public:
-    using QDoubleSpinBox::initStyleOption;
-};
+using ProbeCheckBox = Probed<CheckBox>;
+using ProbeSlider = Probed<QSlider>;
+using ProbeSpinBox = Probed<QDoubleSpinBox>;
 
 ThemeManager* Themes()
 {
     return ThemeManager::GetInstance();
 }
 
-QColor ThemeColor(const QString& key)
+using Probe::ThemeColor;
+
+CustomStyle* Style()
 {
-    const QColor color = Themes()->GetColor(key);
-    if (!color.isValid())
-        qWarning("theme key %s is missing", qPrintable(key));
-    return color;
+    return CustomStyle::GetInstance();
+}
+
+// A sub-control rectangle from our style and from its base style, for a widget.
+template <class Option, class Widget>
+std::pair<QRect, QRect> SubControl(Widget* widget, QStyle::ComplexControl control, QStyle::SubControl sub)
+{
+    Option option;
+    widget->initStyleOption(&option);
+    return {Style()->subControlRect(control, &option, sub, widget),
+            Style()->baseStyle()->subControlRect(control, &option, sub, widget)};
+}
+
+// A menu item as a style paints it over white.
+QImage PaintMenuItem(const QStyle* style, const QStyleOptionMenuItem& option, const QWidget* menu)
+{
+    QImage image(option.rect.size(), QImage::Format_ARGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    style->drawControl(QStyle::CE_MenuItem, &option, &painter, menu);
+    return image;
+}
+
+QRect IndicatorRect(ProbeCheckBox* box)
+{
+    QStyleOptionButton option;
+    box->initStyleOption(&option);
+    return box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+}
+
+bool IsFilledWith(const QImage& image, QRgb color)
+{
+    QImage expected(image.size(), image.format());
+    expected.fill(color);
+    return image == expected;
 }
 
 // Brings a window up and gives the widget keyboard focus.
@@ -104,186 +119,8 @@ void Prepare(QWidget* widget, Look look)
     }
 }
 
-// The colours of the runs along a column that differ from the background.
-QList<Probe::Run> Foreground(const QList<Probe::Run>& runs, QRgb background)
-{
-    QList<Probe::Run> result;
-    for (const Probe::Run& run : runs) {
-        if (run.color != background)
-            result.append(run);
-    }
-    return result;
-}
+using Probe::Foreground;
 
-} // namespace
-
-class tst_CustomStyle : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void focusRectIsNeverPainted_data();
-    void focusRectIsNeverPainted();
-    void metricsAreFixed_data();
-    void metricsAreFixed();
-    void menusScroll();
-    void toolButtonIsAlways28By24();
-    void adjustedRectToPaint_data();
-    void adjustedRectToPaint();
-    void sliderGrooveShrinksByThree();
-    void sliderHandleIsOnePixelLine();
-    void sliderHandleClamps_data();
-    void sliderHandleClamps();
-    void spinBoxEditFieldLosesOnePixel();
-    void checkBoxIndicatorFollowsState_data();
-    void checkBoxIndicatorFollowsState();
-    void checkBoxOutlinesAreCrisp();
-    void toolButtonFollowsState_data();
-    void toolButtonFollowsState();
-    void toolButtonFocusOutline();
-    void sliderGrooveFollowsState_data();
-    void sliderGrooveFollowsState();
-    void spinBoxArrowButtonsUseTheme();
-    void progressGrooveUsesFixedColours();
-    void dropDownMenuItemSizes();
-    void dropDownMenuPaintsItsItems();
-    void plainMenuItemIsPaintedByBaseStyle();
-    void themeSwitchNeedsNoNotice();
-};
-
-void tst_CustomStyle::initTestCase()
-{
-    Probe::UseRepositoryThemes();
-}
-
-void tst_CustomStyle::focusRectIsNeverPainted_data()
-{
-    QTest::addColumn<QString>("widgetKind");
-    QTest::newRow("no widget") << QString();
-    QTest::newRow("push button") << QStringLiteral("button");
-    QTest::newRow("line edit") << QStringLiteral("edit");
-    QTest::newRow("library check box") << QStringLiteral("check");
-}
-
-void tst_CustomStyle::focusRectIsNeverPainted()
-{
-    QFETCH(QString, widgetKind);
-    std::unique_ptr<QWidget> widget;
-    if (widgetKind == QLatin1String("button"))
-        widget = std::make_unique<QPushButton>(QStringLiteral("Go"));
-    else if (widgetKind == QLatin1String("edit"))
-        widget = std::make_unique<QLineEdit>();
-    else if (widgetKind == QLatin1String("check"))
-        widget = std::make_unique<CheckBox>(QStringLiteral("Check"));
-
-    QImage image(40, 20, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    QStyleOptionFocusRect option;
-    option.rect = image.rect();
-    option.state = QStyle::State_HasFocus | QStyle::State_Enabled | QStyle::State_KeyboardFocusChange;
-    CustomStyle::GetInstance()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, widget.get());
-    painter.end();
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            QCOMPARE(image.pixel(x, y), 0u);
-    }
-}
-
-void tst_CustomStyle::metricsAreFixed_data()
-{
-    QTest::addColumn<int>("metric");
-    QTest::addColumn<int>("value");
-    QTest::newRow("spin box frame") << int(QStyle::PM_SpinBoxFrameWidth) << 0;
-    QTest::newRow("slider thickness") << int(QStyle::PM_SliderThickness) << 24;
-    QTest::newRow("slider length") << int(QStyle::PM_SliderLength) << 4;
-    QTest::newRow("menu scroller") << int(QStyle::PM_MenuScrollerHeight) << 16;
-    QTest::newRow("menu h margin") << int(QStyle::PM_MenuHMargin) << 0;
-    QTest::newRow("menu v margin") << int(QStyle::PM_MenuVMargin) << 0;
-    QTest::newRow("menu panel") << int(QStyle::PM_MenuPanelWidth) << 1;
-    QTest::newRow("menu tear-off") << int(QStyle::PM_MenuTearoffHeight) << 16;
-    QTest::newRow("indicator width") << int(QStyle::PM_IndicatorWidth) << 14;
-    QTest::newRow("indicator height") << int(QStyle::PM_IndicatorHeight) << 14;
-}
-
-void tst_CustomStyle::metricsAreFixed()
-{
-    QFETCH(int, metric);
-    QFETCH(int, value);
-    QSlider slider;
-    QCOMPARE(CustomStyle::GetInstance()->pixelMetric(QStyle::PixelMetric(metric)), value);
-    QCOMPARE(CustomStyle::GetInstance()->pixelMetric(QStyle::PixelMetric(metric), nullptr, &slider), value);
-}
-
-void tst_CustomStyle::menusScroll()
-{
-    QCOMPARE(CustomStyle::GetInstance()->styleHint(QStyle::SH_Menu_Scrollable), 1);
-}
-
-void tst_CustomStyle::toolButtonIsAlways28By24()
-{
-    ToolButton button;
-    button.setIconSize(QSize(64, 64));
-    button.setText(QStringLiteral("A long tool button text"));
-    button.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    QStyleOptionToolButton option;
-    option.initFrom(&button);
-    option.iconSize = QSize(64, 64);
-    QCOMPARE(CustomStyle::GetInstance()->sizeFromContents(QStyle::CT_ToolButton, &option, QSize(200, 90), &button),
-             QSize(28, 24));
-    QCOMPARE(button.sizeHint(), QSize(28, 24));
-}
-
-void tst_CustomStyle::adjustedRectToPaint_data()
-{
-    QTest::addColumn<int>("penWidth");
-    QTest::addColumn<QRect>("expected");
-    QTest::newRow("one") << 1 << QRect(QPoint(10, 20), QPoint(58, 38));
-    QTest::newRow("two") << 2 << QRect(QPoint(11, 21), QPoint(58, 38));
-    QTest::newRow("three") << 3 << QRect(QPoint(11, 21), QPoint(57, 37));
-}
-
-void tst_CustomStyle::adjustedRectToPaint()
-{
-    QFETCH(int, penWidth);
-    QFETCH(QRect, expected);
-    QCOMPARE(CustomStyle::AdjustedRectToPaint(QRect(10, 20, 50, 20), penWidth), expected);
-}
-
-void tst_CustomStyle::sliderGrooveShrinksByThree()
-{
-    ProbeSlider slider(Qt::Horizontal);
-    slider.setStyle(CustomStyle::GetInstance());
-    slider.resize(200, 24);
-    QStyleOptionSlider option;
-    slider.initStyleOption(&option);
-    const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_Slider, &option,
-                                                                               QStyle::SC_SliderGroove, &slider);
-    QCOMPARE(CustomStyle::GetInstance()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider),
-             base.adjusted(3, 3, -3, -3));
-}
-
-void tst_CustomStyle::sliderHandleIsOnePixelLine()
-{
-    ProbeSlider slider(Qt::Horizontal);
-    slider.setStyle(CustomStyle::GetInstance());
-    slider.resize(200, 24);
-    slider.setRange(0, 100);
-    slider.setValue(40);
-    QStyleOptionSlider option;
-    slider.initStyleOption(&option);
-    const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_Slider, &option,
-                                                                               QStyle::SC_SliderHandle, &slider);
-    const QRect handle =
-        CustomStyle::GetInstance()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider);
-    QCOMPARE(handle.width(), 1);
-    QCOMPARE(handle.top(), base.top() + 3);
-    QCOMPARE(handle.height(), base.height() - 6);
-    QVERIFY(handle.left() >= base.left() && handle.left() <= base.right());
-}
-
-namespace {
 // A base style whose slider handle is wherever the test puts it.
 class FixedHandleStyle : public QProxyStyle
 {
@@ -303,459 +140,514 @@ public:
 };
 } // namespace
 
-void tst_CustomStyle::sliderHandleClamps_data()
+class tst_CustomStyle : public QObject
 {
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("right");
-    QTest::addColumn<int>("expectedX");
-    // x = left + right / 2, kept inside [left + 3, right - 3].
-    QTest::newRow("inside") << 10 << 30 << 25;
-    QTest::newRow("clamped to the right") << 20 << 30 << 27;
-    QTest::newRow("from zero") << 0 << 30 << 15;
-    QTest::newRow("narrow handle") << 10 << 12 << 9;
-}
+    Q_OBJECT
 
-void tst_CustomStyle::sliderHandleClamps()
-{
-    QFETCH(int, left);
-    QFETCH(int, right);
-    QFETCH(int, expectedX);
-    CustomStyle* style = CustomStyle::GetInstance();
-    style->setBaseStyle(new FixedHandleStyle(QRect(QPoint(left, 0), QPoint(right, 23))));
-    QStyleOptionSlider option;
-    option.orientation = Qt::Horizontal;
-    option.rect = QRect(0, 0, 200, 24);
-    const QRect handle = style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, nullptr);
-    style->setBaseStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QCOMPARE(handle, QRect(expectedX, 3, 1, 18));
-}
+private Q_SLOTS:
+    void initTestCase()
+    {
+        Probe::UseRepositoryThemes();
+    }
 
-void tst_CustomStyle::spinBoxEditFieldLosesOnePixel()
-{
-    ProbeSpinBox spin;
-    spin.setStyle(CustomStyle::GetInstance());
-    spin.resize(120, 24);
-    QStyleOptionSpinBox option;
-    spin.initStyleOption(&option);
-    const QRect base = CustomStyle::GetInstance()->baseStyle()->subControlRect(QStyle::CC_SpinBox, &option,
-                                                                               QStyle::SC_SpinBoxEditField, &spin);
-    QCOMPARE(
-        CustomStyle::GetInstance()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, &spin),
-        base.adjusted(0, 0, -1, 0));
-}
+    void focusRectIsNeverPainted_data()
+    {
+        QTest::addColumn<QString>("widgetKind");
+        QTest::newRow("no widget") << QString();
+        QTest::newRow("push button") << QStringLiteral("button");
+        QTest::newRow("line edit") << QStringLiteral("edit");
+        QTest::newRow("library check box") << QStringLiteral("check");
+    }
 
-void tst_CustomStyle::checkBoxIndicatorFollowsState_data()
-{
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<Look>("look");
-    QTest::addColumn<bool>("checked");
-    // HIGLight defines the optional ring colours, Light does not.
-    for (const char* theme : {"Light", "HIGLight"}) {
-        for (const bool checked : {false, true}) {
-            const QString suffix = QLatin1String(checked ? " checked, " : " unchecked, ") + QLatin1String(theme);
-            QTest::newRow(qPrintable(QStringLiteral("normal") + suffix))
-                << QString::fromLatin1(theme) << Look::Normal << checked;
-            QTest::newRow(qPrintable(QStringLiteral("hovered") + suffix))
-                << QString::fromLatin1(theme) << Look::Hovered << checked;
-            QTest::newRow(qPrintable(QStringLiteral("sunken") + suffix))
-                << QString::fromLatin1(theme) << Look::Sunken << checked;
-            QTest::newRow(qPrintable(QStringLiteral("focused") + suffix))
-                << QString::fromLatin1(theme) << Look::Focused << checked;
-            QTest::newRow(qPrintable(QStringLiteral("disabled") + suffix))
-                << QString::fromLatin1(theme) << Look::Disabled << checked;
+    void focusRectIsNeverPainted()
+    {
+        QFETCH(QString, widgetKind);
+        std::unique_ptr<QWidget> widget;
+        if (widgetKind == QLatin1String("button"))
+            widget = std::make_unique<QPushButton>(QStringLiteral("Go"));
+        else if (widgetKind == QLatin1String("edit"))
+            widget = std::make_unique<QLineEdit>();
+        else if (widgetKind == QLatin1String("check"))
+            widget = std::make_unique<CheckBox>(QStringLiteral("Check"));
+
+        QImage image(40, 20, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        QStyleOptionFocusRect option;
+        option.rect = image.rect();
+        option.state = QStyle::State_HasFocus | QStyle::State_Enabled | QStyle::State_KeyboardFocusChange;
+        Style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, widget.get());
+        painter.end();
+        QVERIFY(IsFilledWith(image, 0u));
+    }
+
+    void metricsAreFixed_data()
+    {
+        QTest::addColumn<int>("metric");
+        QTest::addColumn<int>("value");
+        QTest::newRow("spin box frame") << int(QStyle::PM_SpinBoxFrameWidth) << 0;
+        QTest::newRow("slider thickness") << int(QStyle::PM_SliderThickness) << 24;
+        QTest::newRow("slider length") << int(QStyle::PM_SliderLength) << 4;
+        QTest::newRow("menu scroller") << int(QStyle::PM_MenuScrollerHeight) << 16;
+        QTest::newRow("menu h margin") << int(QStyle::PM_MenuHMargin) << 0;
+        QTest::newRow("menu v margin") << int(QStyle::PM_MenuVMargin) << 0;
+        QTest::newRow("menu panel") << int(QStyle::PM_MenuPanelWidth) << 1;
+        QTest::newRow("menu tear-off") << int(QStyle::PM_MenuTearoffHeight) << 16;
+        QTest::newRow("indicator width") << int(QStyle::PM_IndicatorWidth) << 14;
+        QTest::newRow("indicator height") << int(QStyle::PM_IndicatorHeight) << 14;
+        QTest::newRow("menus scroll") << -1 << 1;
+    }
+
+    void metricsAreFixed()
+    {
+        QFETCH(int, metric);
+        QFETCH(int, value);
+        QSlider slider;
+        if (metric < 0) {
+            QCOMPARE(Style()->styleHint(QStyle::SH_Menu_Scrollable), value);
+            return;
+        }
+        QCOMPARE(Style()->pixelMetric(QStyle::PixelMetric(metric)), value);
+        QCOMPARE(Style()->pixelMetric(QStyle::PixelMetric(metric), nullptr, &slider), value);
+    }
+
+    void toolButtonIsAlways28By24()
+    {
+        ToolButton button;
+        button.setIconSize(QSize(64, 64));
+        button.setText(QStringLiteral("A long tool button text"));
+        button.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        QStyleOptionToolButton option;
+        option.initFrom(&button);
+        option.iconSize = QSize(64, 64);
+        QCOMPARE(Style()->sizeFromContents(QStyle::CT_ToolButton, &option, QSize(200, 90), &button),
+                 QSize(28, 24));
+        QCOMPARE(button.sizeHint(), QSize(28, 24));
+    }
+
+    void adjustedRectToPaint_data()
+    {
+        QTest::addColumn<int>("penWidth");
+        QTest::addColumn<QRect>("expected");
+        QTest::newRow("one") << 1 << QRect(QPoint(10, 20), QPoint(58, 38));
+        QTest::newRow("two") << 2 << QRect(QPoint(11, 21), QPoint(58, 38));
+        QTest::newRow("three") << 3 << QRect(QPoint(11, 21), QPoint(57, 37));
+    }
+
+    void adjustedRectToPaint()
+    {
+        QFETCH(int, penWidth);
+        QFETCH(QRect, expected);
+        QCOMPARE(CustomStyle::AdjustedRectToPaint(QRect(10, 20, 50, 20), penWidth), expected);
+    }
+
+    void subControlsAdjustTheBaseStyle()
+    {
+        // The slider groove shrinks by three, the spin box edit field loses a pixel.
+        ProbeSlider slider(Qt::Horizontal);
+        slider.setStyle(Style());
+        slider.resize(200, 24);
+        slider.setRange(0, 100);
+        slider.setValue(40);
+        const auto groove = SubControl<QStyleOptionSlider>(&slider, QStyle::CC_Slider, QStyle::SC_SliderGroove);
+        QCOMPARE(groove.first, groove.second.adjusted(3, 3, -3, -3));
+        ProbeSpinBox spin;
+        spin.setStyle(Style());
+        spin.resize(120, 24);
+        const auto edit = SubControl<QStyleOptionSpinBox>(&spin, QStyle::CC_SpinBox, QStyle::SC_SpinBoxEditField);
+        QCOMPARE(edit.first, edit.second.adjusted(0, 0, -1, 0));
+
+        // The slider handle is a one pixel line inside the base handle.
+        const auto [handle, base] = SubControl<QStyleOptionSlider>(&slider, QStyle::CC_Slider, QStyle::SC_SliderHandle);
+        QCOMPARE(handle.width(), 1);
+        QCOMPARE(handle.top(), base.top() + 3);
+        QCOMPARE(handle.height(), base.height() - 6);
+        QVERIFY(handle.left() >= base.left() && handle.left() <= base.right());
+    }
+
+    void sliderHandleClamps_data()
+    {
+        QTest::addColumn<int>("left");
+        QTest::addColumn<int>("right");
+        QTest::addColumn<int>("expectedX");
+        // x = left + right / 2, kept inside [left + 3, right - 3].
+        QTest::newRow("inside") << 10 << 30 << 25;
+        QTest::newRow("clamped to the right") << 20 << 30 << 27;
+        QTest::newRow("from zero") << 0 << 30 << 15;
+        QTest::newRow("narrow handle") << 10 << 12 << 9;
+    }
+
+    void sliderHandleClamps()
+    {
+        QFETCH(int, left);
+        QFETCH(int, right);
+        QFETCH(int, expectedX);
+        CustomStyle* style = Style();
+        style->setBaseStyle(new FixedHandleStyle(QRect(QPoint(left, 0), QPoint(right, 23))));
+        QStyleOptionSlider option;
+        option.orientation = Qt::Horizontal;
+        option.rect = QRect(0, 0, 200, 24);
+        const QRect handle = style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, nullptr);
+        style->setBaseStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        QCOMPARE(handle, QRect(expectedX, 3, 1, 18));
+    }
+
+    void checkBoxIndicatorFollowsState_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<Look>("look");
+        QTest::addColumn<bool>("checked");
+        // HIGLight defines the optional ring colours, Light does not.
+        for (const char* theme : {"Light", "HIGLight"}) {
+            for (const bool checked : {false, true}) {
+                for (const auto& [name, look] : {std::pair{"normal", Look::Normal}, {"hovered", Look::Hovered},
+                                                 {"sunken", Look::Sunken}, {"focused", Look::Focused},
+                                                 {"disabled", Look::Disabled}})
+                    QTest::addRow("%s %s, %s", name, checked ? "checked" : "unchecked", theme)
+                        << QString::fromLatin1(theme) << look << checked;
+            }
         }
     }
-}
 
-void tst_CustomStyle::checkBoxIndicatorFollowsState()
-{
-    QFETCH(QString, theme);
-    QFETCH(Look, look);
-    QFETCH(bool, checked);
-    QVERIFY(Themes()->SetCurrentTheme(theme));
-    const auto restore = qScopeGuard([] { Themes()->SetCurrentTheme(QStringLiteral("Light")); });
-    ProbeCheckBox box(QStringLiteral("Probe"));
-    box.setChecked(checked);
-    box.resize(120, 24);
-    Prepare(&box, look);
-    if (look == Look::Sunken)
-        box.setDown(true);
+    void checkBoxIndicatorFollowsState()
+    {
+        QFETCH(QString, theme);
+        QFETCH(Look, look);
+        QFETCH(bool, checked);
+        QVERIFY(Themes()->SetCurrentTheme(theme));
+        const auto restore = qScopeGuard([] { Themes()->SetCurrentTheme(QStringLiteral("Light")); });
+        ProbeCheckBox box(QStringLiteral("Probe"));
+        box.setChecked(checked);
+        box.resize(120, 24);
+        Prepare(&box, look);
+        if (look == Look::Sunken)
+            box.setDown(true);
 
-    QString outlineKey = checked ? ThemeFileKey::WidgetOutline10 : ThemeFileKey::WidgetOutline9;
-    QString fillKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetContainer9;
-    QString ringKey;
-    switch (look) {
-    case Look::Focused:
-        outlineKey = ThemeFileKey::FocusOutline1;
-        fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
-        ringKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetOutline6;
-        break;
-    case Look::Sunken:
-        outlineKey = checked ? ThemeFileKey::ClickOutline2 : ThemeFileKey::ClickOutline1;
-        fillKey = checked ? ThemeFileKey::ClickContainer2 : ThemeFileKey::ClickContainer1;
-        if (Themes()->Exists(ThemeFileKey::FocusOutline4))
-            ringKey = checked ? ThemeFileKey::FocusOutline2 : ThemeFileKey::FocusOutline4;
-        break;
-    case Look::Hovered:
-        outlineKey = ThemeFileKey::HoverOutline7;
-        fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
-        if (Themes()->Exists(ThemeFileKey::FocusOutline3) && Themes()->Exists(ThemeFileKey::FocusOutline7))
-            ringKey = checked ? ThemeFileKey::FocusOutline7 : ThemeFileKey::FocusOutline3;
-        break;
-    default:
-        break;
+        QString outlineKey = checked ? ThemeFileKey::WidgetOutline10 : ThemeFileKey::WidgetOutline9;
+        QString fillKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetContainer9;
+        QString ringKey;
+        switch (look) {
+        case Look::Focused:
+            outlineKey = ThemeFileKey::FocusOutline1;
+            fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
+            ringKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetOutline6;
+            break;
+        case Look::Sunken:
+            outlineKey = checked ? ThemeFileKey::ClickOutline2 : ThemeFileKey::ClickOutline1;
+            fillKey = checked ? ThemeFileKey::ClickContainer2 : ThemeFileKey::ClickContainer1;
+            if (Themes()->Exists(ThemeFileKey::FocusOutline4))
+                ringKey = checked ? ThemeFileKey::FocusOutline2 : ThemeFileKey::FocusOutline4;
+            break;
+        case Look::Hovered:
+            outlineKey = ThemeFileKey::HoverOutline7;
+            fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
+            if (Themes()->Exists(ThemeFileKey::FocusOutline3) && Themes()->Exists(ThemeFileKey::FocusOutline7))
+                ringKey = checked ? ThemeFileKey::FocusOutline7 : ThemeFileKey::FocusOutline3;
+            break;
+        default:
+            break;
+        }
+        const QColor outline = ThemeColor(outlineKey);
+        QVERIFY2(outline.isValid(), qPrintable(outlineKey));
+        QVERIFY2(Themes()->GetBrush(fillKey, QRect(0, 0, 10, 10)).style() != Qt::NoBrush, qPrintable(fillKey));
+
+        const QRect indicator = IndicatorRect(&box);
+        const QImage image = Probe::Grab(&box);
+        const int b = Probe::Bucket(image);
+        const int left = Probe::DeviceCeil(image, indicator.left());
+        const int top = Probe::DeviceCeil(image, indicator.top());
+        const int column = Probe::DeviceFloor(image, indicator.center().x() + 0.5) - 1;
+        const QColor background = box.palette().color(QPalette::Window);
+
+        // The ring, then the outline, each one stroke, then the fill.
+        const QColor ring = Probe::Pixel(image, column, top);
+        if (ringKey.isEmpty())
+            PROBE_COMPARE_COLOR(ring, background);
+        else
+            PROBE_COMPARE_COLOR(ring, ThemeColor(ringKey));
+        for (int i = 0; i < b; ++i)
+            PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + b + i), outline);
+
+        const int fillY = top + 2 * b;
+        const int right = Probe::DeviceFloor(image, indicator.left() + indicator.width() + 0.01);
+        const int bottom = Probe::DeviceFloor(image, indicator.top() + indicator.height() + 0.01);
+        const qreal ratio = image.devicePixelRatio();
+        const QRectF fillRect(QPointF((left + 2 * b) / ratio, fillY / ratio),
+                              QPointF((right - 2 * b) / ratio, (bottom - 2 * b) / ratio));
+        QBrush fill = Themes()->GetBrush(fillKey, fillRect.toAlignedRect());
+        if (look == Look::Disabled) {
+            if (const QGradient* gradient = fill.gradient()) {
+                QGradient dimmed = *gradient;
+                QGradientStops stops = dimmed.stops();
+                for (auto& stop : stops)
+                    stop.second = Internal::DimmedColor(stop.second);
+                dimmed.setStops(stops);
+                fill = QBrush(dimmed);
+            } else {
+                fill.setColor(Internal::DimmedColor(fill.color()));
+            }
+        }
+        const QColor expectedFill = Probe::Reference(image, background, fill, fillRect, column, fillY + 1);
+        QVERIFY2(Probe::Near(Probe::Pixel(image, column, fillY + 1), expectedFill, fill.gradient() ? 8 : 2),
+                 qPrintable(Probe::Pixel(image, column, fillY + 1).name(QColor::HexArgb) + " vs " +
+                            expectedFill.name(QColor::HexArgb)));
     }
-    const QColor outline = ThemeColor(outlineKey);
-    QVERIFY2(outline.isValid(), qPrintable(outlineKey));
-    QVERIFY2(Themes()->GetBrush(fillKey, QRect(0, 0, 10, 10)).style() != Qt::NoBrush, qPrintable(fillKey));
 
-    QStyleOptionButton option;
-    box.initStyleOption(&option);
-    const QRect indicator = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
-    const QImage image = Probe::Grab(&box);
-    const int b = Probe::Bucket(image);
-    const int left = Probe::DeviceCeil(image, indicator.left());
-    const int top = Probe::DeviceCeil(image, indicator.top());
-    const int column = Probe::DeviceFloor(image, indicator.center().x() + 0.5) - 1;
-    const QColor background = box.palette().color(QPalette::Window);
+    void checkBoxOutlinesAreCrisp()
+    {
+        // Along a column through the box, every pixel is exactly one of the
+        // colours painted: no blended half pixels, and each edge one stroke wide.
+        ProbeCheckBox box(QStringLiteral("Probe"));
+        box.resize(120, 24);
+        const QRect indicator = IndicatorRect(&box);
+        const QImage image = Probe::Grab(&box);
+        const int b = Probe::Bucket(image);
+        const int column = Probe::DeviceFloor(image, indicator.center().x() + 0.5) - 1;
+        const QRgb background = box.palette().color(QPalette::Window).rgba();
+        const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background);
+        QVERIFY2(runs.size() >= 3, qPrintable(Probe::Describe(runs)));
+        const QColor outline = ThemeColor(ThemeFileKey::WidgetOutline9);
+        PROBE_COMPARE_COLOR(QColor::fromRgba(runs.first().color), outline);
+        QCOMPARE(runs.first().length, b);
+        PROBE_COMPARE_COLOR(QColor::fromRgba(runs.last().color), outline);
+        QCOMPARE(runs.last().length, b);
+        // The edges lie on the device grid where the indicator starts.
+        QCOMPARE(runs.first().start, Probe::DeviceCeil(image, indicator.top()) + b);
 
-    // The ring, then the outline, each one stroke, then the fill.
-    const QColor ring = Probe::Pixel(image, column, top);
-    if (ringKey.isEmpty())
-        PROBE_COMPARE_COLOR(ring, background);
-    else
-        PROBE_COMPARE_COLOR(ring, ThemeColor(ringKey));
-    for (int i = 0; i < b; ++i)
-        PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + b + i), outline);
+        // The same along a row.
+        const int row = Probe::DeviceFloor(image, indicator.center().y() + 0.5) - 1;
+        const QList<Probe::Run> across =
+            Foreground(Probe::Runs(image, row, 0, Probe::DeviceFloor(image, indicator.right() + 2), false), background);
+        QVERIFY2(across.size() >= 3, qPrintable(Probe::Describe(across)));
+        QCOMPARE(across.first().length, b);
+        QCOMPARE(across.last().length, b);
+    }
 
-    const int fillY = top + 2 * b;
-    const int right = Probe::DeviceFloor(image, indicator.left() + indicator.width() + 0.01);
-    const int bottom = Probe::DeviceFloor(image, indicator.top() + indicator.height() + 0.01);
-    const qreal ratio = image.devicePixelRatio();
-    const QRectF fillRect(QPointF((left + 2 * b) / ratio, fillY / ratio),
-                          QPointF((right - 2 * b) / ratio, (bottom - 2 * b) / ratio));
-    QBrush fill = Themes()->GetBrush(fillKey, fillRect.toAlignedRect());
-    if (look == Look::Disabled) {
-        if (const QGradient* gradient = fill.gradient()) {
-            QGradient dimmed = *gradient;
-            QGradientStops stops = dimmed.stops();
-            for (auto& stop : stops)
-                stop.second = Internal::DimmedColor(stop.second);
-            dimmed.setStops(stops);
-            fill = QBrush(dimmed);
-        } else {
-            fill.setColor(Internal::DimmedColor(fill.color()));
+    void toolButtonFollowsState_data()
+    {
+        QTest::addColumn<Look>("look");
+        QTest::addColumn<QString>("outlineKey");
+        QTest::addColumn<QString>("fillKey");
+        QTest::newRow("disabled") << Look::Disabled << ThemeFileKey::WidgetOutlineDisable
+                                  << ThemeFileKey::WidgetContainerDisable;
+        QTest::newRow("sunken") << Look::Sunken << ThemeFileKey::ClickOutline1 << ThemeFileKey::ClickContainer1;
+        QTest::newRow("checked") << Look::Checked << ThemeFileKey::ClickOutline1 << ThemeFileKey::ClickContainer1;
+        QTest::newRow("hovered") << Look::Hovered << ThemeFileKey::HoverOutline1 << ThemeFileKey::HoverContainer1;
+        QTest::newRow("idle") << Look::Normal << QString() << QString();
+    }
+
+    void toolButtonFollowsState()
+    {
+        QFETCH(Look, look);
+        QFETCH(QString, outlineKey);
+        QFETCH(QString, fillKey);
+        ToolButton button;
+        button.resize(28, 24);
+        Prepare(&button, look);
+        if (look == Look::Sunken)
+            button.setDown(true);
+        if (look == Look::Checked) {
+            button.setCheckable(true);
+            button.setChecked(true);
+        }
+        const QImage image = Probe::Grab(&button);
+        const int b = Probe::Bucket(image);
+        const QColor background = button.palette().color(QPalette::Window);
+        const int column = image.width() / 2;
+        const int top = Probe::DeviceCeil(image, 2);
+        if (outlineKey.isEmpty()) {
+            for (int y = 0; y < image.height(); ++y)
+                PROBE_COMPARE_COLOR(Probe::Pixel(image, column, y), background);
+            return;
+        }
+        const QColor outline = ThemeColor(outlineKey);
+        QVERIFY2(outline.isValid(), qPrintable(outlineKey));
+        const QBrush fill = Themes()->GetBrush(fillKey, QRect(2, 2, 24, 20));
+        QVERIFY2(fill.style() != Qt::NoBrush, qPrintable(fillKey));
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top - 1), background);
+        for (int i = 0; i < b; ++i)
+            PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), outline);
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + b + 1), Probe::Composite(background, fill));
+    }
+
+    void toolButtonFocusOutline()
+    {
+        ToolButton button;
+        button.resize(28, 24);
+        QVERIFY(Focus(&button));
+        const QColor focus = ThemeColor(ThemeFileKey::DropDownButtonFocusOutline);
+        QVERIFY(focus.isValid());
+        const QImage image = Probe::Grab(&button);
+        const int b = Probe::Bucket(image);
+        const int column = image.width() / 2;
+        const int top = Probe::DeviceCeil(image, 1);
+        for (int i = 0; i < b; ++i)
+            PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), focus);
+        // One pixel in from the right edge too.
+        const int right = Probe::DeviceFloor(image, button.width() - 1) - 1;
+        const int middle = image.height() / 2;
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, right, middle), focus);
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, Probe::DeviceCeil(image, 1), middle), focus);
+        const bool wideMargin = Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1;
+        const QColor outer = Probe::Pixel(image, column, 0);
+        if (wideMargin)
+            PROBE_COMPARE_COLOR(outer, focus);
+        else if (top > 0)
+            PROBE_COMPARE_COLOR(outer, button.palette().color(QPalette::Window));
+    }
+
+    void sliderGrooveFollowsState_data()
+    {
+        QTest::addColumn<Look>("look");
+        QTest::addColumn<QString>("outlineKey");
+        QTest::addColumn<QString>("fillKey");
+        QTest::newRow("normal") << Look::Normal << ThemeFileKey::WidgetOutline4 << ThemeFileKey::WidgetContainer5;
+        QTest::newRow("hovered") << Look::Hovered << ThemeFileKey::HoverOutline4 << ThemeFileKey::ActiveContainer2;
+        QTest::newRow("focused") << Look::Focused << ThemeFileKey::WidgetOutline6 << ThemeFileKey::WidgetContainer10;
+        QTest::newRow("disabled") << Look::Disabled << ThemeFileKey::WidgetOutline4 << ThemeFileKey::WidgetContainer5;
+    }
+
+    void sliderGrooveFollowsState()
+    {
+        QFETCH(Look, look);
+        QFETCH(QString, outlineKey);
+        QFETCH(QString, fillKey);
+        ProbeSlider slider(Qt::Horizontal);
+        slider.setStyle(Style());
+        slider.setAttribute(Qt::WA_Hover);
+        slider.setFocusPolicy(Qt::StrongFocus);
+        slider.setRange(0, 100);
+        slider.setValue(0);
+        slider.resize(200, 24);
+        Prepare(&slider, look);
+
+        QColor outline = ThemeColor(outlineKey);
+        QColor fill = ThemeColor(fillKey);
+        QVERIFY2(outline.isValid(), qPrintable(outlineKey));
+        QVERIFY2(fill.isValid(), qPrintable(fillKey));
+        const QColor background = slider.palette().color(QPalette::Window);
+        if (look == Look::Disabled) {
+            outline = Probe::Composite(background, Internal::DimmedColor(outline));
+            fill = Probe::Composite(background, Internal::DimmedColor(fill));
+        }
+
+        QStyleOptionSlider option;
+        slider.initStyleOption(&option);
+        const QRect groove = slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
+        const QImage image = Probe::Grab(&slider);
+        const int b = Probe::Bucket(image);
+        const int column = Probe::DeviceFloor(image, groove.right() - 10);
+        const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background.rgba());
+        QList<QColor> expected{outline, fill, outline};
+        if (look == Look::Focused) {
+            const QColor ring = ThemeColor(ThemeFileKey::FocusOutline2);
+            QVERIFY(ring.isValid());
+            expected = {ring, outline, fill, outline, ring};
+        }
+        QVERIFY2(runs.size() == expected.size(), qPrintable(Probe::Describe(runs)));
+        for (int i = 0; i < expected.size(); ++i) {
+            PROBE_COMPARE_COLOR(QColor::fromRgba(runs.at(i).color), expected.at(i));
+            if (expected.at(i) != fill)
+                QCOMPARE(runs.at(i).length, b);
         }
     }
-    const QColor expectedFill = Probe::Reference(image, background, fill, fillRect, column, fillY + 1);
-    QVERIFY2(Probe::Near(Probe::Pixel(image, column, fillY + 1), expectedFill, fill.gradient() ? 8 : 2),
-             qPrintable(Probe::Pixel(image, column, fillY + 1).name(QColor::HexArgb) + " vs " +
-                        expectedFill.name(QColor::HexArgb)));
-}
 
-void tst_CustomStyle::checkBoxOutlinesAreCrisp()
-{
-    // Along a column through the box, every pixel is exactly one of the
-    // colours painted: no blended half pixels, and each edge one stroke wide.
-    ProbeCheckBox box(QStringLiteral("Probe"));
-    box.resize(120, 24);
-    QStyleOptionButton option;
-    box.initStyleOption(&option);
-    const QRect indicator = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
-    const QImage image = Probe::Grab(&box);
-    const int b = Probe::Bucket(image);
-    const int column = Probe::DeviceFloor(image, indicator.center().x() + 0.5) - 1;
-    const QRgb background = box.palette().color(QPalette::Window).rgba();
-    const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background);
-    QVERIFY2(runs.size() >= 3, qPrintable(Probe::Describe(runs)));
-    const QColor outline = ThemeColor(ThemeFileKey::WidgetOutline9);
-    PROBE_COMPARE_COLOR(QColor::fromRgba(runs.first().color), outline);
-    QCOMPARE(runs.first().length, b);
-    PROBE_COMPARE_COLOR(QColor::fromRgba(runs.last().color), outline);
-    QCOMPARE(runs.last().length, b);
-    // The edges lie on the device grid where the indicator starts.
-    QCOMPARE(runs.first().start, Probe::DeviceCeil(image, indicator.top()) + b);
-
-    // The same along a row.
-    const int row = Probe::DeviceFloor(image, indicator.center().y() + 0.5) - 1;
-    const QList<Probe::Run> across =
-        Foreground(Probe::Runs(image, row, 0, Probe::DeviceFloor(image, indicator.right() + 2), false), background);
-    QVERIFY2(across.size() >= 3, qPrintable(Probe::Describe(across)));
-    QCOMPARE(across.first().length, b);
-    QCOMPARE(across.last().length, b);
-}
-
-void tst_CustomStyle::toolButtonFollowsState_data()
-{
-    QTest::addColumn<Look>("look");
-    QTest::addColumn<QString>("outlineKey");
-    QTest::addColumn<QString>("fillKey");
-    QTest::newRow("disabled") << Look::Disabled << ThemeFileKey::WidgetOutlineDisable
-                              << ThemeFileKey::WidgetContainerDisable;
-    QTest::newRow("sunken") << Look::Sunken << ThemeFileKey::ClickOutline1 << ThemeFileKey::ClickContainer1;
-    QTest::newRow("checked") << Look::Checked << ThemeFileKey::ClickOutline1 << ThemeFileKey::ClickContainer1;
-    QTest::newRow("hovered") << Look::Hovered << ThemeFileKey::HoverOutline1 << ThemeFileKey::HoverContainer1;
-    QTest::newRow("idle") << Look::Normal << QString() << QString();
-}
-
-void tst_CustomStyle::toolButtonFollowsState()
-{
-    QFETCH(Look, look);
-    QFETCH(QString, outlineKey);
-    QFETCH(QString, fillKey);
-    ToolButton button;
-    button.resize(28, 24);
-    Prepare(&button, look);
-    if (look == Look::Sunken)
-        button.setDown(true);
-    if (look == Look::Checked) {
-        button.setCheckable(true);
-        button.setChecked(true);
-    }
-    const QImage image = Probe::Grab(&button);
-    const int b = Probe::Bucket(image);
-    const QColor background = button.palette().color(QPalette::Window);
-    const int column = image.width() / 2;
-    const int top = Probe::DeviceCeil(image, 2);
-    if (outlineKey.isEmpty()) {
-        for (int y = 0; y < image.height(); ++y)
-            PROBE_COMPARE_COLOR(Probe::Pixel(image, column, y), background);
-        return;
-    }
-    const QColor outline = ThemeColor(outlineKey);
-    QVERIFY2(outline.isValid(), qPrintable(outlineKey));
-    const QBrush fill = Themes()->GetBrush(fillKey, QRect(2, 2, 24, 20));
-    QVERIFY2(fill.style() != Qt::NoBrush, qPrintable(fillKey));
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top - 1), background);
-    for (int i = 0; i < b; ++i)
-        PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), outline);
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + b + 1), Probe::Composite(background, fill));
-}
-
-void tst_CustomStyle::toolButtonFocusOutline()
-{
-    ToolButton button;
-    button.resize(28, 24);
-    QVERIFY(Focus(&button));
-    const QColor focus = ThemeColor(ThemeFileKey::DropDownButtonFocusOutline);
-    QVERIFY(focus.isValid());
-    const QImage image = Probe::Grab(&button);
-    const int b = Probe::Bucket(image);
-    const int column = image.width() / 2;
-    const int top = Probe::DeviceCeil(image, 1);
-    for (int i = 0; i < b; ++i)
-        PROBE_COMPARE_COLOR(Probe::Pixel(image, column, top + i), focus);
-    // One pixel in from the right edge too.
-    const int right = Probe::DeviceFloor(image, button.width() - 1) - 1;
-    const int middle = image.height() / 2;
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, right, middle), focus);
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, Probe::DeviceCeil(image, 1), middle), focus);
-    const bool wideMargin = Themes()->GetInt(ThemeFileKey::ButtonFocusMarginWidth) > 1;
-    const QColor outer = Probe::Pixel(image, column, 0);
-    if (wideMargin)
-        PROBE_COMPARE_COLOR(outer, focus);
-    else if (top > 0)
-        PROBE_COMPARE_COLOR(outer, button.palette().color(QPalette::Window));
-}
-
-void tst_CustomStyle::sliderGrooveFollowsState_data()
-{
-    QTest::addColumn<Look>("look");
-    QTest::addColumn<QString>("outlineKey");
-    QTest::addColumn<QString>("fillKey");
-    QTest::newRow("normal") << Look::Normal << ThemeFileKey::WidgetOutline4 << ThemeFileKey::WidgetContainer5;
-    QTest::newRow("hovered") << Look::Hovered << ThemeFileKey::HoverOutline4 << ThemeFileKey::ActiveContainer2;
-    QTest::newRow("focused") << Look::Focused << ThemeFileKey::WidgetOutline6 << ThemeFileKey::WidgetContainer10;
-    QTest::newRow("disabled") << Look::Disabled << ThemeFileKey::WidgetOutline4 << ThemeFileKey::WidgetContainer5;
-}
-
-void tst_CustomStyle::sliderGrooveFollowsState()
-{
-    QFETCH(Look, look);
-    QFETCH(QString, outlineKey);
-    QFETCH(QString, fillKey);
-    ProbeSlider slider(Qt::Horizontal);
-    slider.setStyle(CustomStyle::GetInstance());
-    slider.setAttribute(Qt::WA_Hover);
-    slider.setFocusPolicy(Qt::StrongFocus);
-    slider.setRange(0, 100);
-    slider.setValue(0);
-    slider.resize(200, 24);
-    Prepare(&slider, look);
-
-    QColor outline = ThemeColor(outlineKey);
-    QColor fill = ThemeColor(fillKey);
-    QVERIFY2(outline.isValid(), qPrintable(outlineKey));
-    QVERIFY2(fill.isValid(), qPrintable(fillKey));
-    const QColor background = slider.palette().color(QPalette::Window);
-    if (look == Look::Disabled) {
-        outline = Probe::Composite(background, Internal::DimmedColor(outline));
-        fill = Probe::Composite(background, Internal::DimmedColor(fill));
-    }
-
-    QStyleOptionSlider option;
-    slider.initStyleOption(&option);
-    const QRect groove = slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
-    const QImage image = Probe::Grab(&slider);
-    const int b = Probe::Bucket(image);
-    const int column = Probe::DeviceFloor(image, groove.right() - 10);
-    const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background.rgba());
-    QList<QColor> expected{outline, fill, outline};
-    if (look == Look::Focused) {
-        const QColor ring = ThemeColor(ThemeFileKey::FocusOutline2);
-        QVERIFY(ring.isValid());
-        expected = {ring, outline, fill, outline, ring};
-    }
-    QVERIFY2(runs.size() == expected.size(), qPrintable(Probe::Describe(runs)));
-    for (int i = 0; i < expected.size(); ++i) {
-        PROBE_COMPARE_COLOR(QColor::fromRgba(runs.at(i).color), expected.at(i));
-        if (expected.at(i) != fill)
-            QCOMPARE(runs.at(i).length, b);
-    }
-}
-
-void tst_CustomStyle::spinBoxArrowButtonsUseTheme()
-{
-    ProbeSpinBox spin;
-    spin.setStyle(CustomStyle::GetInstance());
-    spin.resize(120, 24);
-    QStyleOptionSpinBox option;
-    spin.initStyleOption(&option);
-    const QRect up = spin.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin);
-    QVERIFY(up.width() > 4 && up.height() > 4);
-    const QColor outline = ThemeColor(ThemeFileKey::WidgetOutline9);
-    const QBrush fill = Themes()->GetBrush(ThemeFileKey::WidgetContainer4, up);
-    QVERIFY(outline.isValid());
-    QVERIFY(fill.style() != Qt::NoBrush);
-    const QImage image = Probe::Grab(&spin);
-    const int b = Probe::Bucket(image);
-    const int left = Probe::DeviceCeil(image, up.left());
-    const int middle = Probe::DeviceFloor(image, up.top() + up.height() / 2.0);
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, left, middle), outline);
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, left + b, Probe::DeviceCeil(image, up.top()) + b + 1),
-                        Probe::Composite(spin.palette().color(QPalette::Window), fill));
-}
-
-void tst_CustomStyle::progressGrooveUsesFixedColours()
-{
-    QProgressBar bar;
-    bar.setStyle(CustomStyle::GetInstance());
-    bar.setTextVisible(false);
-    bar.setRange(0, 100);
-    bar.setValue(0);
-    bar.resize(200, 20);
-    const QImage image = Probe::Grab(&bar);
-    const int column = image.width() / 2;
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, column, 0), QColor(31, 31, 31));
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, column, image.height() / 2), QColor(50, 50, 50));
-
-    // Half way, the left half is filled and the right half is not.
-    bar.setValue(50);
-    const QImage half = Probe::Grab(&bar);
-    const QColor filled = Probe::Pixel(half, half.width() / 4, half.height() / 2);
-    QVERIFY2(filled.blue() > filled.red() + 40, qPrintable(filled.name()));
-    PROBE_COMPARE_COLOR(Probe::Pixel(half, half.width() * 3 / 4, half.height() / 2), QColor(50, 50, 50));
-}
-
-void tst_CustomStyle::dropDownMenuItemSizes()
-{
-    DropDownMenu menu;
-    menu.setStyle(CustomStyle::GetInstance());
-    QAction* action = menu.addAction(QStringLiteral("Item"));
-    QAction* separator = menu.addSeparator();
-    QStyleOptionMenuItem option;
-    menu.initStyleOption(&option, action);
-    option.rect = QRect(0, 0, 150, 30);
-    CustomStyle* style = CustomStyle::GetInstance();
-    QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 20));
-    menu.initStyleOption(&option, separator);
-    option.rect = QRect(0, 0, 150, 30);
-    QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 3));
-    // Without a menu-item option the contents size comes back unchanged.
-    QStyleOption plain;
-    QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(40, 10), &menu), QSize(40, 10));
-}
-
-void tst_CustomStyle::dropDownMenuPaintsItsItems()
-{
-    DropDownMenu menu;
-    QAction* action = menu.addAction(QStringLiteral("Item"));
-    QStyleOptionMenuItem option;
-    menu.initStyleOption(&option, action);
-    option.rect = QRect(0, 0, 150, 20);
-    option.state |= QStyle::State_Selected | QStyle::State_Enabled;
-    const QColor hover =
-        Probe::Composite(Qt::white, Themes()->GetBrush(ThemeFileKey::DropDownMenuHoverBackground, option.rect));
-    QVERIFY(Themes()->Exists(ThemeFileKey::DropDownMenuHoverBackground));
-
-    QImage image(150, 20, QImage::Format_ARGB32);
-    image.fill(Qt::white);
+    void spinBoxArrowButtonsUseTheme()
     {
-        QPainter painter(&image);
-        CustomStyle::GetInstance()->drawControl(QStyle::CE_MenuItem, &option, &painter, &menu);
+        ProbeSpinBox spin;
+        spin.setStyle(Style());
+        spin.resize(120, 24);
+        QStyleOptionSpinBox option;
+        spin.initStyleOption(&option);
+        const QRect up = spin.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin);
+        QVERIFY(up.width() > 4 && up.height() > 4);
+        const QColor outline = ThemeColor(ThemeFileKey::WidgetOutline9);
+        const QBrush fill = Themes()->GetBrush(ThemeFileKey::WidgetContainer4, up);
+        QVERIFY(outline.isValid());
+        QVERIFY(fill.style() != Qt::NoBrush);
+        const QImage image = Probe::Grab(&spin);
+        const int b = Probe::Bucket(image);
+        const int left = Probe::DeviceCeil(image, up.left());
+        const int middle = Probe::DeviceFloor(image, up.top() + up.height() / 2.0);
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, left, middle), outline);
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, left + b, Probe::DeviceCeil(image, up.top()) + b + 1),
+                            Probe::Composite(spin.palette().color(QPalette::Window), fill));
     }
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, 3, 3), hover);
 
-    // While the menu runs the standard painting, items are left to it.
-    image.fill(Qt::white);
-    menu.setProperty(CustomStyle::StandardMenuPaintProperty, true);
+    void dropDownMenuItemSizes()
     {
-        QPainter painter(&image);
-        CustomStyle::GetInstance()->drawControl(QStyle::CE_MenuItem, &option, &painter, &menu);
+        DropDownMenu menu;
+        menu.setStyle(Style());
+        QAction* action = menu.addAction(QStringLiteral("Item"));
+        QAction* separator = menu.addSeparator();
+        QStyleOptionMenuItem option;
+        menu.initStyleOption(&option, action);
+        option.rect = QRect(0, 0, 150, 30);
+        CustomStyle* style = Style();
+        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 20));
+        menu.initStyleOption(&option, separator);
+        option.rect = QRect(0, 0, 150, 30);
+        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 3));
+        // Without a menu-item option the contents size comes back unchanged.
+        QStyleOption plain;
+        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(40, 10), &menu), QSize(40, 10));
     }
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            QCOMPARE(image.pixel(x, y), QColor(Qt::white).rgba());
-    }
-}
 
-void tst_CustomStyle::plainMenuItemIsPaintedByBaseStyle()
-{
-    class ProbeMenu : public QMenu
+    void dropDownMenuPaintsItsItems()
     {
-    public:
-        using QMenu::initStyleOption;
-    } menu;
-    QAction* action = menu.addAction(QStringLiteral("Plain item"));
-    QStyleOptionMenuItem option;
-    menu.initStyleOption(&option, action);
-    option.rect = QRect(0, 0, 150, 22);
-    option.state |= QStyle::State_Selected;
-    QImage ours(150, 22, QImage::Format_ARGB32);
-    QImage base(150, 22, QImage::Format_ARGB32);
-    ours.fill(Qt::white);
-    base.fill(Qt::white);
-    {
-        QPainter painter(&ours);
-        CustomStyle::GetInstance()->drawControl(QStyle::CE_MenuItem, &option, &painter, &menu);
-    }
-    {
-        QPainter painter(&base);
-        CustomStyle::GetInstance()->baseStyle()->drawControl(QStyle::CE_MenuItem, &option, &painter, &menu);
-    }
-    QCOMPARE(ours, base);
-    QCOMPARE(
-        CustomStyle::GetInstance()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
-        CustomStyle::GetInstance()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu));
-}
+        DropDownMenu menu;
+        QAction* action = menu.addAction(QStringLiteral("Item"));
+        QStyleOptionMenuItem option;
+        menu.initStyleOption(&option, action);
+        option.rect = QRect(0, 0, 150, 20);
+        option.state |= QStyle::State_Selected | QStyle::State_Enabled;
+        const QColor hover =
+            Probe::Composite(Qt::white, Themes()->GetBrush(ThemeFileKey::DropDownMenuHoverBackground, option.rect));
+        QVERIFY(Themes()->Exists(ThemeFileKey::DropDownMenuHoverBackground));
 
-void tst_CustomStyle::themeSwitchNeedsNoNotice()
-{
-    // The style keeps nothing: after a switch the next paint shows the new theme.
-    ToolButton button;
-    button.resize(28, 24);
-    button.setAttribute(Qt::WA_UnderMouse);
-    const int top = Probe::DeviceCeil(Probe::Grab(&button), 2);
-    QVERIFY(Themes()->SetCurrentTheme(QStringLiteral("Dark")));
-    const QColor dark = ThemeColor(ThemeFileKey::HoverOutline1);
-    const QImage darkImage = Probe::Grab(&button);
-    QVERIFY(Themes()->SetCurrentTheme(QStringLiteral("Light")));
-    const QColor light = ThemeColor(ThemeFileKey::HoverOutline1);
-    const QImage lightImage = Probe::Grab(&button);
-    QVERIFY(dark.isValid() && light.isValid());
-    PROBE_COMPARE_COLOR(Probe::Pixel(darkImage, darkImage.width() / 2, top), dark);
-    PROBE_COMPARE_COLOR(Probe::Pixel(lightImage, lightImage.width() / 2, top), light);
-}
+        PROBE_COMPARE_COLOR(Probe::Pixel(PaintMenuItem(Style(), option, &menu), 3, 3), hover);
+
+        // While the menu runs the standard painting, items are left to it.
+        menu.setProperty(CustomStyle::StandardMenuPaintProperty, true);
+        QVERIFY(IsFilledWith(PaintMenuItem(Style(), option, &menu), QColor(Qt::white).rgba()));
+    }
+
+    void plainMenuItemIsPaintedByBaseStyle()
+    {
+        class ProbeMenu : public QMenu
+        {
+        public:
+            using QMenu::initStyleOption;
+        } menu;
+        QAction* action = menu.addAction(QStringLiteral("Plain item"));
+        QStyleOptionMenuItem option;
+        menu.initStyleOption(&option, action);
+        option.rect = QRect(0, 0, 150, 22);
+        option.state |= QStyle::State_Selected;
+        QCOMPARE(PaintMenuItem(Style(), option, &menu), PaintMenuItem(Style()->baseStyle(), option, &menu));
+        QCOMPARE(
+            Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
+            Style()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu));
+    }
+
+    void themeSwitchNeedsNoNotice()
+    {
+        // The style keeps nothing: after a switch the next paint shows the new theme.
+        ToolButton button;
+        button.resize(28, 24);
+        button.setAttribute(Qt::WA_UnderMouse);
+        const int top = Probe::DeviceCeil(Probe::Grab(&button), 2);
+        QVERIFY(Themes()->SetCurrentTheme(QStringLiteral("Dark")));
+        const QColor dark = ThemeColor(ThemeFileKey::HoverOutline1);
+        const QImage darkImage = Probe::Grab(&button);
+        QVERIFY(Themes()->SetCurrentTheme(QStringLiteral("Light")));
+        const QColor light = ThemeColor(ThemeFileKey::HoverOutline1);
+        const QImage lightImage = Probe::Grab(&button);
+        QVERIFY(dark.isValid() && light.isValid());
+        PROBE_COMPARE_COLOR(Probe::Pixel(darkImage, darkImage.width() / 2, top), dark);
+        PROBE_COMPARE_COLOR(Probe::Pixel(lightImage, lightImage.width() / 2, top), light);
+    }
+};
 
 QTEST_MAIN(tst_CustomStyle)
 #include "tst_customstyle.moc"

@@ -37,6 +37,8 @@ void whenShown(BoxAction action)
     timer->start();
 }
 
+const BoxAction clickOk = [](QMessageBox* shown) { shown->button(QMessageBox::Ok)->click(); };
+
 QAbstractButton* buttonWithText(QMessageBox* box, const QString& text)
 {
     const QList<QAbstractButton*> buttons = box->buttons();
@@ -97,373 +99,286 @@ class tst_KvMessageBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-    void defaultProviderIsCreatedOnDemand();
-    void settingsReadBack();
-    void plainBoxShowsOkAndCountsCloseAsOk_data();
-    void plainBoxShowsOkAndCountsCloseAsOk();
-    void standardButtonsReturnTheirValues_data();
-    void standardButtonsReturnTheirValues();
-    void unknownBitsAreIgnored();
-    void escapeButtonAnswersEscape_data();
-    void escapeButtonAnswersEscape();
-    void customDefaultButton();
-    void standardDefaultButton();
-    void customButtonTextIsReplacedPerId();
-    void boxGoneWithoutButtonReturnsCancel();
-    void icons_data();
-    void icons();
-    void textsAndWidthAreShown();
-    void callbackIsNeverCalled();
-    void qtWidgetHandleBecomesParent();
-    void hostProviderTakesOverUntilStyleChanges();
-};
+    void initTestCase()
+    {
+        CoreUIManager::Initialize();
+    }
 
-void tst_KvMessageBox::initTestCase()
-{
-    CoreUIManager::Initialize();
-}
+    void cleanupTestCase()
+    {
+        CoreUIManager::Uninitialize();
+    }
 
-void tst_KvMessageBox::cleanupTestCase()
-{
-    CoreUIManager::Uninitialize();
-}
+    void defaultProviderIsCreatedOnDemand()
+    {
+        CoreUIManager* manager = CoreUIManager::GetInstance();
+        IMessageBoxProvider* provider = manager->GetMessageBoxProvider();
+        QVERIFY(dynamic_cast<MessageBoxProvider*>(provider));
+        QCOMPARE(manager->GetMessageBoxProvider(), provider);
+        IMessageBox* box = provider->CreateMessageBox();
+        QVERIFY(dynamic_cast<KvMessageBoxImp*>(box));
+        provider->DestroyMessageBox(box);
+        provider->DestroyMessageBox(nullptr);
+    }
 
-void tst_KvMessageBox::defaultProviderIsCreatedOnDemand()
-{
-    CoreUIManager* manager = CoreUIManager::GetInstance();
-    IMessageBoxProvider* provider = manager->GetMessageBoxProvider();
-    QVERIFY(dynamic_cast<MessageBoxProvider*>(provider));
-    QCOMPARE(manager->GetMessageBoxProvider(), provider);
-    IMessageBox* box = provider->CreateMessageBox();
-    QVERIFY(dynamic_cast<KvMessageBoxImp*>(box));
-    provider->DestroyMessageBox(box);
-    provider->DestroyMessageBox(nullptr);
-}
+    void textsAreCopiedOut()
+    {
+        KvMessageBox box;
+        QCOMPARE(text([&](wchar_t* b, int c) { return box.GetWindowTitle(b, c); }), QString());
+        box.SetCheckBoxText(L"Don't ask again");
+        QCOMPARE(text([&](wchar_t* b, int c) { return box.GetCheckBoxText(b, c); }), QStringLiteral("Don't ask again"));
+        // The footer getter lives on the interface only.
+        KvMessageBoxImp imp;
+        imp.SetFooterText(L"Footer");
+        QCOMPARE(text([&](wchar_t* b, int c) { return imp.GetFooterText(b, c); }), QStringLiteral("Footer"));
+    }
 
-void tst_KvMessageBox::settingsReadBack()
-{
-    KvMessageBox box;
-    QCOMPARE(box.GetFlags(), 9);
-    QCOMPARE(box.GetIcon(), KvMessageBox::IconNone);
-    QCOMPARE(box.GetStandardButtons(), KvMessageBox::ButtonNone);
-    QCOMPARE(box.GetWidth(), 0);
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetWindowTitle(b, c); }), QString());
+    void boxClosedWithoutAButton_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<int>("expected");
+        // A plain box shows OK alone and counts closing its window as OK; a box
+        // gone without any button answers Cancel.
+        QTest::newRow("plain, ok pressed") << 0 << "ok" << 1;
+        QTest::newRow("plain, window closed") << 0 << "close" << 1;
+        QTest::newRow("plain, gone") << 0 << "done" << 8;
+        QTest::newRow("yes/retry, gone") << (2 | 16) << "done" << 8;
+    }
 
-    box.SetWindowTitle(L"Title");
-    box.SetMainInstruction(L"Main");
-    box.SetContentText(L"Content");
-    box.SetExpandedText(L"Expanded");
-    box.SetCheckBoxText(L"Don't ask again");
-    box.SetFooterText(L"Footer");
-    box.SetFlags(3);
-    box.SetIcon(KvMessageBox::IconWarning);
-    box.SetStandardButtons(KvMessageBox::ButtonYes | KvMessageBox::ButtonNo);
-    box.SetDefaultButton(2);
-    box.SetEscapeButton(4);
-    box.SetWidth(420);
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetWindowTitle(b, c); }), QStringLiteral("Title"));
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetMainInstruction(b, c); }), QStringLiteral("Main"));
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetContentText(b, c); }), QStringLiteral("Content"));
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetExpandedText(b, c); }), QStringLiteral("Expanded"));
-    QCOMPARE(text([&](wchar_t* b, int c) { return box.GetCheckBoxText(b, c); }), QStringLiteral("Don't ask again"));
-    QCOMPARE(box.GetFlags(), 3);
-    QCOMPARE(box.GetIcon(), KvMessageBox::IconWarning);
-    QCOMPARE(int(box.GetStandardButtons()), 6);
-    QCOMPARE(box.GetDefaultButton(), 2);
-    QCOMPARE(box.GetEscapeButton(), 4);
-    QCOMPARE(box.GetWidth(), 420);
+    void boxClosedWithoutAButton()
+    {
+        QFETCH(int, buttons);
+        QFETCH(QString, action);
+        QFETCH(int, expected);
+        KvMessageBox box;
+        box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
+        int seen = 0;
+        whenShown([&](QMessageBox* shown) {
+            seen = int(shown->buttons().size());
+            if (action == QLatin1String("ok"))
+                shown->button(QMessageBox::Ok)->click();
+            else if (action == QLatin1String("close"))
+                shown->close();
+            else
+                shown->done(0);
+        });
+        bool checked = true;
+        QCOMPARE(box.Show(nullptr, checked), expected);
+        QVERIFY(!checked);
+        QCOMPARE(seen, buttons ? 2 : 1);
+    }
 
-    // The footer getter lives on the interface only.
-    KvMessageBoxImp imp;
-    imp.SetFooterText(L"Footer");
-    QCOMPARE(text([&](wchar_t* b, int c) { return imp.GetFooterText(b, c); }), QStringLiteral("Footer"));
-}
+    void standardButtonsReturnTheirValues_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("pressed");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("ok") << 1 << int(QMessageBox::Ok) << 1;
+        QTest::newRow("yes") << (2 | 4) << int(QMessageBox::Yes) << 2;
+        QTest::newRow("no") << (2 | 4) << int(QMessageBox::No) << 4;
+        QTest::newRow("cancel") << (1 | 8) << int(QMessageBox::Cancel) << 8;
+        QTest::newRow("retry") << (16 | 8) << int(QMessageBox::Retry) << 16;
+        QTest::newRow("close") << 32 << int(QMessageBox::Close) << 32;
+        QTest::newRow("all six, close") << 63 << int(QMessageBox::Close) << 32;
+        QTest::newRow("unknown bits ignored") << (2 | 64 | 1024) << int(QMessageBox::Yes) << 2;
+    }
 
-void tst_KvMessageBox::plainBoxShowsOkAndCountsCloseAsOk_data()
-{
-    QTest::addColumn<bool>("closeWindow");
-    QTest::newRow("ok pressed") << false;
-    QTest::newRow("window closed") << true;
-}
+    void standardButtonsReturnTheirValues()
+    {
+        QFETCH(int, buttons);
+        QFETCH(int, pressed);
+        QFETCH(int, expected);
+        KvMessageBox box;
+        box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
+        int shownButtons = 0;
+        whenShown([&](QMessageBox* shown) {
+            shownButtons = int(shown->standardButtons());
+            shown->button(QMessageBox::StandardButton(pressed))->click();
+        });
+        QCOMPARE(box.Show(nullptr), expected);
+        QMessageBox::StandardButtons wanted;
+        for (int bit = 1; bit <= 32; bit <<= 1) {
+            static const QMap<int, QMessageBox::StandardButton> table = {
+                {1, QMessageBox::Ok},     {2, QMessageBox::Yes},    {4, QMessageBox::No},
+                {8, QMessageBox::Cancel}, {16, QMessageBox::Retry}, {32, QMessageBox::Close}};
+            if (buttons & bit)
+                wanted |= table.value(bit);
+        }
+        QCOMPARE(shownButtons, int(wanted));
+    }
 
-void tst_KvMessageBox::plainBoxShowsOkAndCountsCloseAsOk()
-{
-    QFETCH(bool, closeWindow);
-    KvMessageBox box;
-    QList<QAbstractButton*> seen;
-    whenShown([&](QMessageBox* shown) {
-        seen = shown->buttons();
-        if (closeWindow)
-            shown->close();
+    void keysAnswerEscapeAndDefaultButtons_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("button");
+        QTest::addColumn<int>("expected");
+        // A custom "Later" button with id 200 is always there too.
+        QTest::newRow("yes/no, escape no") << (2 | 4) << Qt::Key_Escape << 4 << 4;
+        QTest::newRow("yes/no, escape yes") << (2 | 4) << Qt::Key_Escape << 2 << 2;
+        QTest::newRow("ok/cancel/retry, escape retry") << (1 | 8 | 16) << Qt::Key_Escape << 16 << 16;
+        QTest::newRow("custom escape") << (2 | 4) << Qt::Key_Escape << 200 << 200;
+        QTest::newRow("yes/no, default no") << (2 | 4) << Qt::Key_Return << 4 << 4;
+        QTest::newRow("ok/cancel, custom default") << (1 | 8) << Qt::Key_Return << 200 << 200;
+    }
+
+    void keysAnswerEscapeAndDefaultButtons()
+    {
+        QFETCH(int, buttons);
+        QFETCH(Qt::Key, key);
+        QFETCH(int, button);
+        QFETCH(int, expected);
+        KvMessageBox box;
+        box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
+        box.AddButton(L"Later", 200);
+        if (key == Qt::Key_Escape)
+            box.SetEscapeButton(button);
         else
+            box.SetDefaultButton(button);
+        whenShown([key](QMessageBox* shown) { QTest::keyClick(shown, key); });
+        QCOMPARE(box.Show(nullptr), expected);
+    }
+
+    void customButtonTextIsReplacedPerId()
+    {
+        KvMessageBox box;
+        box.AddButton(L"First", 30);
+        box.AddButton(L"Second", 10);
+        box.AddButton(L"Replaced", 30);
+        QStringList texts;
+        int standard = -1;
+        whenShown([&](QMessageBox* shown) {
+            for (QAbstractButton* button : shown->buttons())
+                texts.append(button->text());
+            standard = int(shown->standardButtons());
+            buttonWithText(shown, QStringLiteral("Replaced"))->click();
+        });
+        QCOMPARE(box.Show(nullptr), 30);
+        texts.sort();
+        QCOMPARE(texts, (QStringList{QStringLiteral("Replaced"), QStringLiteral("Second")}));
+        // Custom buttons alone do not bring an OK button.
+        QCOMPARE(standard, 0);
+    }
+
+    void icons_data()
+    {
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("none") << 0 << int(QMessageBox::NoIcon);
+        QTest::newRow("question") << 1 << int(QMessageBox::Question);
+        QTest::newRow("information") << 2 << int(QMessageBox::Information);
+        QTest::newRow("warning") << 3 << int(QMessageBox::Warning);
+        QTest::newRow("four shows none") << 4 << int(QMessageBox::NoIcon);
+        QTest::newRow("negative shows none") << -1 << int(QMessageBox::NoIcon);
+    }
+
+    void icons()
+    {
+        QFETCH(int, icon);
+        QFETCH(int, expected);
+        KvMessageBox box;
+        box.SetIcon(KvMessageBox::Icon(icon));
+        int shownIcon = -1;
+        whenShown([&](QMessageBox* shown) {
+            shownIcon = int(shown->icon());
             shown->button(QMessageBox::Ok)->click();
-    });
-    bool checked = true;
-    QCOMPARE(box.Show(nullptr, checked), 1);
-    QVERIFY(!checked);
-    QCOMPARE(seen.size(), 1);
-}
-
-void tst_KvMessageBox::standardButtonsReturnTheirValues_data()
-{
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<int>("pressed");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("ok") << 1 << int(QMessageBox::Ok) << 1;
-    QTest::newRow("yes") << (2 | 4) << int(QMessageBox::Yes) << 2;
-    QTest::newRow("no") << (2 | 4) << int(QMessageBox::No) << 4;
-    QTest::newRow("cancel") << (1 | 8) << int(QMessageBox::Cancel) << 8;
-    QTest::newRow("retry") << (16 | 8) << int(QMessageBox::Retry) << 16;
-    QTest::newRow("close") << 32 << int(QMessageBox::Close) << 32;
-    QTest::newRow("all six, close") << 63 << int(QMessageBox::Close) << 32;
-}
-
-void tst_KvMessageBox::standardButtonsReturnTheirValues()
-{
-    QFETCH(int, buttons);
-    QFETCH(int, pressed);
-    QFETCH(int, expected);
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
-    int shownButtons = 0;
-    whenShown([&](QMessageBox* shown) {
-        shownButtons = int(shown->standardButtons());
-        shown->button(QMessageBox::StandardButton(pressed))->click();
-    });
-    QCOMPARE(box.Show(nullptr), expected);
-    QMessageBox::StandardButtons wanted;
-    for (int bit = 1; bit <= 32; bit <<= 1) {
-        static const QMap<int, QMessageBox::StandardButton> table = {
-            {1, QMessageBox::Ok},     {2, QMessageBox::Yes},    {4, QMessageBox::No},
-            {8, QMessageBox::Cancel}, {16, QMessageBox::Retry}, {32, QMessageBox::Close}};
-        if (buttons & bit)
-            wanted |= table.value(bit);
-    }
-    QCOMPARE(shownButtons, int(wanted));
-}
-
-void tst_KvMessageBox::unknownBitsAreIgnored()
-{
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::StandardButton(2 | 64 | 1024));
-    int shownButtons = 0;
-    whenShown([&](QMessageBox* shown) {
-        shownButtons = int(shown->standardButtons());
-        shown->button(QMessageBox::Yes)->click();
-    });
-    QCOMPARE(box.Show(nullptr), 2);
-    QCOMPARE(shownButtons, int(QMessageBox::Yes));
-}
-
-void tst_KvMessageBox::escapeButtonAnswersEscape_data()
-{
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<int>("escape");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("yes/no, escape no") << (2 | 4) << 4 << 4;
-    QTest::newRow("yes/no, escape yes") << (2 | 4) << 2 << 2;
-    QTest::newRow("ok/cancel/retry, escape retry") << (1 | 8 | 16) << 16 << 16;
-    QTest::newRow("custom escape") << (2 | 4) << 200 << 200;
-}
-
-void tst_KvMessageBox::escapeButtonAnswersEscape()
-{
-    QFETCH(int, buttons);
-    QFETCH(int, escape);
-    QFETCH(int, expected);
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
-    box.AddButton(L"Later", 200);
-    box.SetEscapeButton(escape);
-    whenShown([](QMessageBox* shown) { QTest::keyClick(shown, Qt::Key_Escape); });
-    QCOMPARE(box.Show(nullptr), expected);
-}
-
-void tst_KvMessageBox::customDefaultButton()
-{
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::ButtonOk | KvMessageBox::ButtonCancel);
-    box.AddButton(L"Apply", 100);
-    box.SetDefaultButton(100);
-    QString defaultText;
-    whenShown([&](QMessageBox* shown) {
-        defaultText = shown->defaultButton() ? shown->defaultButton()->text() : QString();
-        buttonWithText(shown, QStringLiteral("Apply"))->click();
-    });
-    QCOMPARE(box.Show(nullptr), 100);
-    QCOMPARE(defaultText, QStringLiteral("Apply"));
-
-    // Return presses the default button.
-    whenShown([](QMessageBox* shown) { QTest::keyClick(shown, Qt::Key_Return); });
-    QCOMPARE(box.Show(nullptr), 100);
-}
-
-void tst_KvMessageBox::standardDefaultButton()
-{
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::ButtonYes | KvMessageBox::ButtonNo);
-    box.SetDefaultButton(4);
-    QPushButton* defaultButton = nullptr;
-    QPushButton* noButton = nullptr;
-    whenShown([&](QMessageBox* shown) {
-        defaultButton = shown->defaultButton();
-        noButton = qobject_cast<QPushButton*>(shown->button(QMessageBox::No));
-        shown->button(QMessageBox::Yes)->click();
-    });
-    QCOMPARE(box.Show(nullptr), 2);
-    QVERIFY(noButton);
-    QCOMPARE(defaultButton, noButton);
-}
-
-void tst_KvMessageBox::customButtonTextIsReplacedPerId()
-{
-    KvMessageBox box;
-    box.AddButton(L"First", 30);
-    box.AddButton(L"Second", 10);
-    box.AddButton(L"Replaced", 30);
-    QStringList texts;
-    int standard = -1;
-    whenShown([&](QMessageBox* shown) {
-        for (QAbstractButton* button : shown->buttons())
-            texts.append(button->text());
-        standard = int(shown->standardButtons());
-        buttonWithText(shown, QStringLiteral("Replaced"))->click();
-    });
-    QCOMPARE(box.Show(nullptr), 30);
-    texts.sort();
-    QCOMPARE(texts, (QStringList{QStringLiteral("Replaced"), QStringLiteral("Second")}));
-    // Custom buttons alone do not bring an OK button.
-    QCOMPARE(standard, 0);
-}
-
-void tst_KvMessageBox::boxGoneWithoutButtonReturnsCancel()
-{
-    KvMessageBox box;
-    box.SetStandardButtons(KvMessageBox::ButtonYes | KvMessageBox::ButtonRetry);
-    whenShown([](QMessageBox* shown) { shown->done(0); });
-    QCOMPARE(box.Show(nullptr), 8);
-}
-
-void tst_KvMessageBox::icons_data()
-{
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("none") << 0 << int(QMessageBox::NoIcon);
-    QTest::newRow("question") << 1 << int(QMessageBox::Question);
-    QTest::newRow("information") << 2 << int(QMessageBox::Information);
-    QTest::newRow("warning") << 3 << int(QMessageBox::Warning);
-    QTest::newRow("four shows none") << 4 << int(QMessageBox::NoIcon);
-    QTest::newRow("negative shows none") << -1 << int(QMessageBox::NoIcon);
-}
-
-void tst_KvMessageBox::icons()
-{
-    QFETCH(int, icon);
-    QFETCH(int, expected);
-    KvMessageBox box;
-    box.SetIcon(KvMessageBox::Icon(icon));
-    int shownIcon = -1;
-    whenShown([&](QMessageBox* shown) {
-        shownIcon = int(shown->icon());
-        shown->button(QMessageBox::Ok)->click();
-    });
-    QCOMPARE(box.Show(nullptr), 1);
-    QCOMPARE(shownIcon, expected);
-    QCOMPARE(int(box.GetIcon()), icon);
-}
-
-void tst_KvMessageBox::textsAndWidthAreShown()
-{
-    KvMessageBox box;
-    box.SetWindowTitle(L"Save changes");
-    box.SetMainInstruction(L"The drawing was modified.");
-    box.SetContentText(L"Do you want to keep the changes?");
-    box.SetExpandedText(L"Three views changed.");
-    box.SetWidth(720);
-    QStringList seen;
-    int width = 0;
-    whenShown([&](QMessageBox* shown) {
-        seen << shown->windowTitle() << shown->text() << shown->informativeText() << shown->detailedText();
-        width = shown->width();
-        QVERIFY(qobject_cast<UIMessageBox*>(shown));
-        shown->button(QMessageBox::Ok)->click();
-    });
-    QCOMPARE(box.Show(nullptr), 1);
-    QCOMPARE(seen,
-             (QStringList{QStringLiteral("Save changes"), QStringLiteral("The drawing was modified."),
-                          QStringLiteral("Do you want to keep the changes?"), QStringLiteral("Three views changed.")}));
-    QVERIFY2(width >= 720, qPrintable(QString::number(width)));
-}
-
-void tst_KvMessageBox::callbackIsNeverCalled()
-{
-    KvMessageBox box;
-    int data = 0;
-    QCOMPARE(box.SetCallback(&callback), 0);
-    QCOMPARE(box.SetCallbackData(&data), 0);
-    box.SetCheckBoxText(L"Remember");
-    whenShown([](QMessageBox* shown) {
-        QVERIFY(!shown->checkBox());
-        shown->button(QMessageBox::Ok)->click();
-    });
-    bool checked = true;
-    QCOMPARE(box.Show(nullptr, checked), 1);
-    QVERIFY(!checked);
-    QVERIFY(!gCallbackCalled);
-}
-
-void tst_KvMessageBox::qtWidgetHandleBecomesParent()
-{
-    QWidget owner;
-    owner.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&owner));
-    KvMessageBox box;
-    QWidget* parent = nullptr;
-    whenShown([&](QMessageBox* shown) {
-        parent = shown->parentWidget();
-        shown->button(QMessageBox::Ok)->click();
-    });
-    QCOMPARE(box.Show(Platform::HandleFromWId(owner.winId())), 1);
-    QCOMPARE(parent, &owner);
-}
-
-void tst_KvMessageBox::hostProviderTakesOverUntilStyleChanges()
-{
-    CoreUIManager* manager = CoreUIManager::GetInstance();
-    KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
-    QCOMPARE(KvMessageBox::GetStyle(), KvMessageBox::StyleDefault);
-    manager->SetMessageBoxProvider(new HostProvider);
-    gHostBoxesCreated = 0;
-    {
-        KvMessageBox box;
-        QCOMPARE(gHostBoxesCreated, 1);
-        bool checked = false;
-        QCOMPARE(box.Show(nullptr, checked), 77);
-        QVERIFY(checked);
-    }
-
-    // The same style keeps the host's provider.
-    KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
-    QVERIFY(dynamic_cast<HostProvider*>(manager->GetMessageBoxProvider()));
-
-    // A host box outlives the provider that made it; its release still works.
-    auto* outliving = new KvMessageBox;
-    QCOMPARE(gHostBoxesCreated, 2);
-
-    KvMessageBox::SetStyle(KvMessageBox::StyleTaskDialog);
-    QCOMPARE(KvMessageBox::GetStyle(), KvMessageBox::StyleTaskDialog);
-    QVERIFY(dynamic_cast<MessageBoxProvider*>(manager->GetMessageBoxProvider()));
-    delete outliving;
-    {
-        KvMessageBox box;
-        QCOMPARE(gHostBoxesCreated, 2);
-        whenShown([](QMessageBox* shown) { shown->button(QMessageBox::Ok)->click(); });
+        });
         QCOMPARE(box.Show(nullptr), 1);
+        QCOMPARE(shownIcon, expected);
     }
-    KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
-}
+
+    void textsAndWidthAreShown()
+    {
+        KvMessageBox box;
+        box.SetWindowTitle(L"Save changes");
+        box.SetMainInstruction(L"The drawing was modified.");
+        box.SetContentText(L"Do you want to keep the changes?");
+        box.SetExpandedText(L"Three views changed.");
+        box.SetWidth(720);
+        QStringList seen;
+        int width = 0;
+        whenShown([&](QMessageBox* shown) {
+            seen << shown->windowTitle() << shown->text() << shown->informativeText() << shown->detailedText();
+            width = shown->width();
+            QVERIFY(qobject_cast<UIMessageBox*>(shown));
+            shown->button(QMessageBox::Ok)->click();
+        });
+        QCOMPARE(box.Show(nullptr), 1);
+        QCOMPARE(seen,
+                 (QStringList{QStringLiteral("Save changes"), QStringLiteral("The drawing was modified."),
+                              QStringLiteral("Do you want to keep the changes?"), QStringLiteral("Three views changed.")}));
+        QVERIFY2(width >= 720, qPrintable(QString::number(width)));
+    }
+
+    void callbackIsNeverCalled()
+    {
+        KvMessageBox box;
+        int data = 0;
+        QCOMPARE(box.SetCallback(&callback), 0);
+        QCOMPARE(box.SetCallbackData(&data), 0);
+        box.SetCheckBoxText(L"Remember");
+        whenShown([](QMessageBox* shown) {
+            QVERIFY(!shown->checkBox());
+            shown->button(QMessageBox::Ok)->click();
+        });
+        bool checked = true;
+        QCOMPARE(box.Show(nullptr, checked), 1);
+        QVERIFY(!checked);
+        QVERIFY(!gCallbackCalled);
+    }
+
+    void qtWidgetHandleBecomesParent()
+    {
+        QWidget owner;
+        owner.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&owner));
+        KvMessageBox box;
+        QWidget* parent = nullptr;
+        whenShown([&](QMessageBox* shown) {
+            parent = shown->parentWidget();
+            shown->button(QMessageBox::Ok)->click();
+        });
+        QCOMPARE(box.Show(Platform::HandleFromWId(owner.winId())), 1);
+        QCOMPARE(parent, &owner);
+    }
+
+    void hostProviderTakesOverUntilStyleChanges()
+    {
+        CoreUIManager* manager = CoreUIManager::GetInstance();
+        KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
+        QCOMPARE(KvMessageBox::GetStyle(), KvMessageBox::StyleDefault);
+        manager->SetMessageBoxProvider(new HostProvider);
+        gHostBoxesCreated = 0;
+        {
+            KvMessageBox box;
+            QCOMPARE(gHostBoxesCreated, 1);
+            bool checked = false;
+            QCOMPARE(box.Show(nullptr, checked), 77);
+            QVERIFY(checked);
+        }
+
+        // The same style keeps the host's provider.
+        KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
+        QVERIFY(dynamic_cast<HostProvider*>(manager->GetMessageBoxProvider()));
+
+        // A host box outlives the provider that made it; its release still works.
+        auto* outliving = new KvMessageBox;
+        QCOMPARE(gHostBoxesCreated, 2);
+
+        KvMessageBox::SetStyle(KvMessageBox::StyleTaskDialog);
+        QCOMPARE(KvMessageBox::GetStyle(), KvMessageBox::StyleTaskDialog);
+        QVERIFY(dynamic_cast<MessageBoxProvider*>(manager->GetMessageBoxProvider()));
+        delete outliving;
+        {
+            KvMessageBox box;
+            QCOMPARE(gHostBoxesCreated, 2);
+            whenShown(clickOk);
+            QCOMPARE(box.Show(nullptr), 1);
+        }
+        KvMessageBox::SetStyle(KvMessageBox::StyleDefault);
+    }
+};
 
 QTEST_MAIN(tst_KvMessageBox)
 #include "tst_kvmessagebox.moc"

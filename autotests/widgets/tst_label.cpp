@@ -39,255 +39,216 @@ class tst_Label : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void toolTipExplainsCutText_data();
-    void toolTipExplainsCutText();
-    void rightPixmapHasItsOwnToolTip();
-    void rightPixmapClickIsReported();
-    void narrowLabelNeverShowsRightPixmap();
-    void disablingSwitchesColourKey();
-    void textColourKeyMustExist();
-    void themeSwitchReappliesColour();
-    void geometryAndShowSignals();
-    void autoFixedWidthFollowsText();
-    void cutTextIsPaintedInThemeColour();
-    void alignmentPlacesText_data();
-    void alignmentPlacesText();
-};
-
-void tst_Label::initTestCase()
-{
-    Probe::UseRepositoryThemes();
-}
-
-void tst_Label::cleanup()
-{
-    QToolTip::hideText();
-    QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void tst_Label::toolTipExplainsCutText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("reserved");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("fits, no reserved tip") << QStringLiteral("Short") << QString() << 200 << QString();
-    QTest::newRow("fits, reserved tip") << QStringLiteral("Short") << QStringLiteral("Explains") << 200
-                                        << QStringLiteral("Explains");
-    QTest::newRow("cut") << LongText() << QString() << 80 << LongText();
-    QTest::newRow("cut, reserved tip ignored") << LongText() << QStringLiteral("Explains") << 80 << LongText();
-}
-
-void tst_Label::toolTipExplainsCutText()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, reserved);
-    QFETCH(int, width);
-    QFETCH(QString, expected);
-    Label label(text);
-    label.SetReservedToolTip(reserved);
-    label.resize(width, 24);
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    AskForToolTip(&label, QPoint(10, 10));
-    if (expected.isEmpty()) {
-        QVERIFY(!QToolTip::isVisible());
-    } else {
-        QTRY_VERIFY(QToolTip::isVisible());
-        QCOMPARE(QToolTip::text(), expected);
+    void initTestCase()
+    {
+        Probe::UseRepositoryThemes();
     }
-}
 
-void tst_Label::rightPixmapHasItsOwnToolTip()
-{
-    Label label(QStringLiteral("Short"));
-    label.SetRightPixmap(RedPixmap());
-    label.SetRightPixmapTooltip(QStringLiteral("Pixmap tip"));
-    label.SetReservedToolTip(QStringLiteral("Text tip"));
-    label.resize(200, 24);
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    AskForToolTip(&label, QPoint(label.width() - 9, 12));
-    QTRY_VERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QStringLiteral("Pixmap tip"));
-    AskForToolTip(&label, QPoint(10, 12));
-    QTRY_COMPARE(QToolTip::text(), QStringLiteral("Text tip"));
-}
-
-void tst_Label::rightPixmapClickIsReported()
-{
-    Label label(QStringLiteral("Short"));
-    label.SetRightPixmap(RedPixmap());
-    label.resize(200, 24);
-    QSignalSpy clicked(&label, &Label::RightPixmapClicked);
-    QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(10, 12));
-    QCOMPARE(clicked.count(), 0);
-    QTest::mouseClick(&label, Qt::RightButton, {}, QPoint(label.width() - 9, 12));
-    QCOMPARE(clicked.count(), 0);
-    QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(label.width() - 9, 12));
-    QCOMPARE(clicked.count(), 1);
-
-    // The pixmap, white made transparent, is painted at the right edge.
-    const QImage image = Probe::Grab(&label);
-    const qreal ratio = image.devicePixelRatio();
-    PROBE_COMPARE_COLOR(Probe::Pixel(image, int((label.width() - 9) * ratio), int(12 * ratio)), QColor(Qt::red));
-}
-
-void tst_Label::narrowLabelNeverShowsRightPixmap()
-{
-    Label label(QStringLiteral("x"));
-    label.SetRightPixmap(RedPixmap());
-    label.setMinimumWidth(0);
-    label.resize(18, 24);
-    QSignalSpy clicked(&label, &Label::RightPixmapClicked);
-    for (int x = 0; x < 18; x += 3)
-        QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(x, 12));
-    QCOMPARE(clicked.count(), 0);
-    const QImage image = Probe::Grab(&label);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            QVERIFY(Probe::Pixel(image, x, y) != QColor(Qt::red));
+    void cleanup()
+    {
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
     }
-}
 
-void tst_Label::disablingSwitchesColourKey()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    QVERIFY(themes->GetColor(ThemeFileKey::FontNormal1).isValid());
-    Label label(QStringLiteral("Text"));
-    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
-    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
-    label.setEnabled(false);
-    const QString expected =
-        themes->Exists(ThemeFileKey::FontColorDisabled) ? ThemeFileKey::FontColorDisabled : ThemeFileKey::FontNormal1;
-    QCOMPARE(label.GetTextColorThemeKey(), expected);
-    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(expected));
-    label.setEnabled(true);
-    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
-}
-
-void tst_Label::textColourKeyMustExist()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    Label label(QStringLiteral("Text"));
-    label.SetTextColorThemeKey(QStringLiteral("NoSuchColourKey"));
-    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
-    QVERIFY(themes->GetColor(ThemeFileKey::FontNormal3).isValid());
-    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
-    QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal3);
-    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
-
-    // The same key again changes nothing unless forced.
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, Qt::magenta);
-    label.setPalette(palette);
-    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
-    label.SetTextColorThemeKey(ThemeFileKey::FontNormal3, true);
-    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
-}
-
-void tst_Label::themeSwitchReappliesColour()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    Label label(QStringLiteral("Text"));
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
-    const QColor dark = themes->GetColor(ThemeFileKey::FontNormal1);
-    QVERIFY(dark.isValid());
-    QCOMPARE(label.palette().color(QPalette::WindowText), dark);
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
-    QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
-}
-
-void tst_Label::geometryAndShowSignals()
-{
-    Label label(QStringLiteral("Text"));
-    QSignalSpy geometry(&label, &Label::GeometryChanged);
-    QSignalSpy aboutToShow(&label, &Label::AboutToShow);
-    label.resize(100, 24);
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    QCOMPARE(aboutToShow.count(), 1);
-    const int before = geometry.count();
-    label.resize(140, 30);
-    QTRY_VERIFY(geometry.count() > before);
-}
-
-void tst_Label::autoFixedWidthFollowsText()
-{
-    Label label(QStringLiteral("Short"));
-    label.SetAutoFixedWidth(true);
-    const int shortWidth = label.width();
-    QCOMPARE(label.minimumWidth(), label.maximumWidth());
-    QVERIFY(shortWidth >= label.getTextWidth());
-    label.setText(LongText());
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    QTRY_VERIFY(label.width() >= label.getTextWidth());
-    QVERIFY(label.width() > shortWidth);
-    label.SetAutoFixedWidth(false);
-    label.resize(50, 24);
-    QCOMPARE(label.width(), 50);
-}
-
-void tst_Label::cutTextIsPaintedInThemeColour()
-{
-    // A cut label ends in an ellipsis; the text is painted in the key's colour.
-    ThemeManager* themes = ThemeManager::GetInstance();
-    Label label(QString(40, QLatin1Char('W')));
-    QFont font = label.font();
-    font.setPixelSize(20);
-    font.setBold(true);
-    label.setFont(font);
-    label.resize(120, 30);
-    const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
-    QVERIFY(text.isValid());
-    const QImage image = Probe::Grab(&label);
-    int exact = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            exact += Probe::Near(Probe::Pixel(image, x, y), text, 8) ? 1 : 0;
+    void toolTipExplainsCutText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reserved");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("fits, no reserved tip") << QStringLiteral("Short") << QString() << 200 << QString();
+        QTest::newRow("fits, reserved tip") << QStringLiteral("Short") << QStringLiteral("Explains") << 200
+                                            << QStringLiteral("Explains");
+        QTest::newRow("cut") << LongText() << QString() << 80 << LongText();
+        QTest::newRow("cut, reserved tip ignored") << LongText() << QStringLiteral("Explains") << 80 << LongText();
     }
-    QVERIFY(exact > 20);
-}
 
-void tst_Label::alignmentPlacesText_data()
-{
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<double>("low");
-    QTest::addColumn<double>("high");
-    // The horizontal middle of the painted text, as a fraction of the width.
-    QTest::newRow("left") << int(Qt::AlignLeft | Qt::AlignVCenter) << 0.0 << 0.3;
-    QTest::newRow("centre") << int(Qt::AlignCenter) << 0.4 << 0.6;
-    QTest::newRow("right") << int(Qt::AlignRight | Qt::AlignVCenter) << 0.7 << 1.0;
-}
-
-void tst_Label::alignmentPlacesText()
-{
-    QFETCH(int, alignment);
-    QFETCH(double, low);
-    QFETCH(double, high);
-    Label label(QStringLiteral("Text"));
-    label.setAlignment(Qt::Alignment(alignment));
-    label.resize(300, 24);
-    const QImage image = Probe::Grab(&label);
-    const QRgb background = image.pixel(0, 0);
-    int first = image.width();
-    int last = -1;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != background) {
-                first = std::min(first, x);
-                last = std::max(last, x);
-            }
+    void toolTipExplainsCutText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, reserved);
+        QFETCH(int, width);
+        QFETCH(QString, expected);
+        Label label(text);
+        label.SetReservedToolTip(reserved);
+        label.resize(width, 24);
+        QVERIFY(Probe::Shown(&label));
+        AskForToolTip(&label, QPoint(10, 10));
+        if (expected.isEmpty()) {
+            QVERIFY(!QToolTip::isVisible());
+        } else {
+            QTRY_VERIFY(QToolTip::isVisible());
+            QCOMPARE(QToolTip::text(), expected);
         }
     }
-    QVERIFY(last >= first);
-    const double middle = (first + last) / 2.0 / image.width();
-    QVERIFY2(middle >= low && middle <= high, qPrintable(QString::number(middle)));
-}
+
+    void rightPixmapHasItsOwnToolTip()
+    {
+        Label label(QStringLiteral("Short"));
+        label.SetRightPixmap(RedPixmap());
+        label.SetRightPixmapTooltip(QStringLiteral("Pixmap tip"));
+        label.SetReservedToolTip(QStringLiteral("Text tip"));
+        label.resize(200, 24);
+        QVERIFY(Probe::Shown(&label));
+        AskForToolTip(&label, QPoint(label.width() - 9, 12));
+        QTRY_VERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), QStringLiteral("Pixmap tip"));
+        AskForToolTip(&label, QPoint(10, 12));
+        QTRY_COMPARE(QToolTip::text(), QStringLiteral("Text tip"));
+    }
+
+    void rightPixmapClickIsReported()
+    {
+        Label label(QStringLiteral("Short"));
+        label.SetRightPixmap(RedPixmap());
+        label.resize(200, 24);
+        QSignalSpy clicked(&label, &Label::RightPixmapClicked);
+        QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(10, 12));
+        QCOMPARE(clicked.count(), 0);
+        QTest::mouseClick(&label, Qt::RightButton, {}, QPoint(label.width() - 9, 12));
+        QCOMPARE(clicked.count(), 0);
+        QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(label.width() - 9, 12));
+        QCOMPARE(clicked.count(), 1);
+
+        // The pixmap, white made transparent, is painted at the right edge.
+        const QImage image = Probe::Grab(&label);
+        const qreal ratio = image.devicePixelRatio();
+        PROBE_COMPARE_COLOR(Probe::Pixel(image, int((label.width() - 9) * ratio), int(12 * ratio)), QColor(Qt::red));
+    }
+
+    void narrowLabelNeverShowsRightPixmap()
+    {
+        Label label(QStringLiteral("x"));
+        label.SetRightPixmap(RedPixmap());
+        label.setMinimumWidth(0);
+        label.resize(18, 24);
+        QSignalSpy clicked(&label, &Label::RightPixmapClicked);
+        for (int x = 0; x < 18; x += 3)
+            QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(x, 12));
+        QCOMPARE(clicked.count(), 0);
+        QCOMPARE(Probe::Count(Probe::Grab(&label), [](const QColor& c) { return c == QColor(Qt::red); }), 0);
+    }
+
+    void disablingSwitchesColourKey()
+    {
+        ThemeManager* themes = ThemeManager::GetInstance();
+        Label label(QStringLiteral("Text"));
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+        label.setEnabled(false);
+        const QString expected =
+            themes->Exists(ThemeFileKey::FontColorDisabled) ? ThemeFileKey::FontColorDisabled : ThemeFileKey::FontNormal1;
+        QCOMPARE(label.GetTextColorThemeKey(), expected);
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(expected));
+        label.setEnabled(true);
+        QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
+    }
+
+    void textColourKeyMustExist()
+    {
+        ThemeManager* themes = ThemeManager::GetInstance();
+        Label label(QStringLiteral("Text"));
+        label.SetTextColorThemeKey(QStringLiteral("NoSuchColourKey"));
+        QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
+        label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
+
+        // The same key again changes nothing unless forced.
+        QPalette palette = label.palette();
+        palette.setColor(QPalette::WindowText, Qt::magenta);
+        label.setPalette(palette);
+        label.SetTextColorThemeKey(ThemeFileKey::FontNormal3);
+        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
+        label.SetTextColorThemeKey(ThemeFileKey::FontNormal3, true);
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal3));
+    }
+
+    void themeSwitchReappliesColour()
+    {
+        ThemeManager* themes = ThemeManager::GetInstance();
+        Label label(QStringLiteral("Text"));
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
+        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
+    }
+
+    void geometryAndShowSignals()
+    {
+        Label label(QStringLiteral("Text"));
+        QSignalSpy geometry(&label, &Label::GeometryChanged);
+        QSignalSpy aboutToShow(&label, &Label::AboutToShow);
+        label.resize(100, 24);
+        QVERIFY(Probe::Shown(&label));
+        QCOMPARE(aboutToShow.count(), 1);
+        const int before = geometry.count();
+        label.resize(140, 30);
+        QTRY_VERIFY(geometry.count() > before);
+    }
+
+    void autoFixedWidthFollowsText()
+    {
+        Label label(QStringLiteral("Short"));
+        label.SetAutoFixedWidth(true);
+        const int shortWidth = label.width();
+        QCOMPARE(label.minimumWidth(), label.maximumWidth());
+        QVERIFY(shortWidth >= label.getTextWidth());
+        label.setText(LongText());
+        QVERIFY(Probe::Shown(&label));
+        QTRY_VERIFY(label.width() >= label.getTextWidth());
+        QVERIFY(label.width() > shortWidth);
+        label.SetAutoFixedWidth(false);
+        label.resize(50, 24);
+        QCOMPARE(label.width(), 50);
+    }
+
+    void cutTextIsPaintedInThemeColour()
+    {
+        // A cut label ends in an ellipsis; the text is painted in the key's colour.
+        ThemeManager* themes = ThemeManager::GetInstance();
+        Label label(QString(40, QLatin1Char('W')));
+        QFont font = label.font();
+        font.setPixelSize(20);
+        font.setBold(true);
+        label.setFont(font);
+        label.resize(120, 30);
+        const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
+        QVERIFY(Probe::Count(Probe::Grab(&label), [&](const QColor& c) { return Probe::Near(c, text, 8); }) > 20);
+    }
+
+    void alignmentPlacesText_data()
+    {
+        QTest::addColumn<int>("alignment");
+        QTest::addColumn<double>("low");
+        QTest::addColumn<double>("high");
+        // The horizontal middle of the painted text, as a fraction of the width.
+        QTest::newRow("left") << int(Qt::AlignLeft | Qt::AlignVCenter) << 0.0 << 0.3;
+        QTest::newRow("centre") << int(Qt::AlignCenter) << 0.4 << 0.6;
+        QTest::newRow("right") << int(Qt::AlignRight | Qt::AlignVCenter) << 0.7 << 1.0;
+    }
+
+    void alignmentPlacesText()
+    {
+        QFETCH(int, alignment);
+        QFETCH(double, low);
+        QFETCH(double, high);
+        Label label(QStringLiteral("Text"));
+        label.setAlignment(Qt::Alignment(alignment));
+        label.resize(300, 24);
+        const QImage image = Probe::Grab(&label);
+        const QRgb background = image.pixel(0, 0);
+        int first = image.width();
+        int last = -1;
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            if (image.pixel(i % image.width(), i / image.width()) != background) {
+                first = std::min(first, i % image.width());
+                last = std::max(last, i % image.width());
+            }
+        }
+        QVERIFY(last >= first);
+        const double middle = (first + last) / 2.0 / image.width();
+        QVERIFY2(middle >= low && middle <= high, qPrintable(QString::number(middle)));
+    }
+};
 
 QTEST_MAIN(tst_Label)
 #include "tst_label.moc"

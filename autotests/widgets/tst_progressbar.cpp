@@ -14,82 +14,74 @@ class tst_ProgressBar : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void textColourFollowsTheme();
-    void fillFollowsValue_data();
-    void fillFollowsValue();
-    void grooveOutlineIsCrisp();
-};
-
-void tst_ProgressBar::initTestCase()
-{
-    Probe::UseRepositoryThemes();
-}
-
-void tst_ProgressBar::textColourFollowsTheme()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    ProgressBar bar;
-    QCOMPARE(bar.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
-    const QColor dark = themes->GetColor(ThemeFileKey::FontNormal1);
-    QVERIFY(dark.isValid());
-    QCOMPARE(bar.palette().color(QPalette::Text), dark);
-    QCOMPARE(bar.palette().color(QPalette::Disabled, QPalette::ButtonText), dark);
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
-}
-
-void tst_ProgressBar::fillFollowsValue_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<bool>("inverted");
-    QTest::newRow("empty") << 0 << false;
-    QTest::newRow("quarter") << 25 << false;
-    QTest::newRow("three quarters") << 75 << false;
-    QTest::newRow("full") << 100 << false;
-    QTest::newRow("quarter, inverted") << 25 << true;
-}
-
-void tst_ProgressBar::fillFollowsValue()
-{
-    QFETCH(int, value);
-    QFETCH(bool, inverted);
-    ProgressBar bar;
-    bar.setTextVisible(false);
-    bar.setRange(0, 100);
-    bar.setValue(value);
-    bar.setInvertedAppearance(inverted);
-    bar.resize(204, 16);
-    const QImage image = Probe::Grab(&bar);
-    const int y = image.height() / 2;
-    const QColor groove(50, 50, 50);
-    // Probe away from the boundary of the filled part.
-    for (int percent = 2; percent < 100; percent += 10) {
-        const int x = image.width() * percent / 100;
-        const bool filled = inverted ? percent > 100 - value : percent < value;
-        const QColor pixel = Probe::Pixel(image, x, y);
-        if (filled)
-            QVERIFY2(pixel.blue() > pixel.red() + 40, qPrintable(QString::number(percent) + pixel.name()));
-        else
-            PROBE_COMPARE_COLOR(pixel, groove);
+    void initTestCase()
+    {
+        Probe::UseRepositoryThemes();
     }
-}
 
-void tst_ProgressBar::grooveOutlineIsCrisp()
-{
-    ProgressBar bar;
-    bar.setTextVisible(false);
-    bar.setValue(0);
-    bar.resize(200, 16);
-    const QImage image = Probe::Grab(&bar);
-    const int b = Probe::Bucket(image);
-    const QList<Probe::Run> runs = Probe::Runs(image, image.width() / 2, 0, image.height() - 1);
-    QVERIFY2(runs.size() == 3, qPrintable(Probe::Describe(runs)));
-    PROBE_COMPARE_COLOR(QColor::fromRgba(runs.first().color), QColor(31, 31, 31));
-    QCOMPARE(runs.first().length, b);
-    PROBE_COMPARE_COLOR(QColor::fromRgba(runs.at(1).color), QColor(50, 50, 50));
-    QCOMPARE(runs.last().length, b);
-}
+    void textColourFollowsTheme()
+    {
+        ThemeManager* themes = ThemeManager::GetInstance();
+        ProgressBar bar;
+        QCOMPARE(bar.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+        const QColor dark = themes->GetColor(ThemeFileKey::FontNormal1);
+        QCOMPARE(bar.palette().color(QPalette::Text), dark);
+        QCOMPARE(bar.palette().color(QPalette::Disabled, QPalette::ButtonText), dark);
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("Light")));
+    }
+
+    void fillFollowsValue_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("inverted");
+        QTest::newRow("empty") << 0 << false;
+        QTest::newRow("quarter") << 25 << false;
+        QTest::newRow("three quarters") << 75 << false;
+        QTest::newRow("full") << 100 << false;
+        QTest::newRow("quarter, inverted") << 25 << true;
+    }
+
+    void fillFollowsValue()
+    {
+        QFETCH(int, value);
+        QFETCH(bool, inverted);
+        ProgressBar bar;
+        bar.setTextVisible(false);
+        bar.setRange(0, 100);
+        bar.setValue(value);
+        bar.setInvertedAppearance(inverted);
+        bar.resize(204, 16);
+        const QImage image = Probe::Grab(&bar);
+        const int y = image.height() / 2;
+        const QColor groove(50, 50, 50);
+        // Probe away from the boundary of the filled part.
+        for (int percent = 2; percent < 100; percent += 10) {
+            const int x = image.width() * percent / 100;
+            const bool filled = inverted ? percent > 100 - value : percent < value;
+            const QColor pixel = Probe::Pixel(image, x, y);
+            if (filled)
+                QVERIFY2(pixel.blue() > pixel.red() + 40, qPrintable(QString::number(percent) + pixel.name()));
+            else
+                PROBE_COMPARE_COLOR(pixel, groove);
+        }
+    }
+
+    void grooveOutlineIsCrisp()
+    {
+        ProgressBar bar;
+        bar.setTextVisible(false);
+        bar.resize(200, 16);
+        const QImage image = Probe::Grab(&bar);
+        const int b = Probe::Bucket(image);
+        const QList<Probe::Run> runs = Probe::Runs(image, image.width() / 2, 0, image.height() - 1);
+        QVERIFY2(runs.size() == 3, qPrintable(Probe::Describe(runs)));
+        PROBE_COMPARE_COLOR(QColor::fromRgba(runs.first().color), QColor(31, 31, 31));
+        QCOMPARE(runs.first().length, b);
+        PROBE_COMPARE_COLOR(QColor::fromRgba(runs.at(1).color), QColor(50, 50, 50));
+        QCOMPARE(runs.last().length, b);
+    }
+};
 
 QTEST_MAIN(tst_ProgressBar)
 #include "tst_progressbar.moc"

@@ -59,163 +59,143 @@ class tst_ProgressMeter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void defaultFramesComeFromTheme();
-    void idleUntilStarted();
-    void framesCycleBackToStart();
-    void emptyFrameListChangesNothing();
-    void setFramesShowsFirstAtOnce();
-    void endRewindsWithoutShowing();
-    void textSetsWidth_data();
-    void textSetsWidth();
-    void layoutWithAndWithoutText();
-    void runningTimerAnimates();
-};
-
-void tst_ProgressMeter::initTestCase()
-{
-    Probe::UseRepositoryThemes();
-}
-
-void tst_ProgressMeter::defaultFramesComeFromTheme()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    for (int i = 1; i <= 24; ++i) {
-        const QString key = QStringLiteral("Rendering_%1").arg(i, 2, 10, QLatin1Char('0'));
-        QVERIFY2(!themes->GetString(key).isEmpty(), qPrintable(key));
+    void initTestCase()
+    {
+        Probe::UseRepositoryThemes();
     }
-    ProgressMeter meter;
-    const QList<QPixmap> frames = meter.GetImageFrameList();
-    QCOMPARE(frames.size(), 24);
-    for (const QPixmap& frame : frames) {
-        QVERIFY(!frame.isNull());
-        QCOMPARE(frame.deviceIndependentSize().toSize(), QSize(16, 16));
+
+    void defaultFramesComeFromTheme()
+    {
+        ProgressMeter meter;
+        const QList<QPixmap> frames = meter.GetImageFrameList();
+        QCOMPARE(frames.size(), 24);
+        for (const QPixmap& frame : frames) {
+            QVERIFY(!frame.isNull());
+            QCOMPARE(frame.deviceIndependentSize().toSize(), QSize(16, 16));
+        }
+        // Distinct images, not one frame repeated.
+        QVERIFY(frames.first().toImage() != frames.at(6).toImage());
     }
-    // Distinct images, not one frame repeated.
-    QVERIFY(frames.first().toImage() != frames.at(6).toImage());
-}
 
-void tst_ProgressMeter::idleUntilStarted()
-{
-    ProgressMeter meter;
-    auto* timer = meter.findChild<QTimer*>();
-    QVERIFY(timer);
-    QCOMPARE(timer->interval(), 41);
-    QVERIFY(!timer->isActive());
-    meter.Start();
-    QVERIFY(timer->isActive());
-    meter.End();
-    QVERIFY(!timer->isActive());
-}
+    void idleUntilStarted()
+    {
+        ProgressMeter meter;
+        auto* timer = meter.findChild<QTimer*>();
+        QVERIFY(timer);
+        QCOMPARE(timer->interval(), 41);
+        QVERIFY(!timer->isActive());
+        meter.Start();
+        QVERIFY(timer->isActive());
+        meter.End();
+        QVERIFY(!timer->isActive());
+    }
 
-void tst_ProgressMeter::framesCycleBackToStart()
-{
-    ProgressMeter meter;
-    meter.SetImageFrameList(NumberedFrames(24));
-    QCOMPARE(ShownFrame(&meter), 0);
-    QList<int> shown;
-    for (int i = 0; i < 24; ++i) {
+    void framesCycleBackToStart()
+    {
+        ProgressMeter meter;
+        meter.SetImageFrameList(NumberedFrames(24));
+        QCOMPARE(ShownFrame(&meter), 0);
+        QList<int> shown;
+        for (int i = 0; i < 24; ++i) {
+            Tick(&meter);
+            shown.append(ShownFrame(&meter));
+        }
+        QCOMPARE(shown.first(), 1);
+        QCOMPARE(shown.at(22), 23);
+        QCOMPARE(shown.last(), 0);
+    }
+
+    void emptyFrameListChangesNothing()
+    {
+        ProgressMeter meter;
+        meter.SetImageFrameList(NumberedFrames(3));
         Tick(&meter);
-        shown.append(ShownFrame(&meter));
+        QCOMPARE(ShownFrame(&meter), 1);
+        meter.SetImageFrameList({});
+        QVERIFY(meter.GetImageFrameList().isEmpty());
+        QCOMPARE(ShownFrame(&meter), 1);
+        Tick(&meter);
+        QCOMPARE(ShownFrame(&meter), 1);
     }
-    QCOMPARE(shown.first(), 1);
-    QCOMPARE(shown.at(22), 23);
-    QCOMPARE(shown.last(), 0);
-}
 
-void tst_ProgressMeter::emptyFrameListChangesNothing()
-{
-    ProgressMeter meter;
-    meter.SetImageFrameList(NumberedFrames(3));
-    Tick(&meter);
-    QCOMPARE(ShownFrame(&meter), 1);
-    meter.SetImageFrameList({});
-    QVERIFY(meter.GetImageFrameList().isEmpty());
-    QCOMPARE(ShownFrame(&meter), 1);
-    Tick(&meter);
-    QCOMPARE(ShownFrame(&meter), 1);
-}
+    void setFramesShowsFirstAtOnce()
+    {
+        ProgressMeter meter;
+        meter.SetImageFrameList(NumberedFrames(5));
+        Tick(&meter);
+        Tick(&meter);
+        QCOMPARE(ShownFrame(&meter), 2);
+        // The position is kept: the next tick moves on from it.
+        meter.SetImageFrameList(NumberedFrames(5));
+        QCOMPARE(ShownFrame(&meter), 0);
+        Tick(&meter);
+        QCOMPARE(ShownFrame(&meter), 3);
+    }
 
-void tst_ProgressMeter::setFramesShowsFirstAtOnce()
-{
-    ProgressMeter meter;
-    meter.SetImageFrameList(NumberedFrames(5));
-    Tick(&meter);
-    Tick(&meter);
-    QCOMPARE(ShownFrame(&meter), 2);
-    // The position is kept: the next tick moves on from it.
-    meter.SetImageFrameList(NumberedFrames(5));
-    QCOMPARE(ShownFrame(&meter), 0);
-    Tick(&meter);
-    QCOMPARE(ShownFrame(&meter), 3);
-}
+    void endRewindsWithoutShowing()
+    {
+        ProgressMeter meter;
+        meter.SetImageFrameList(NumberedFrames(6));
+        meter.Start();
+        for (int i = 0; i < 3; ++i)
+            Tick(&meter);
+        meter.End();
+        QCOMPARE(ShownFrame(&meter), 3);
+        meter.Start();
+        Tick(&meter);
+        QCOMPARE(ShownFrame(&meter), 1);
+        meter.End();
+    }
 
-void tst_ProgressMeter::endRewindsWithoutShowing()
-{
-    ProgressMeter meter;
-    meter.SetImageFrameList(NumberedFrames(6));
-    meter.Start();
-    Tick(&meter);
-    Tick(&meter);
-    Tick(&meter);
-    meter.End();
-    QCOMPARE(ShownFrame(&meter), 3);
-    meter.Start();
-    Tick(&meter);
-    QCOMPARE(ShownFrame(&meter), 1);
-    meter.End();
-}
+    void textSetsWidth_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("short") << QStringLiteral("Busy");
+        QTest::newRow("long") << QStringLiteral("Rendering the preview of the scene");
+    }
 
-void tst_ProgressMeter::textSetsWidth_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("short") << QStringLiteral("Busy");
-    QTest::newRow("long") << QStringLiteral("Rendering the preview of the scene");
-}
+    void textSetsWidth()
+    {
+        QFETCH(QString, text);
+        ProgressMeter meter;
+        meter.resize(300, 24);
+        meter.SetText(text);
+        QCOMPARE(meter.height(), 24);
+        if (text.isEmpty())
+            QCOMPARE(meter.width(), 300);
+        else
+            QCOMPARE(meter.width(), meter.fontMetrics().horizontalAdvance(text) + 33);
+    }
 
-void tst_ProgressMeter::textSetsWidth()
-{
-    QFETCH(QString, text);
-    ProgressMeter meter;
-    meter.resize(300, 24);
-    meter.SetText(text);
-    QCOMPARE(meter.GetText(), text);
-    QCOMPARE(meter.height(), 24);
-    if (text.isEmpty())
-        QCOMPARE(meter.width(), 300);
-    else
-        QCOMPARE(meter.width(), meter.fontMetrics().horizontalAdvance(text) + 33);
-}
+    void layoutWithAndWithoutText()
+    {
+        ProgressMeter meter;
+        meter.resize(100, 40);
+        meter.updateGeometry();
+        QCOMPARE(ImageLabel(&meter)->geometry(), QRect(42, 12, 16, 16));
 
-void tst_ProgressMeter::layoutWithAndWithoutText()
-{
-    ProgressMeter meter;
-    meter.resize(100, 40);
-    meter.updateGeometry();
-    QCOMPARE(ImageLabel(&meter)->geometry(), QRect(42, 12, 16, 16));
+        meter.SetText(QStringLiteral("Busy"));
+        meter.setGeometry(QRect(0, 0, 120, 40));
+        QCOMPARE(ImageLabel(&meter)->geometry(), QRect(0, 12, 16, 16));
+        QCOMPARE(TextLabel(&meter)->geometry(), QRect(18, 0, 102, 40));
 
-    meter.SetText(QStringLiteral("Busy"));
-    meter.setGeometry(QRect(0, 0, 120, 40));
-    QCOMPARE(ImageLabel(&meter)->geometry(), QRect(0, 12, 16, 16));
-    QCOMPARE(TextLabel(&meter)->geometry(), QRect(18, 0, 102, 40));
+        // A resize of a shown meter lays it out again.
+        QVERIFY(Probe::Shown(&meter));
+        meter.resize(81, 31);
+        QCOMPARE(ImageLabel(&meter)->geometry(), QRect(0, 7, 16, 16));
+        QCOMPARE(TextLabel(&meter)->geometry(), QRect(18, 0, 63, 31));
+    }
 
-    // A resize of a shown meter lays it out again.
-    meter.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&meter));
-    meter.resize(81, 31);
-    QCOMPARE(ImageLabel(&meter)->geometry(), QRect(0, 7, 16, 16));
-    QCOMPARE(TextLabel(&meter)->geometry(), QRect(18, 0, 63, 31));
-}
-
-void tst_ProgressMeter::runningTimerAnimates()
-{
-    ProgressMeter meter;
-    meter.SetImageFrameList(NumberedFrames(24));
-    meter.Start();
-    QTRY_VERIFY(ShownFrame(&meter) >= 2);
-    meter.End();
-}
+    void runningTimerAnimates()
+    {
+        ProgressMeter meter;
+        meter.SetImageFrameList(NumberedFrames(24));
+        meter.Start();
+        QTRY_VERIFY(ShownFrame(&meter) >= 2);
+        meter.End();
+    }
+};
 
 QTEST_MAIN(tst_ProgressMeter)
 #include "tst_progressmeter.moc"

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <type_traits>
 
 using Kavrel::UICore::WidgetUnits;
 using namespace kavrel::platform::core::units;
@@ -23,53 +24,37 @@ public:
     // Each notification also checks that the new state is already stored.
     void OnChanged_DecimalPrecision(int o, int n) override
     {
-        Check(GetDecimalPrecision() == n);
-        Log("DecimalPrecision", o, n);
+        Note(GetDecimalPrecision() == n, "DecimalPrecision", o, n);
     }
-    void OnChanged_UnitType(UnitType o, UnitType n) override
-    {
-        Check(GetUnitType() == n);
-        Log("UnitType", int(o), int(n));
-    }
+    void OnChanged_UnitType(UnitType o, UnitType n) override { Note(GetUnitType() == n, "UnitType", int(o), int(n)); }
     void OnChanged_UnitSymbol(UnitSymbol o, UnitSymbol n) override
     {
-        Check(GetUnitSymbolType() == n);
-        Log("UnitSymbol", int(o), int(n));
+        Note(GetUnitSymbolType() == n, "UnitSymbol", int(o), int(n));
     }
     void OnChanged_NumberFormat(NumberFormat o, NumberFormat n) override
     {
-        Check(GetNumberFormatId() == n);
-        Log("NumberFormat", int(o), int(n));
+        Note(GetNumberFormatId() == n, "NumberFormat", int(o), int(n));
     }
-    void OnChanged_Value(double o, double n) override
-    {
-        Check(GetValue() == n);
-        Log("Value", o, n);
-    }
+    void OnChanged_Value(double o, double n) override { Note(GetValue() == n, "Value", o, n); }
     void OnChanged_DecimalSeparator(QString o, QString n) override
     {
-        Check(n.isEmpty() || GetDecimalSeparator() == n);
-        Log("DecimalSeparator", o, n);
+        Note(n.isEmpty() || GetDecimalSeparator() == n, "DecimalSeparator", o, n);
     }
     void OnChanged_GroupSeparator(QString o, QString n) override
     {
-        Check(n.isEmpty() || GetGroupSeparator() == n);
-        Log("GroupSeparator", o, n);
+        Note(n.isEmpty() || GetGroupSeparator() == n, "GroupSeparator", o, n);
     }
     void OnChanged_NumberSign(bool o, bool n) override
     {
-        Check(GetFormatter().IncludePositiveSignInNumber() == n);
-        Log("NumberSign", o, n);
+        Note(GetFormatter().IncludePositiveSignInNumber() == n, "NumberSign", o, n);
     }
     void OnChanged_ExponentSign(bool o, bool n) override
     {
-        Check(GetFormatter().IncludePositiveSignInExponent() == n);
-        Log("ExponentSign", o, n);
+        Note(GetFormatter().IncludePositiveSignInExponent() == n, "ExponentSign", o, n);
     }
     void OnChanged_UnitSymbolDisplayEnabled(bool o, bool n) override
     {
-        Check(GetUnitSymbolDisplayEnabled() == n);
-        Log("UnitSymbolDisplayEnabled", o, n);
+        Note(GetUnitSymbolDisplayEnabled() == n, "UnitSymbolDisplayEnabled", o, n);
     }
 
     using WidgetUnits::ApplyCustomSymbolString;
@@ -96,22 +81,15 @@ public:
     bool mbNotifiedBeforeStoring = false;
 
 private:
-    void Check(bool stored)
-    {
-        if (!stored)
-            mbNotifiedBeforeStoring = true;
-    }
-
     template <typename T>
-    void Log(const char* name, T o, T n)
+    void Note(bool stored, const char* name, T o, T n)
     {
-        mCalls << QStringLiteral("%1(%2,%3)").arg(QLatin1String(name)).arg(o).arg(n);
-    }
-    void Log(const char* name, bool o, bool n)
-    {
-        mCalls << QStringLiteral("%1(%2,%3)")
-                      .arg(QLatin1String(name), QLatin1String(o ? "true" : "false"),
-                           QLatin1String(n ? "true" : "false"));
+        mbNotifiedBeforeStoring |= !stored;
+        if constexpr (std::is_same_v<T, bool>)
+            mCalls << QStringLiteral("%1(%2,%3)").arg(QLatin1String(name), QLatin1String(o ? "true" : "false"),
+                                                              QLatin1String(n ? "true" : "false"));
+        else
+            mCalls << QStringLiteral("%1(%2,%3)").arg(QLatin1String(name)).arg(o).arg(n);
     }
 };
 
@@ -132,26 +110,6 @@ class tst_WidgetUnits : public QObject
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale::c()); }
 
-    void defaults()
-    {
-        Recorder units;
-        QCOMPARE(units.GetValue(), 0.0);
-        QCOMPARE(int(units.GetUnitType()), 0x1001);
-        QCOMPARE(int(units.GetUnitSymbolType()), 0x101001);
-        QVERIFY(units.GetUnitSymbolDisplayEnabled());
-        QCOMPARE(units.GetDecimalSeparator(), QLocale::system().decimalPoint());
-        QCOMPARE(units.GetGroupSeparator(), QLocale::system().groupSeparator());
-        QVERIFY(!units.GetFormatter().IncludePositiveSignInNumber());
-        QVERIFY(!units.GetFormatter().IncludePositiveSignInExponent());
-        wchar_t sign[10];
-        QCOMPARE(units.GetFormatter().GetPositiveSign(sign, 10), kSuccess);
-        QCOMPARE(QString::fromWCharArray(sign), QStringLiteral("+"));
-        QCOMPARE(units.GetUnit(), QStringLiteral("Unitless"));
-        QCOMPARE(units.GetNumberFormatW(), QStringLiteral("Decimal"));
-        // Notifications from inside the constructor reach only the base class.
-        QVERIFY(units.mCalls.isEmpty());
-    }
-
     void valueSnapsToZeroWithinTolerance()
     {
         Recorder units;
@@ -166,11 +124,7 @@ private Q_SLOTS:
         units.SetValue(3.0);
         units.SetValue(-0.0);
         QVERIFY(!std::signbit(units.GetValue()));
-    }
-
-    void valueWithoutNotification()
-    {
-        Recorder units;
+        units.mCalls.clear();
         QVERIFY(units.SetValue(2.0, false));
         QCOMPARE(units.GetValue(), 2.0);
         QVERIFY(!units.SetValue(2.0 + 1e-9, false));
@@ -210,7 +164,6 @@ private Q_SLOTS:
         units.ShowPositiveExponentSign(true);
         QCOMPARE(units.mCalls, QStringList({"NumberSign(false,false)", "NumberSign(false,true)",
                                             "ExponentSign(false,false)", "ExponentSign(false,true)"}));
-        QVERIFY(units.GetFormatter().IncludePositiveSignInNumber());
         QCOMPARE(units.Text(1.5), QStringLiteral("+1.50"));
     }
 
@@ -218,6 +171,10 @@ private Q_SLOTS:
     {
         Recorder units;
         const QString system = QLocale::system().decimalPoint();
+        QCOMPARE(units.GetDecimalSeparator(), system);
+        QCOMPARE(units.GetGroupSeparator(), QLocale::system().groupSeparator());
+        // Notifications from inside the constructor reach only the base class.
+        QVERIFY(units.mCalls.isEmpty());
         units.SetDecimalSeparator(QStringLiteral(","));
         units.SetDecimalSeparator(QString());
         QCOMPARE(units.GetDecimalSeparator(), system);
@@ -244,11 +201,7 @@ private Q_SLOTS:
         double value = 0;
         QVERIFY(units.ValidateValue(QStringLiteral("1~~234*5 "), value));
         QCOMPARE(value, 1234.5);
-    }
-
-    void separatorSetOnTheFormatterIsReadBack()
-    {
-        Recorder units;
+        // A separator set on the formatter directly is read back.
         QCOMPARE(units.GetFormatter().SetNumberDecimalSeparator(L"<dec>"), kSuccess);
         QCOMPARE(units.GetDecimalSeparator(), QStringLiteral("<dec>"));
     }
@@ -358,13 +311,15 @@ private Q_SLOTS:
         QTest::addColumn<int>("format");
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("used");
-        QTest::newRow("large switches") << 12345678.0 << 2 << "1.23E07" << 0;
-        QTest::newRow("1e7 stays plain") << 1e7 << 2 << "10000000.00" << 2;
-        QTest::newRow("zero stays plain") << 0.0 << 2 << "0.00" << 2;
-        QTest::newRow("tiny rounds to zero") << 1e-9 << 2 << "0.00" << 2;
-        QTest::newRow("grouped switches") << -2e8 << 3 << "-2.00E08" << 0;
-        QTest::newRow("exponent form stays") << 12345678.0 << 1 << "12.35E06" << 1;
-        QTest::newRow("fraction as decimal for plain numbers") << 12.5 << 6 << "12.50" << 6;
+        QTest::addColumn<int>("precision");
+        QTest::newRow("large switches") << 12345678.0 << 2 << "1.23E07" << 0 << 2;
+        QTest::newRow("1e7 stays plain") << 1e7 << 2 << "10000000.00" << 2 << 2;
+        QTest::newRow("zero stays plain") << 0.0 << 2 << "0.00" << 2 << 2;
+        QTest::newRow("tiny rounds to zero") << 1e-9 << 2 << "0.00" << 2 << 2;
+        QTest::newRow("small with many decimals switches") << 5e-9 << 2 << "5.0000000000E-09" << 0 << 10;
+        QTest::newRow("grouped switches") << -2e8 << 3 << "-2.00E08" << 0 << 2;
+        QTest::newRow("exponent form stays") << 12345678.0 << 1 << "12.35E06" << 1 << 2;
+        QTest::newRow("fraction as decimal for plain numbers") << 12.5 << 6 << "12.50" << 6 << 2;
     }
 
     void exponentFallback()
@@ -373,21 +328,14 @@ private Q_SLOTS:
         QFETCH(int, format);
         QFETCH(QString, text);
         QFETCH(int, used);
+        QFETCH(int, precision);
         Recorder units;
         units.SetNumberFormatId(NumberFormat(format));
+        units.SetDecimalPrecision(precision);
         QString result;
         QCOMPARE(int(units.FormatUsed(value, result)), used);
         QCOMPARE(result, text);
         QCOMPARE(int(units.GetNumberFormatId()), format);
-    }
-
-    void smallValuesWithManyDecimalsSwitch()
-    {
-        Recorder units;
-        units.SetDecimalPrecision(10);
-        QString text;
-        QCOMPARE(int(units.FormatUsed(5e-9, text)), 0);
-        QCOMPARE(text, QStringLiteral("5.0000000000E-09"));
     }
 
     void formattingCases()
@@ -514,17 +462,12 @@ private Q_SLOTS:
     void steps()
     {
         Recorder units;
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(0), 1.0);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(1), 1.0 / 60);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(2), 0.016666666666666666);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(3), 1.0 / 3600);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(4), 0.0002777777777777778);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(5), 1.0 / 36000);
-        QCOMPARE(units.CalculateStepForDegreeMinuteSecond(6), 1.0 / 360000);
-        QCOMPARE(units.CalculateStepForFraction(0), 1.0);
-        QCOMPARE(units.CalculateStepForFraction(1), 0.5);
-        QCOMPARE(units.CalculateStepForFraction(3), 0.125);
-        QCOMPARE(units.CalculateStepForFraction(8), 1.0 / 256);
+        const double dms[] = {1.0, 1.0 / 60, 0.016666666666666666, 1.0 / 3600, 0.0002777777777777778, 1.0 / 36000,
+                              1.0 / 360000};
+        for (int precision = 0; precision < 7; ++precision)
+            QCOMPARE(units.CalculateStepForDegreeMinuteSecond(precision), dms[precision]);
+        for (int precision : {0, 1, 3, 8})
+            QCOMPARE(units.CalculateStepForFraction(precision), std::ldexp(1.0, -precision));
     }
 
     void notificationOrderAcrossSetters()
@@ -543,15 +486,9 @@ private Q_SLOTS:
         const QStringList calls = units.mCalls;
         QVERIFY(!units.mbNotifiedBeforeStoring);
         QCOMPARE(calls.size(), 10);
-        const char* expected[] = {"DecimalPrecision(2,3)",
-                                  "UnitType(4097,32770)",
-                                  "UnitSymbol(1052673,98306)",
-                                  "NumberFormat(2,4)",
-                                  "Value(0,10)",
-                                  "DecimalSeparator(",
-                                  "GroupSeparator(",
-                                  "NumberSign(false,true)",
-                                  "ExponentSign(false,true)",
+        const char* expected[] = {"DecimalPrecision(2,3)",  "UnitType(4097,32770)", "UnitSymbol(1052673,98306)",
+                                  "NumberFormat(2,4)",      "Value(0,10)",          "DecimalSeparator(",
+                                  "GroupSeparator(",        "NumberSign(false,true)", "ExponentSign(false,true)",
                                   "UnitSymbolDisplayEnabled(true,true)"};
         for (int i = 0; i < 10; ++i)
             QVERIFY2(calls.at(i).startsWith(QLatin1String(expected[i])), qPrintable(calls.at(i)));
