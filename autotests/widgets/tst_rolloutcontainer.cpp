@@ -1,8 +1,7 @@
 // test-options: SCALES 1.25 1.5 2
 #include "../PaintProbe.h"
-#include <KvUICore/core/CoreUIUtil_p.h>
+
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
 #include <KvUICore/widgets/RolloutContainer.h>
 
@@ -54,19 +53,15 @@ class tst_RolloutContainer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { Probe::UseRepositoryThemes(); }
     void cleanup();
 
     void nestedContainersIndentOneStepPerLevel();
     void collapsingRemembersWhatItHid();
-    void titleClickTogglesOnlyWithLeftButtonInsideTitle_data();
-    void titleClickTogglesOnlyWithLeftButtonInsideTitle();
-    void upAndDownKeys();
+    void userInputToggles_data();
+    void userInputToggles();
     void hiddenExpandButtonFreezesTheState();
     void checkBoxEnablesContentButKeepsHostDisabledChildren();
-    void enabledChangeReappliesTheCheckState();
-    void expandableWhenDisabled_data();
-    void expandableWhenDisabled();
     void titleTooltips();
     void extraTopMarginSurvivesThemeChanges();
     void sizeHints();
@@ -76,18 +71,12 @@ private:
     QList<QWidget*> mWidgets;
 };
 
-void tst_RolloutContainer::initTestCase()
-{
-    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
-
 void tst_RolloutContainer::cleanup()
 {
     qDeleteAll(mWidgets);
     mWidgets.clear();
     QToolTip::hideText();
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
 }
 
 RolloutContainer* tst_RolloutContainer::shownContainer(int width)
@@ -133,8 +122,8 @@ void tst_RolloutContainer::nestedContainersIndentOneStepPerLevel()
         c->resize(200, c->TitleHeight() + 10);
     }
     const int row = alone.TitleHeight() / 2;
-    const int x0 = firstColumnWithColor(alone.grab().toImage(), row, triangle);
-    const int x2 = firstColumnWithColor(level2.grab().toImage(), row, triangle);
+    const int x0 = firstColumnWithColor(Probe::Grab(&alone), row, triangle);
+    const int x2 = firstColumnWithColor(Probe::Grab(&level2), row, triangle);
     QVERIFY(x0 >= 0);
     QCOMPARE(x2 - x0, 32);
 }
@@ -179,50 +168,57 @@ void tst_RolloutContainer::collapsingRemembersWhatItHid()
     QCOMPARE(innerCollapsed.count(), 2);
 }
 
-void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle_data()
+void tst_RolloutContainer::userInputToggles_data()
 {
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<bool>("inTitle");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("startCollapsed");
+    QTest::addColumn<QString>("state");
     QTest::addColumn<bool>("toggles");
-    QTest::newRow("left in title") << Qt::LeftButton << true << true;
-    QTest::newRow("right in title") << Qt::RightButton << true << false;
-    QTest::newRow("left below title") << Qt::LeftButton << false << false;
+
+    QTest::newRow("left click in title collapses") << "left" << false << "" << true;
+    QTest::newRow("left click in title expands") << "left" << true << "" << true;
+    QTest::newRow("right click in title") << "right" << false << "" << false;
+    QTest::newRow("left click below title") << "below" << false << "" << false;
+    QTest::newRow("up collapses") << "up" << false << "" << true;
+    QTest::newRow("up while collapsed") << "up" << true << "" << false;
+    QTest::newRow("down expands") << "down" << true << "" << true;
+    QTest::newRow("down while expanded") << "down" << false << "" << false;
+    QTest::newRow("disabled, expandable") << "left" << false << "disabled expandable" << true;
+    QTest::newRow("disabled, frozen") << "left" << false << "disabled" << false;
+    QTest::newRow("no expand button, click") << "left" << false << "no button" << false;
+    QTest::newRow("no expand button, up") << "up" << false << "no button" << false;
 }
 
-void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle()
+void tst_RolloutContainer::userInputToggles()
 {
-    QFETCH(Qt::MouseButton, button);
-    QFETCH(bool, inTitle);
+    QFETCH(QString, input);
+    QFETCH(bool, startCollapsed);
+    QFETCH(QString, state);
     QFETCH(bool, toggles);
 
     RolloutContainer* container = shownContainer();
     QVERIFY(container);
-    const QRect title = container->GetTitleRect();
-    const QPoint pos = inTitle ? title.center() : QPoint(title.center().x(), container->height() - 3);
+    container->SetIsCollapsed(startCollapsed);
+    container->SetIsExpandableWhenDisabled(state == QLatin1String("disabled expandable"));
+    container->setEnabled(!state.startsWith(QLatin1String("disabled")));
+    container->SetExpandButtonVisible(state != QLatin1String("no button"));
     QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
-    QTest::mouseClick(container, button, Qt::NoModifier, pos);
-    QCOMPARE(container->IsCollapsed(), toggles);
+
+    const QRect title = container->GetTitleRect();
+    if (input == QLatin1String("up") || input == QLatin1String("down"))
+        QTest::keyClick(container, input == QLatin1String("up") ? Qt::Key_Up : Qt::Key_Down);
+    else
+        QTest::mouseClick(container, input == QLatin1String("right") ? Qt::RightButton : Qt::LeftButton,
+                          Qt::NoModifier,
+                          input == QLatin1String("below") ? QPoint(title.center().x(), container->height() - 3)
+                                                          : title.center());
+    QCOMPARE(container->IsCollapsed(), startCollapsed != toggles);
     QCOMPARE(collapsed.count(), toggles ? 1 : 0);
-    QTest::mouseClick(container, button, Qt::NoModifier, pos);
-    QCOMPARE(container->IsCollapsed(), false);
+    if (toggles)
+        QCOMPARE(collapsed.last().at(0).toBool(), !startCollapsed);
     QVERIFY(!QWidget::mouseGrabber());
 }
 
-void tst_RolloutContainer::upAndDownKeys()
-{
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
-    QTest::keyClick(container, Qt::Key_Down);
-    QCOMPARE(collapsed.count(), 0);
-    QTest::keyClick(container, Qt::Key_Up);
-    QVERIFY(container->IsCollapsed());
-    QTest::keyClick(container, Qt::Key_Up);
-    QCOMPARE(collapsed.count(), 1);
-    QTest::keyClick(container, Qt::Key_Down);
-    QVERIFY(!container->IsCollapsed());
-    QCOMPARE(collapsed.count(), 2);
-}
 
 void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
 {
@@ -235,9 +231,7 @@ void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
     QCOMPARE(collapsed.count(), 1);
     QCOMPARE(collapsed.last().at(0).toBool(), false);
     QVERIFY(!container->IsCollapsed());
-
-    QTest::keyClick(container, Qt::Key_Up);
-    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
+    // Nor can code collapse it now.
     container->SetIsCollapsed(true);
     QVERIFY(!container->IsCollapsed());
     QCOMPARE(collapsed.count(), 1);
@@ -245,7 +239,7 @@ void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
     // No triangle is painted.
     const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
     QVERIFY(triangle.isValid());
-    QCOMPARE(firstColumnWithColor(container->grab().toImage(), container->TitleHeight() / 2, triangle), -1);
+    QCOMPARE(firstColumnWithColor(Probe::Grab(container), container->TitleHeight() / 2, triangle), -1);
 }
 
 void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
@@ -288,47 +282,15 @@ void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
     QVERIFY(!label->isEnabled());
     QCOMPARE(toggled.last().at(0).toBool(), true);
 
-    // Through the slot as well.
+    // Through the slot as well; enabling the container again re-applies the check state.
     container->SetChecked(false);
+    QVERIFY(!edit->isEnabled());
+    container->setEnabled(false);
+    container->setEnabled(true);
     QVERIFY(!edit->isEnabled());
     container->SetChecked(true);
     QVERIFY(edit->isEnabled());
     QVERIFY(!label->isEnabled());
-}
-
-void tst_RolloutContainer::enabledChangeReappliesTheCheckState()
-{
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    container->SetIsCheckable(true);
-    container->SetChecked(false);
-    QLineEdit* edit = container->findChild<QLineEdit*>();
-    QVERIFY(!edit->isEnabled());
-    container->setEnabled(false);
-    container->setEnabled(true);
-    QVERIFY(container->isEnabled());
-    QVERIFY(!edit->isEnabled());
-    container->SetChecked(true);
-    QVERIFY(edit->isEnabled());
-}
-
-void tst_RolloutContainer::expandableWhenDisabled_data()
-{
-    QTest::addColumn<bool>("expandable");
-    QTest::newRow("expandable") << true;
-    QTest::newRow("frozen") << false;
-}
-
-void tst_RolloutContainer::expandableWhenDisabled()
-{
-    QFETCH(bool, expandable);
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    container->SetIsExpandableWhenDisabled(expandable);
-    QCOMPARE(container->IsExpandableWhenDisabled(), expandable);
-    container->setEnabled(false);
-    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
-    QCOMPARE(container->IsCollapsed(), expandable);
 }
 
 void tst_RolloutContainer::titleTooltips()
