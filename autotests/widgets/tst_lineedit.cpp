@@ -23,12 +23,10 @@ private Q_SLOTS:
 
     void focusPolicyAndSizeHints();
     void promptingShowsInItalicsWhileEmptyAndUnfocused();
-    void setTextEndsPromptingAndAnnouncesTheFullText();
     void longTextIsElidedUntilFocused_data();
     void longTextIsElidedUntilFocused();
     void firstClickSelectsAllOnlyOnce();
-    void returnSelectsAll();
-    void homeAlwaysKeepsTheCursorAtTheStart();
+    void homeAlwaysKeepsTheCursorAtTheStartAndReturnSelectsAll();
     void hoverStateAndEnterSignal();
     void preventedContextMenuDoesNotOpen();
     void contextMenuFollowsTheThemeAndKeepsTheSelection_data();
@@ -99,28 +97,22 @@ void tst_LineEdit::promptingShowsInItalicsWhileEmptyAndUnfocused()
 
     edit->clearFocus();
     QTRY_VERIFY(edit->IsPrompting());
+
+    // Text set by code ends the prompting and announces the full text once.
+    QSignalSpy changed(edit, &QLineEdit::textChanged);
+    edit->SetText(QStringLiteral("value"));
+    QVERIFY(!edit->IsPrompting());
+    QCOMPARE(edit->GetText(), QStringLiteral("value"));
+    edit->SetText(QStringLiteral("value"));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("value"));
+    // Emptying shows the hint again, until the prompting is unset.
+    edit->SetText(QString());
+    QVERIFY(edit->IsPrompting());
+    QCOMPARE(edit->GetText(), QString());
     edit->UnsetPrompting();
     QVERIFY(!edit->IsPrompting());
     QCOMPARE(edit->text(), QString());
-}
-
-void tst_LineEdit::setTextEndsPromptingAndAnnouncesTheFullText()
-{
-    LineEdit edit;
-    edit.SetPrompting(QStringLiteral("Hint"));
-    QVERIFY(edit.IsPrompting());
-    QSignalSpy changed(&edit, &QLineEdit::textChanged);
-    edit.SetText(QStringLiteral("value"));
-    QVERIFY(!edit.IsPrompting());
-    QCOMPARE(edit.GetText(), QStringLiteral("value"));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("value"));
-    edit.SetText(QStringLiteral("value"));
-    QCOMPARE(changed.count(), 1);
-    // Emptying shows the hint again.
-    edit.SetText(QString());
-    QVERIFY(edit.IsPrompting());
-    QCOMPARE(edit.GetText(), QString());
 }
 
 void tst_LineEdit::longTextIsElidedUntilFocused_data()
@@ -177,17 +169,7 @@ void tst_LineEdit::firstClickSelectsAllOnlyOnce()
     QCOMPARE(edit->selectedText(), QString());
 }
 
-void tst_LineEdit::returnSelectsAll()
-{
-    LineEdit* edit = shownLineEdit();
-    QVERIFY(edit && focus(edit));
-    QTest::keyClicks(edit, QStringLiteral("typed"));
-    QCOMPARE(edit->selectedText(), QString());
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(edit->selectedText(), QStringLiteral("typed"));
-}
-
-void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStart()
+void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStartAndReturnSelectsAll()
 {
     LineEdit* edit = shownLineEdit();
     QVERIFY(edit);
@@ -199,6 +181,10 @@ void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStart()
     edit->setCursorPosition(4);
     QVERIFY(focus(edit));
     QCOMPARE(edit->cursorPosition(), 0);
+    QTest::keyClicks(edit, QStringLiteral("typed"));
+    QCOMPARE(edit->selectedText(), QString());
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(edit->selectedText(), QStringLiteral("typedghijkl"));
 }
 
 void tst_LineEdit::hoverStateAndEnterSignal()
