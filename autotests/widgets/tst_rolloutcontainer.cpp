@@ -96,36 +96,30 @@ RolloutContainer* tst_RolloutContainer::shownContainer(int width)
 
 void tst_RolloutContainer::nestedContainersIndentOneStepPerLevel()
 {
-    RolloutContainer* outer = shownContainer();
-    QVERIFY(outer);
-    auto* middle = new RolloutContainer(outer);
-    auto* inner = new RolloutContainer(middle);
-    QCOMPARE(outer->IndentLevel(), 0);
-    QCOMPARE(middle->IndentLevel(), 1);
-    QCOMPARE(inner->IndentLevel(), 2);
-
-    // Containers placed through a layout learn their level when reparented.
-    auto* later = new RolloutContainer;
-    outer->layout()->addWidget(later);
-    QCOMPARE(later->IndentLevel(), 1);
-
-    // Same title, same width: the disclosure triangle starts 32 pixels further right.
-    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
-    QVERIFY(triangle.isValid());
     // A standalone container to compare with: a parent's grab would show its children on top.
     RolloutContainer alone;
     RolloutContainer top;
     RolloutContainer level1(&top);
     RolloutContainer level2(&level1);
-    for (RolloutContainer* c : {&alone, &top, &level1, &level2}) {
+    QCOMPARE(top.IndentLevel(), 0);
+    QCOMPARE(level1.IndentLevel(), 1);
+    QCOMPARE(level2.IndentLevel(), 2);
+    // Containers placed through a layout learn their level when reparented.
+    auto* later = new RolloutContainer;
+    (new QVBoxLayout(&top))->addWidget(later);
+    QCOMPARE(later->IndentLevel(), 1);
+
+    // Same title, same width: the disclosure triangle starts 32 pixels further right.
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
+    QVERIFY(triangle.isValid());
+    for (RolloutContainer* c : {&alone, &level2}) {
         c->SetTitle(QStringLiteral("Title"));
         c->resize(200, c->TitleHeight() + 10);
     }
     const int row = alone.TitleHeight() / 2;
     const int x0 = firstColumnWithColor(Probe::Grab(&alone), row, triangle);
-    const int x2 = firstColumnWithColor(Probe::Grab(&level2), row, triangle);
     QVERIFY(x0 >= 0);
-    QCOMPARE(x2 - x0, 32);
+    QCOMPARE(firstColumnWithColor(Probe::Grab(&level2), row, triangle) - x0, 32);
 }
 
 void tst_RolloutContainer::collapsingRemembersWhatItHid()

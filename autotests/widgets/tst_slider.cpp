@@ -60,14 +60,6 @@ void TypeAndConfirm(NumericField* field, const QString& text)
     QTest::keyClick(field, Qt::Key_Return);
 }
 
-QStringList Log(std::initializer_list<const char*> entries)
-{
-    QStringList list;
-    for (const char* entry : entries)
-        list << QString::fromLatin1(entry);
-    return list;
-}
-
 } // namespace
 
 class tst_Slider : public QObject
@@ -310,7 +302,7 @@ void tst_Slider::escapeDuringAKeyboardDragCancels()
     QVERIFY(control->HeldInputs().isEmpty());
     // The key let go after the cancel ends nothing more.
     QTest::keyRelease(control, Qt::Key_Right);
-    QCOMPARE(log.mEntries, Log({"pressed", "changed 20.01", "changed 20.02", "cancelled"}));
+    QCOMPARE(log.mEntries, QStringList({"pressed", "changed 20.01", "changed 20.02", "cancelled"}));
 }
 
 void tst_Slider::wheelNotchAwayFromTheUserLowersThePosition()
@@ -334,7 +326,8 @@ void tst_Slider::wheelNotchAwayFromTheUserLowersThePosition()
     // Less than a notch does nothing.
     wheel(60);
     QCOMPARE(control->value(), 4001);
-    QCOMPARE(log.mEntries, Log({"pressed", "changed 39.99", "released", "pressed", "changed 40.01", "released"}));
+    QCOMPARE(log.mEntries,
+             QStringList({"pressed", "changed 39.99", "released", "pressed", "changed 40.01", "released"}));
 }
 
 void tst_Slider::dragStartsWhereTheThumbIsAndFollowsTheMouse()
@@ -351,7 +344,7 @@ void tst_Slider::dragStartsWhereTheThumbIsAndFollowsTheMouse()
     const QPoint press(groove.left() + groove.width() / 5, groove.center().y());
     QTest::mousePress(control, Qt::LeftButton, {}, press);
     QCOMPARE(slider->GetValue(), 50.0);
-    QCOMPARE(log.mEntries, Log({"pressed"}));
+    QCOMPARE(log.mEntries, QStringList({"pressed"}));
 
     QStyleOptionSlider option;
     option.initFrom(control);
