@@ -63,8 +63,7 @@ private Q_SLOTS:
     void hiddenExpandButtonFreezesTheState();
     void checkBoxEnablesContentButKeepsHostDisabledChildren();
     void titleTooltips();
-    void extraTopMarginSurvivesThemeChanges();
-    void sizeHints();
+    void extraTopMarginSurvivesThemeChangesAndSizeHints();
 
 private:
     RolloutContainer* shownContainer(int width = 240);
@@ -323,7 +322,7 @@ void tst_RolloutContainer::titleTooltips()
     QCOMPARE(QToolTip::text(), longTitle);
 }
 
-void tst_RolloutContainer::extraTopMarginSurvivesThemeChanges()
+void tst_RolloutContainer::extraTopMarginSurvivesThemeChangesAndSizeHints()
 {
     RolloutContainer container;
     const int lightTitle = container.TitleHeight();
@@ -339,17 +338,13 @@ void tst_RolloutContainer::extraTopMarginSurvivesThemeChanges()
         QCOMPARE(container.TitleHeight(), expected);
         QCOMPARE(container.contentsMargins(), QMargins(4, expected + 5, 4, 4));
     }
-}
 
-void tst_RolloutContainer::sizeHints()
-{
-    RolloutContainer container;
+    container.setContentsMargins(0, 0, 0, 0);
     container.SetTitle(QStringLiteral("Material"));
     auto* layout = new QVBoxLayout(&container);
     auto* child = new QLabel(QStringLiteral("A label in the container"), &container);
     layout->addWidget(child);
-    const QSize expanded = container.sizeHint();
-    QCOMPARE(expanded, layout->totalSizeHint().expandedTo(QSize(container.GetTitleRect().width(), 0)));
+    QCOMPARE(container.sizeHint(), layout->totalSizeHint().expandedTo(QSize(container.GetTitleRect().width(), 0)));
     container.SetIsCollapsed(true);
     QCOMPARE(container.sizeHint().height(), container.TitleHeight());
     QCOMPARE(container.minimumSizeHint().height(), container.TitleHeight());
