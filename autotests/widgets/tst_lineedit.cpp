@@ -1,6 +1,6 @@
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include "../PaintProbe.h"
+
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/LineEdit.h>
 
 #include <QApplication>
@@ -18,35 +18,30 @@ class tst_LineEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { Probe::UseRepositoryThemes(); }
     void cleanup();
 
-    void constructionForEmbeddedAndStandAlone();
+    void focusPolicyAndSizeHints();
     void promptingShowsInItalicsWhileEmptyAndUnfocused();
-    void setTextEndsPromptingAndAnnouncesTheFullText();
     void longTextIsElidedUntilFocused_data();
     void longTextIsElidedUntilFocused();
     void firstClickSelectsAllOnlyOnce();
-    void returnSelectsAll();
-    void homeAlwaysKeepsTheCursorAtTheStart();
+    void homeAlwaysKeepsTheCursorAtTheStartAndReturnSelectsAll();
     void hoverStateAndEnterSignal();
     void preventedContextMenuDoesNotOpen();
     void contextMenuFollowsTheThemeAndKeepsTheSelection_data();
     void contextMenuFollowsTheThemeAndKeepsTheSelection();
     void textColourFollowsThemeAndEnabledState();
-    void sizeHints();
 
 private:
     LineEdit* shownLineEdit();
+    static bool focus(LineEdit* edit)
+    {
+        edit->setFocus(Qt::TabFocusReason);
+        return QTest::qWaitFor([edit] { return edit->hasFocus(); });
+    }
     QList<QWidget*> mWidgets;
 };
-
-void tst_LineEdit::initTestCase()
-{
-    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
 
 void tst_LineEdit::cleanup()
 {
@@ -73,24 +68,15 @@ LineEdit* tst_LineEdit::shownLineEdit()
     return edit;
 }
 
-void tst_LineEdit::constructionForEmbeddedAndStandAlone()
+void tst_LineEdit::focusPolicyAndSizeHints()
 {
     LineEdit standAlone;
     QCOMPARE(standAlone.focusPolicy(), Qt::StrongFocus);
-    QVERIFY(standAlone.testAttribute(Qt::WA_Hover));
-    QCOMPARE(standAlone.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
-    QCOMPARE(standAlone.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(standAlone.textMargins().left(), -3);
-    QCOMPARE(standAlone.textMargins().top(), -standAlone.fontMetrics().descent());
-    const QColor text = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
-    QVERIFY(text.isValid());
-    QCOMPARE(standAlone.GetTextColor(), text);
-    QCOMPARE(standAlone.palette().color(QPalette::Text), text);
-    QVERIFY(standAlone.IsUseDefaultTextColor());
-
     // The embedded editor leaves the focus policy to its box.
     LineEdit embedded(nullptr, true);
     QCOMPARE(embedded.focusPolicy(), QLineEdit().focusPolicy());
+    QCOMPARE(standAlone.sizeHint(), QSize(QWIDGETSIZE_MAX, standAlone.fontMetrics().height() + 2));
+    QVERIFY(!standAlone.minimumSizeHint().isValid());
 }
 
 void tst_LineEdit::promptingShowsInItalicsWhileEmptyAndUnfocused()
@@ -104,36 +90,29 @@ void tst_LineEdit::promptingShowsInItalicsWhileEmptyAndUnfocused()
     QVERIFY(edit->font().italic());
     QVERIFY(edit->GetCurrentFont().italic());
 
-    edit->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(edit->hasFocus());
+    QVERIFY(focus(edit));
     QVERIFY(!edit->IsPrompting());
     QCOMPARE(edit->text(), QString());
     QVERIFY(!edit->font().italic());
 
     edit->clearFocus();
     QTRY_VERIFY(edit->IsPrompting());
+
+    // Text set by code ends the prompting and announces the full text once.
+    QSignalSpy changed(edit, &QLineEdit::textChanged);
+    edit->SetText(QStringLiteral("value"));
+    QVERIFY(!edit->IsPrompting());
+    QCOMPARE(edit->GetText(), QStringLiteral("value"));
+    edit->SetText(QStringLiteral("value"));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("value"));
+    // Emptying shows the hint again, until the prompting is unset.
+    edit->SetText(QString());
+    QVERIFY(edit->IsPrompting());
+    QCOMPARE(edit->GetText(), QString());
     edit->UnsetPrompting();
     QVERIFY(!edit->IsPrompting());
     QCOMPARE(edit->text(), QString());
-}
-
-void tst_LineEdit::setTextEndsPromptingAndAnnouncesTheFullText()
-{
-    LineEdit edit;
-    edit.SetPrompting(QStringLiteral("Hint"));
-    QVERIFY(edit.IsPrompting());
-    QSignalSpy changed(&edit, &QLineEdit::textChanged);
-    edit.SetText(QStringLiteral("value"));
-    QVERIFY(!edit.IsPrompting());
-    QCOMPARE(edit.GetText(), QStringLiteral("value"));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("value"));
-    edit.SetText(QStringLiteral("value"));
-    QCOMPARE(changed.count(), 1);
-    // Emptying shows the hint again.
-    edit.SetText(QString());
-    QVERIFY(edit.IsPrompting());
-    QCOMPARE(edit.GetText(), QString());
 }
 
 void tst_LineEdit::longTextIsElidedUntilFocused_data()
@@ -172,36 +151,25 @@ void tst_LineEdit::firstClickSelectsAllOnlyOnce()
     LineEdit* edit = shownLineEdit();
     QVERIFY(edit);
     edit->SetText(QStringLiteral("select me"));
-    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    const auto click = [edit] { QTest::mouseClick(edit, Qt::LeftButton, {}, QPoint(5, edit->height() / 2)); };
+    click();
     QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
     QCOMPARE(edit->HoverState(), 1);
-    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    click();
     QCOMPARE(edit->selectedText(), QString());
 
     // Leaving forgets it.
     edit->clearFocus();
-    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    click();
     QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
 
     edit->clearFocus();
     edit->AllowFocusInSelectAll(false);
-    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, edit->height() / 2));
+    click();
     QCOMPARE(edit->selectedText(), QString());
 }
 
-void tst_LineEdit::returnSelectsAll()
-{
-    LineEdit* edit = shownLineEdit();
-    QVERIFY(edit);
-    edit->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(edit->hasFocus());
-    QTest::keyClicks(edit, QStringLiteral("typed"));
-    QCOMPARE(edit->selectedText(), QString());
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(edit->selectedText(), QStringLiteral("typed"));
-}
-
-void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStart()
+void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStartAndReturnSelectsAll()
 {
     LineEdit* edit = shownLineEdit();
     QVERIFY(edit);
@@ -211,9 +179,12 @@ void tst_LineEdit::homeAlwaysKeepsTheCursorAtTheStart()
     edit->SetText(QStringLiteral("ghijkl"));
     QCOMPARE(edit->cursorPosition(), 0);
     edit->setCursorPosition(4);
-    edit->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(edit->hasFocus());
+    QVERIFY(focus(edit));
     QCOMPARE(edit->cursorPosition(), 0);
+    QTest::keyClicks(edit, QStringLiteral("typed"));
+    QCOMPARE(edit->selectedText(), QString());
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(edit->selectedText(), QStringLiteral("typedghijkl"));
 }
 
 void tst_LineEdit::hoverStateAndEnterSignal()
@@ -257,8 +228,7 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     LineEdit* edit = shownLineEdit();
     QVERIFY(edit);
     edit->SetText(QStringLiteral("keep me selected"));
-    edit->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(edit->hasFocus());
+    QVERIFY(focus(edit));
     edit->selectAll();
 
     QString styleSheet;
@@ -277,9 +247,9 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     QApplication::sendEvent(edit, &event);
     QTRY_VERIFY(!QApplication::activePopupWidget());
 
-    const QColor background = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBackgroundColor1);
-    const QColor border = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInBorderColor1);
-    const QColor separator = ThemeManager::GetInstance()->GetColor(ThemeFileKey::MenuBuiltInSeparator1);
+    const QColor background = Probe::ThemeColor(ThemeFileKey::MenuBuiltInBackgroundColor1);
+    const QColor border = Probe::ThemeColor(ThemeFileKey::MenuBuiltInBorderColor1);
+    const QColor separator = Probe::ThemeColor(ThemeFileKey::MenuBuiltInSeparator1);
     QVERIFY(background.isValid() && border.isValid() && separator.isValid());
     QVERIFY2(styleSheet.startsWith(QStringLiteral("QMenu{background-color: ") + background.name(QColor::HexArgb) +
                                    QStringLiteral("; border:")),
@@ -295,17 +265,17 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
 void tst_LineEdit::textColourFollowsThemeAndEnabledState()
 {
     LineEdit edit;
+    QVERIFY(edit.IsUseDefaultTextColor());
     for (const char* theme : {"Dark", "HIGLight", "Light"}) {
         QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QString::fromLatin1(theme)));
-        const QColor normal = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+        const QColor normal = Probe::ThemeColor(ThemeFileKey::FontNormal1);
         QVERIFY(normal.isValid());
         QCOMPARE(edit.GetTextColor(), normal);
         QCOMPARE(edit.palette().color(QPalette::Text), normal);
     }
     edit.setEnabled(false);
-    const QColor disabled = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontColorDisabled);
-    QVERIFY(disabled.isValid());
-    QCOMPARE(edit.GetTextColor(), disabled);
+    QVERIFY(Probe::ThemeColor(ThemeFileKey::FontColorDisabled).isValid());
+    QCOMPARE(edit.GetTextColor(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
 
     // A colour set by hand stays.
     edit.setEnabled(true);
@@ -313,13 +283,6 @@ void tst_LineEdit::textColourFollowsThemeAndEnabledState()
     QVERIFY(!edit.IsUseDefaultTextColor());
     QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
     QCOMPARE(edit.GetTextColor(), QColor(Qt::red));
-}
-
-void tst_LineEdit::sizeHints()
-{
-    LineEdit edit;
-    QCOMPARE(edit.sizeHint(), QSize(QWIDGETSIZE_MAX, edit.fontMetrics().height() + 2));
-    QVERIFY(!edit.minimumSizeHint().isValid());
 }
 
 QTEST_MAIN(tst_LineEdit)

@@ -1,10 +1,9 @@
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include "../PaintProbe.h"
+
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/DoubleSpinBoxNumericField.h>
 #include <KvUICore/widgets/NumericField.h>
 
-#include <QImage>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -17,32 +16,33 @@ class tst_NumericField : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { Probe::UseRepositoryThemes(); }
     void cleanup();
 
-    void constructionDefaults();
-    void firstClickSelectsAllOnlyOncePerFocus();
+    void firstClickSelectsAllOncePerFocusAndFocusOutIsAnnounced();
     void modifiedFlagIsStickyFromFocusInUntilCleared();
-    void pageKeysMoveTheCursorInThePlainField();
     void pageKeysReachTheOwnerInTheSpinBoxField();
-    void returnSelectsAllAndFinishesEditing();
+    void pageKeysMoveTheCursorAndReturnSelectsAllAndFinishesEditing();
     void hoverStateFollowsThePointer();
-    void focusOutIsAnnounced();
     void frameIsPaintedFromTheTheme_data();
     void frameIsPaintedFromTheTheme();
     void textColourFollowsEnabledStateAndTheme();
 
 private:
-    NumericField* shownField();
+    // A shown window holding a field with "1234.5" and a second line edit that has the focus.
+    NumericField* shownField(bool focused = false);
+    static void moveFocusAway(NumericField* field)
+    {
+        field->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+        QTRY_VERIFY(!field->hasFocus());
+    }
+    static void enter(QWidget* widget)
+    {
+        QEnterEvent event(QPointF(2, 2), QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)));
+        QApplication::sendEvent(widget, &event);
+    }
     QList<QWidget*> mWidgets;
 };
-
-void tst_NumericField::initTestCase()
-{
-    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
 
 void tst_NumericField::cleanup()
 {
@@ -51,7 +51,7 @@ void tst_NumericField::cleanup()
     QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
 }
 
-NumericField* tst_NumericField::shownField()
+NumericField* tst_NumericField::shownField(bool focused)
 {
     auto* window = new QWidget;
     mWidgets << window;
@@ -67,46 +67,36 @@ NumericField* tst_NumericField::shownField()
     window->activateWindow();
     if (!QTest::qWaitForWindowActive(window))
         return nullptr;
-    other->setFocus();
+    (focused ? static_cast<QWidget*>(field) : other)->setFocus();
+    if (focused && !QTest::qWaitFor([field] { return field->hasFocus(); }))
+        return nullptr;
     return field;
 }
 
-void tst_NumericField::constructionDefaults()
-{
-    NumericField field;
-    QCOMPARE(field.focusPolicy(), Qt::StrongFocus);
-    QVERIFY(field.testAttribute(Qt::WA_Hover));
-    QVERIFY(!field.testAttribute(Qt::WA_MacShowFocusRect));
-    QCOMPARE(field.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
-    QCOMPARE(field.font(), Internal::ItemViewFont());
-    QCOMPARE(field.HoverState(), 0);
-    QVERIFY(!field.IsModified());
-}
-
-void tst_NumericField::firstClickSelectsAllOnlyOncePerFocus()
+void tst_NumericField::firstClickSelectsAllOncePerFocusAndFocusOutIsAnnounced()
 {
     NumericField* field = shownField();
     QVERIFY(field);
+    QSignalSpy focusOut(field, &NumericField::FocusOut);
     const QPoint inside = field->rect().center();
     QTest::mouseClick(field, Qt::LeftButton, {}, inside);
     QTRY_VERIFY(field->hasFocus());
     QCOMPARE(field->selectedText(), QStringLiteral("1234.5"));
     QTest::mouseClick(field, Qt::LeftButton, {}, inside);
     QVERIFY(!field->hasSelectedText());
+    QCOMPARE(focusOut.count(), 0);
 
     // A new focus period starts over.
-    field->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-    QTRY_VERIFY(!field->hasFocus());
+    moveFocusAway(field);
+    QCOMPARE(focusOut.count(), 1);
     QTest::mouseClick(field, Qt::LeftButton, {}, inside);
     QCOMPARE(field->selectedText(), QStringLiteral("1234.5"));
 }
 
 void tst_NumericField::modifiedFlagIsStickyFromFocusInUntilCleared()
 {
-    NumericField* field = shownField();
+    NumericField* field = shownField(true);
     QVERIFY(field);
-    field->setFocus();
-    QTRY_VERIFY(field->hasFocus());
     QTest::keyClick(field, Qt::Key_End);
     QVERIFY(!field->IsModified());
     QTest::keyClick(field, Qt::Key_0);
@@ -120,25 +110,10 @@ void tst_NumericField::modifiedFlagIsStickyFromFocusInUntilCleared()
 
     // Focus-in starts clean even when the line edit still counts as modified.
     QTest::keyClick(field, Qt::Key_1);
-    QLineEdit* other = field->window()->findChild<QLineEdit*>(QStringLiteral("other"));
-    other->setFocus();
-    QTRY_VERIFY(!field->hasFocus());
+    moveFocusAway(field);
     QVERIFY(field->IsModified());
     field->setFocus();
     QTRY_VERIFY(field->hasFocus());
-    QVERIFY(!field->IsModified());
-}
-
-void tst_NumericField::pageKeysMoveTheCursorInThePlainField()
-{
-    NumericField* field = shownField();
-    QVERIFY(field);
-    field->setFocus();
-    field->setCursorPosition(3);
-    QTest::keyClick(field, Qt::Key_PageUp);
-    QCOMPARE(field->cursorPosition(), 0);
-    QTest::keyClick(field, Qt::Key_PageDown);
-    QCOMPARE(field->cursorPosition(), 6);
     QVERIFY(!field->IsModified());
 }
 
@@ -159,14 +134,17 @@ void tst_NumericField::pageKeysReachTheOwnerInTheSpinBoxField()
     QVERIFY(field->IsModified());
 }
 
-void tst_NumericField::returnSelectsAllAndFinishesEditing()
+void tst_NumericField::pageKeysMoveTheCursorAndReturnSelectsAllAndFinishesEditing()
 {
-    NumericField* field = shownField();
+    NumericField* field = shownField(true);
     QVERIFY(field);
-    field->setFocus();
-    QTRY_VERIFY(field->hasFocus());
     QSignalSpy finished(field, &QLineEdit::editingFinished);
-    QTest::keyClick(field, Qt::Key_End);
+    field->setCursorPosition(3);
+    QTest::keyClick(field, Qt::Key_PageUp);
+    QCOMPARE(field->cursorPosition(), 0);
+    QTest::keyClick(field, Qt::Key_PageDown);
+    QCOMPARE(field->cursorPosition(), 6);
+    QVERIFY(!field->IsModified());
     QTest::keyClick(field, Qt::Key_7);
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(finished.count(), 1);
@@ -177,8 +155,8 @@ void tst_NumericField::hoverStateFollowsThePointer()
 {
     NumericField* field = shownField();
     QVERIFY(field);
-    QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), field->mapToGlobal(QPointF(2, 2)));
-    QApplication::sendEvent(field, &enter);
+    QCOMPARE(field->HoverState(), 0);
+    enter(field);
     QCOMPARE(field->HoverState(), 1);
     QTest::mousePress(field, Qt::LeftButton, {}, field->rect().center());
     QCOMPARE(field->HoverState(), 2);
@@ -186,18 +164,6 @@ void tst_NumericField::hoverStateFollowsThePointer()
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(field, &leave);
     QCOMPARE(field->HoverState(), 0);
-}
-
-void tst_NumericField::focusOutIsAnnounced()
-{
-    NumericField* field = shownField();
-    QVERIFY(field);
-    QSignalSpy focusOut(field, &NumericField::FocusOut);
-    field->setFocus();
-    QTRY_VERIFY(field->hasFocus());
-    QCOMPARE(focusOut.count(), 0);
-    field->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-    QTRY_COMPARE(focusOut.count(), 1);
 }
 
 void tst_NumericField::frameIsPaintedFromTheTheme_data()
@@ -208,14 +174,12 @@ void tst_NumericField::frameIsPaintedFromTheTheme_data()
     QTest::addColumn<QString>("inner");
     QTest::addColumn<QString>("background");
 
-    for (const QString& theme : {QStringLiteral("Light"), QStringLiteral("Dark")}) {
-        QTest::addRow("%s, normal", qPrintable(theme))
-            << theme << "normal" << ThemeFileKey::WidgetOutline3 << QString() << ThemeFileKey::WidgetContainer9;
-        QTest::addRow("%s, hovered", qPrintable(theme))
-            << theme << "hovered" << ThemeFileKey::HoverOutline4 << QString() << ThemeFileKey::WidgetContainer12;
-        QTest::addRow("%s, focused", qPrintable(theme))
-            << theme << "focused" << ThemeFileKey::WidgetOutline6 << ThemeFileKey::FocusOutline2
-            << ThemeFileKey::WidgetContainer12;
+    using K = ThemeFileKey;
+    for (const char* t : {"Light", "Dark"}) {
+        QTest::addRow("%s, normal", t) << t << "normal" << K::WidgetOutline3 << QString() << K::WidgetContainer9;
+        QTest::addRow("%s, hovered", t) << t << "hovered" << K::HoverOutline4 << QString() << K::WidgetContainer12;
+        QTest::addRow("%s, focused", t) << t << "focused" << K::WidgetOutline6 << K::FocusOutline2
+                                        << K::WidgetContainer12;
     }
 }
 
@@ -227,42 +191,35 @@ void tst_NumericField::frameIsPaintedFromTheTheme()
     QFETCH(QString, inner);
     QFETCH(QString, background);
 
-    ThemeManager* themes = ThemeManager::GetInstance();
-    QVERIFY(themes->SetCurrentTheme(theme));
-    NumericField* field = shownField();
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
+    NumericField* field = shownField(state == QLatin1String("focused"));
     QVERIFY(field);
     field->clear();
     field->resize(120, 24);
-    if (state == QLatin1String("focused")) {
-        field->setFocus();
-        QTRY_VERIFY(field->hasFocus());
-    } else if (state == QLatin1String("hovered")) {
-        QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), field->mapToGlobal(QPointF(2, 2)));
-        QApplication::sendEvent(field, &enter);
-    }
-    const QImage image = field->grab().toImage();
-    const qreal ratio = image.devicePixelRatio();
-    const auto at = [&](int x, int y) { return image.pixelColor(QPoint(int(x * ratio), int(y * ratio))).rgb(); };
+    if (state == QLatin1String("hovered"))
+        enter(field);
+    const QImage image = Probe::Grab(field);
+    const auto at = [&](int x, int y) { return Probe::PixelAt(image, QPoint(x, y)).rgb(); };
     const int middle = field->height() / 2;
-    // Right of the (empty) text, left of nothing: the interior is plain background.
-    QCOMPARE(at(field->width() - 6, middle), themes->GetColor(background).rgb());
-    QCOMPARE(at(field->width() / 2, 0), themes->GetColor(outline).rgb());
-    QCOMPARE(at(0, middle), themes->GetColor(outline).rgb());
+    // Right of the (empty) text the interior is plain background.
+    QCOMPARE(at(field->width() - 6, middle), Probe::ThemeColor(background).rgb());
+    QCOMPARE(at(field->width() / 2, 0), Probe::ThemeColor(outline).rgb());
+    QCOMPARE(at(0, middle), Probe::ThemeColor(outline).rgb());
     if (!inner.isEmpty())
-        QCOMPARE(at(field->width() / 2, 1), themes->GetColor(inner).rgb());
+        QCOMPARE(at(field->width() / 2, 1), Probe::ThemeColor(inner).rgb());
 }
 
 void tst_NumericField::textColourFollowsEnabledStateAndTheme()
 {
     NumericField field;
-    ThemeManager* themes = ThemeManager::GetInstance();
-    QCOMPARE(field.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
+    const auto text = [&field] { return field.palette().color(QPalette::Text); };
+    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontNormal1));
     field.setEnabled(false);
-    QCOMPARE(field.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontColorDisabled));
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("HIGLight")));
-    QCOMPARE(field.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontColorDisabled));
+    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("HIGLight")));
+    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
     field.setEnabled(true);
-    QCOMPARE(field.palette().color(QPalette::Text), themes->GetColor(ThemeFileKey::FontNormal1));
+    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontNormal1));
 }
 
 QTEST_MAIN(tst_NumericField)

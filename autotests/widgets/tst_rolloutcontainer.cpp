@@ -1,8 +1,7 @@
 // test-options: SCALES 1.25 1.5 2
 #include "../PaintProbe.h"
-#include <KvUICore/core/CoreUIUtil_p.h>
+
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
 #include <KvUICore/widgets/RolloutContainer.h>
 
@@ -54,40 +53,29 @@ class tst_RolloutContainer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { Probe::UseRepositoryThemes(); }
     void cleanup();
 
     void nestedContainersIndentOneStepPerLevel();
     void collapsingRemembersWhatItHid();
-    void titleClickTogglesOnlyWithLeftButtonInsideTitle_data();
-    void titleClickTogglesOnlyWithLeftButtonInsideTitle();
-    void upAndDownKeys();
+    void userInputToggles_data();
+    void userInputToggles();
     void hiddenExpandButtonFreezesTheState();
     void checkBoxEnablesContentButKeepsHostDisabledChildren();
-    void enabledChangeReappliesTheCheckState();
-    void expandableWhenDisabled_data();
-    void expandableWhenDisabled();
     void titleTooltips();
-    void extraTopMarginSurvivesThemeChanges();
-    void sizeHints();
+    void extraTopMarginSurvivesThemeChangesAndSizeHints();
 
 private:
     RolloutContainer* shownContainer(int width = 240);
     QList<QWidget*> mWidgets;
 };
 
-void tst_RolloutContainer::initTestCase()
-{
-    Internal::SetWarningHook([](const QString&, const QString&) { return true; });
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
-
 void tst_RolloutContainer::cleanup()
 {
     qDeleteAll(mWidgets);
     mWidgets.clear();
     QToolTip::hideText();
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
 }
 
 RolloutContainer* tst_RolloutContainer::shownContainer(int width)
@@ -107,36 +95,30 @@ RolloutContainer* tst_RolloutContainer::shownContainer(int width)
 
 void tst_RolloutContainer::nestedContainersIndentOneStepPerLevel()
 {
-    RolloutContainer* outer = shownContainer();
-    QVERIFY(outer);
-    auto* middle = new RolloutContainer(outer);
-    auto* inner = new RolloutContainer(middle);
-    QCOMPARE(outer->IndentLevel(), 0);
-    QCOMPARE(middle->IndentLevel(), 1);
-    QCOMPARE(inner->IndentLevel(), 2);
-
-    // Containers placed through a layout learn their level when reparented.
-    auto* later = new RolloutContainer;
-    outer->layout()->addWidget(later);
-    QCOMPARE(later->IndentLevel(), 1);
-
-    // Same title, same width: the disclosure triangle starts 32 pixels further right.
-    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
-    QVERIFY(triangle.isValid());
     // A standalone container to compare with: a parent's grab would show its children on top.
     RolloutContainer alone;
     RolloutContainer top;
     RolloutContainer level1(&top);
     RolloutContainer level2(&level1);
-    for (RolloutContainer* c : {&alone, &top, &level1, &level2}) {
+    QCOMPARE(top.IndentLevel(), 0);
+    QCOMPARE(level1.IndentLevel(), 1);
+    QCOMPARE(level2.IndentLevel(), 2);
+    // Containers placed through a layout learn their level when reparented.
+    auto* later = new RolloutContainer;
+    (new QVBoxLayout(&top))->addWidget(later);
+    QCOMPARE(later->IndentLevel(), 1);
+
+    // Same title, same width: the disclosure triangle starts 32 pixels further right.
+    const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
+    QVERIFY(triangle.isValid());
+    for (RolloutContainer* c : {&alone, &level2}) {
         c->SetTitle(QStringLiteral("Title"));
         c->resize(200, c->TitleHeight() + 10);
     }
     const int row = alone.TitleHeight() / 2;
-    const int x0 = firstColumnWithColor(alone.grab().toImage(), row, triangle);
-    const int x2 = firstColumnWithColor(level2.grab().toImage(), row, triangle);
+    const int x0 = firstColumnWithColor(Probe::Grab(&alone), row, triangle);
     QVERIFY(x0 >= 0);
-    QCOMPARE(x2 - x0, 32);
+    QCOMPARE(firstColumnWithColor(Probe::Grab(&level2), row, triangle) - x0, 32);
 }
 
 void tst_RolloutContainer::collapsingRemembersWhatItHid()
@@ -179,50 +161,57 @@ void tst_RolloutContainer::collapsingRemembersWhatItHid()
     QCOMPARE(innerCollapsed.count(), 2);
 }
 
-void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle_data()
+void tst_RolloutContainer::userInputToggles_data()
 {
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<bool>("inTitle");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("startCollapsed");
+    QTest::addColumn<QString>("state");
     QTest::addColumn<bool>("toggles");
-    QTest::newRow("left in title") << Qt::LeftButton << true << true;
-    QTest::newRow("right in title") << Qt::RightButton << true << false;
-    QTest::newRow("left below title") << Qt::LeftButton << false << false;
+
+    QTest::newRow("left click in title collapses") << "left" << false << "" << true;
+    QTest::newRow("left click in title expands") << "left" << true << "" << true;
+    QTest::newRow("right click in title") << "right" << false << "" << false;
+    QTest::newRow("left click below title") << "below" << false << "" << false;
+    QTest::newRow("up collapses") << "up" << false << "" << true;
+    QTest::newRow("up while collapsed") << "up" << true << "" << false;
+    QTest::newRow("down expands") << "down" << true << "" << true;
+    QTest::newRow("down while expanded") << "down" << false << "" << false;
+    QTest::newRow("disabled, expandable") << "left" << false << "disabled expandable" << true;
+    QTest::newRow("disabled, frozen") << "left" << false << "disabled" << false;
+    QTest::newRow("no expand button, click") << "left" << false << "no button" << false;
+    QTest::newRow("no expand button, up") << "up" << false << "no button" << false;
 }
 
-void tst_RolloutContainer::titleClickTogglesOnlyWithLeftButtonInsideTitle()
+void tst_RolloutContainer::userInputToggles()
 {
-    QFETCH(Qt::MouseButton, button);
-    QFETCH(bool, inTitle);
+    QFETCH(QString, input);
+    QFETCH(bool, startCollapsed);
+    QFETCH(QString, state);
     QFETCH(bool, toggles);
 
     RolloutContainer* container = shownContainer();
     QVERIFY(container);
-    const QRect title = container->GetTitleRect();
-    const QPoint pos = inTitle ? title.center() : QPoint(title.center().x(), container->height() - 3);
+    container->SetIsCollapsed(startCollapsed);
+    container->SetIsExpandableWhenDisabled(state == QLatin1String("disabled expandable"));
+    container->setEnabled(!state.startsWith(QLatin1String("disabled")));
+    container->SetExpandButtonVisible(state != QLatin1String("no button"));
     QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
-    QTest::mouseClick(container, button, Qt::NoModifier, pos);
-    QCOMPARE(container->IsCollapsed(), toggles);
+
+    const QRect title = container->GetTitleRect();
+    if (input == QLatin1String("up") || input == QLatin1String("down"))
+        QTest::keyClick(container, input == QLatin1String("up") ? Qt::Key_Up : Qt::Key_Down);
+    else
+        QTest::mouseClick(container, input == QLatin1String("right") ? Qt::RightButton : Qt::LeftButton,
+                          Qt::NoModifier,
+                          input == QLatin1String("below") ? QPoint(title.center().x(), container->height() - 3)
+                                                          : title.center());
+    QCOMPARE(container->IsCollapsed(), startCollapsed != toggles);
     QCOMPARE(collapsed.count(), toggles ? 1 : 0);
-    QTest::mouseClick(container, button, Qt::NoModifier, pos);
-    QCOMPARE(container->IsCollapsed(), false);
+    if (toggles)
+        QCOMPARE(collapsed.last().at(0).toBool(), !startCollapsed);
     QVERIFY(!QWidget::mouseGrabber());
 }
 
-void tst_RolloutContainer::upAndDownKeys()
-{
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
-    QTest::keyClick(container, Qt::Key_Down);
-    QCOMPARE(collapsed.count(), 0);
-    QTest::keyClick(container, Qt::Key_Up);
-    QVERIFY(container->IsCollapsed());
-    QTest::keyClick(container, Qt::Key_Up);
-    QCOMPARE(collapsed.count(), 1);
-    QTest::keyClick(container, Qt::Key_Down);
-    QVERIFY(!container->IsCollapsed());
-    QCOMPARE(collapsed.count(), 2);
-}
 
 void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
 {
@@ -235,9 +224,7 @@ void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
     QCOMPARE(collapsed.count(), 1);
     QCOMPARE(collapsed.last().at(0).toBool(), false);
     QVERIFY(!container->IsCollapsed());
-
-    QTest::keyClick(container, Qt::Key_Up);
-    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
+    // Nor can code collapse it now.
     container->SetIsCollapsed(true);
     QVERIFY(!container->IsCollapsed());
     QCOMPARE(collapsed.count(), 1);
@@ -245,7 +232,7 @@ void tst_RolloutContainer::hiddenExpandButtonFreezesTheState()
     // No triangle is painted.
     const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
     QVERIFY(triangle.isValid());
-    QCOMPARE(firstColumnWithColor(container->grab().toImage(), container->TitleHeight() / 2, triangle), -1);
+    QCOMPARE(firstColumnWithColor(Probe::Grab(container), container->TitleHeight() / 2, triangle), -1);
 }
 
 void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
@@ -288,47 +275,15 @@ void tst_RolloutContainer::checkBoxEnablesContentButKeepsHostDisabledChildren()
     QVERIFY(!label->isEnabled());
     QCOMPARE(toggled.last().at(0).toBool(), true);
 
-    // Through the slot as well.
+    // Through the slot as well; enabling the container again re-applies the check state.
     container->SetChecked(false);
+    QVERIFY(!edit->isEnabled());
+    container->setEnabled(false);
+    container->setEnabled(true);
     QVERIFY(!edit->isEnabled());
     container->SetChecked(true);
     QVERIFY(edit->isEnabled());
     QVERIFY(!label->isEnabled());
-}
-
-void tst_RolloutContainer::enabledChangeReappliesTheCheckState()
-{
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    container->SetIsCheckable(true);
-    container->SetChecked(false);
-    QLineEdit* edit = container->findChild<QLineEdit*>();
-    QVERIFY(!edit->isEnabled());
-    container->setEnabled(false);
-    container->setEnabled(true);
-    QVERIFY(container->isEnabled());
-    QVERIFY(!edit->isEnabled());
-    container->SetChecked(true);
-    QVERIFY(edit->isEnabled());
-}
-
-void tst_RolloutContainer::expandableWhenDisabled_data()
-{
-    QTest::addColumn<bool>("expandable");
-    QTest::newRow("expandable") << true;
-    QTest::newRow("frozen") << false;
-}
-
-void tst_RolloutContainer::expandableWhenDisabled()
-{
-    QFETCH(bool, expandable);
-    RolloutContainer* container = shownContainer();
-    QVERIFY(container);
-    container->SetIsExpandableWhenDisabled(expandable);
-    QCOMPARE(container->IsExpandableWhenDisabled(), expandable);
-    container->setEnabled(false);
-    QTest::mouseClick(container, Qt::LeftButton, Qt::NoModifier, container->GetTitleRect().center());
-    QCOMPARE(container->IsCollapsed(), expandable);
 }
 
 void tst_RolloutContainer::titleTooltips()
@@ -367,7 +322,7 @@ void tst_RolloutContainer::titleTooltips()
     QCOMPARE(QToolTip::text(), longTitle);
 }
 
-void tst_RolloutContainer::extraTopMarginSurvivesThemeChanges()
+void tst_RolloutContainer::extraTopMarginSurvivesThemeChangesAndSizeHints()
 {
     RolloutContainer container;
     const int lightTitle = container.TitleHeight();
@@ -383,17 +338,13 @@ void tst_RolloutContainer::extraTopMarginSurvivesThemeChanges()
         QCOMPARE(container.TitleHeight(), expected);
         QCOMPARE(container.contentsMargins(), QMargins(4, expected + 5, 4, 4));
     }
-}
 
-void tst_RolloutContainer::sizeHints()
-{
-    RolloutContainer container;
+    container.setContentsMargins(0, 0, 0, 0);
     container.SetTitle(QStringLiteral("Material"));
     auto* layout = new QVBoxLayout(&container);
     auto* child = new QLabel(QStringLiteral("A label in the container"), &container);
     layout->addWidget(child);
-    const QSize expanded = container.sizeHint();
-    QCOMPARE(expanded, layout->totalSizeHint().expandedTo(QSize(container.GetTitleRect().width(), 0)));
+    QCOMPARE(container.sizeHint(), layout->totalSizeHint().expandedTo(QSize(container.GetTitleRect().width(), 0)));
     container.SetIsCollapsed(true);
     QCOMPARE(container.sizeHint().height(), container.TitleHeight());
     QCOMPARE(container.minimumSizeHint().height(), container.TitleHeight());
