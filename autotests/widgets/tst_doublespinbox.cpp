@@ -273,8 +273,8 @@ void tst_DoubleSpinBox::singleStepMatchesTheDisplay()
     QTest::keyClick(spin, Qt::Key_PageDown);
     QTest::keyClick(spin, Qt::Key_Down);
     QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
-    QEXPECT_FAIL("decimal, 3", "Down from 1.001 announces 1 and then 0.99999999999999989", Continue);
     QCOMPARE(changed.count(), 4);
+    QCOMPARE(changed.last().at(0).toDouble(), spin->value()); // announced on the display grid
     if (decimal)
         QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
 

@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
+#include <QStyle>
 
 #include <cmath>
 
@@ -89,6 +90,26 @@ DoubleSpinBox::DoubleSpinBox(QWidget* parent, bool compactSize)
 }
 
 DoubleSpinBox::~DoubleSpinBox() = default;
+
+void DoubleSpinBox::stepBy(int steps)
+{
+    // Steps add in binary, where 1.001 - 0.001 is 0.99999999999999989: stepping
+    // in Qt would announce that, then the display grid would round it to 1 and
+    // announce again. Land on the grid at once, with one notification.
+    interpretText();
+    const double old = value();
+    double target = old + steps * singleStep();
+    if (wrapping() && maximum() > minimum()) {
+        if (target > maximum())
+            target = old >= maximum() ? minimum() : maximum();
+        else if (target < minimum())
+            target = old <= minimum() ? maximum() : minimum();
+    }
+    const double scale = std::pow(10.0, decimals());
+    setValue(std::round(target * scale) / scale);
+    if (style()->styleHint(QStyle::SH_SpinBox_SelectOnStep, nullptr, this, nullptr))
+        selectAll();
+}
 
 QString DoubleSpinBox::textFromValue(double) const
 {

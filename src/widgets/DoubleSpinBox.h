@@ -34,6 +34,7 @@ public:
     QString textFromValue(double value) const override;
     double valueFromText(const QString& text) const override;
     QValidator::State validate(QString& text, int& pos) const override;
+    void stepBy(int steps) override;
 
     // 1 / 2^precision for the fractional number format, else 0.1^precision:
     // the smallest step the display shows.
