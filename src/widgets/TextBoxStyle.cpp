@@ -48,7 +48,7 @@ int TextBoxStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 }
 
 LineEditStyle::LineEditStyle()
-    : QProxyStyle()
+    : TextBoxStyle()
 {}
 
 LineEditStyle* LineEditStyle::GetInstance()
@@ -57,28 +57,13 @@ LineEditStyle* LineEditStyle::GetInstance()
     return instance;
 }
 
-void LineEditStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                                  const QWidget* widget) const
-{
-    switch (element) {
-    case PE_FrameFocusRect:
-    case PE_PanelLineEdit:
-    case PE_FrameLineEdit:
-        return;
-    default:
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-    }
-}
-
 int LineEditStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
-    case PM_DefaultFrameWidth:
-        return 0;
     case PM_TextCursorWidth:
         return 1;
     default:
-        return QProxyStyle::pixelMetric(metric, option, widget);
+        return TextBoxStyle::pixelMetric(metric, option, widget);
     }
 }
 
@@ -87,7 +72,7 @@ int LineEditStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
 {
     if (hint == SH_BlinkCursorWhenTextSelected)
         return 0;
-    return QProxyStyle::styleHint(hint, option, widget, returnData);
+    return TextBoxStyle::styleHint(hint, option, widget, returnData);
 }
 
 } // namespace Kavrel::UICore

@@ -19,21 +19,19 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
 
-private:
+protected:
     TextBoxStyle();
 };
 
-// The style of a LineEdit embedded in a TextBox: no panel and no frame (the box
-// draws them), a thin cursor and no focus rectangle.
-class LineEditStyle : public QProxyStyle
+// The style of a LineEdit embedded in a TextBox: what the box's style leaves
+// out, plus a thin cursor that does not blink over a selection.
+class LineEditStyle : public TextBoxStyle
 {
     Q_OBJECT
 
 public:
     static LineEditStyle* GetInstance();
 
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
