@@ -36,9 +36,8 @@ StrokeGrid StrokeGridOf(const QWidget* widget, const QPainter* painter)
     // ask than the widget, which looks up its screen.
     const QPaintDevice* device = painter ? painter->device() : nullptr;
     const qreal ratio = device ? device->devicePixelRatioF() : (widget ? widget->devicePixelRatioF() : 1.0);
-    const int percent = int(std::trunc((ratio * 100.0 + 2.5) / 5.0)) * 5;
     StrokeGrid grid;
-    grid.factor = percent < 100 ? 1.0f : float(std::min(percent, 350)) * 0.01f;
+    grid.factor = DeviceScaleFactorForRatio(float(ratio));
     grid.bucket = ResolutionBucket(grid.factor);
     grid.unit = StrokeUnit(grid.factor);
     return grid;
