@@ -1,5 +1,6 @@
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/core/CoreUIManagerImp.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void sameLocaleTwiceReachesUnitsOnly();
     void translatorBaseNamesIgnoreCase();
     void translatorFoundLaterIsLoaded();
+    void translationFileThatFailsToLoadCountsAsLoaded();
     void translatorPathNeedsApplicationObjectUnchanged();
     void globalStyleSheetDisabledIsMarkedApplied();
     void globalStyleSheetAppliedOnFirstQuery();
@@ -181,6 +183,26 @@ void tst_CoreUIManager::translatorFoundLaterIsLoaded()
     wchar_t buffer[512];
     QCOMPARE(core->GetTranslatorFilesPath(buffer, 512), int(filled.path().size()));
     QCOMPARE(QString::fromWCharArray(buffer), filled.path());
+}
+
+void tst_CoreUIManager::translationFileThatFailsToLoadCountsAsLoaded()
+{
+    QTemporaryDir broken;
+    for (const char* name : {"qt_de.qm", "qtbase_de.qm"}) {
+        QFile file(broken.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("not a translation file") > 0);
+    }
+    CoreUIManager* core = CoreUIManager::GetInstance();
+    QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
+    QVERIFY(core->SetCurrentLocale(L"de-DE"));
+    QCOMPARE(cancelText(), QStringLiteral("Abbrechen"));
+    // The broken files become the loaded ones, so the translators are empty ...
+    QVERIFY(core->SetTranslatorFilesPath(wide(broken.path()).c_str()));
+    QCOMPARE(cancelText(), QStringLiteral("Cancel"));
+    // ... and the good files count as different again.
+    QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
+    QCOMPARE(cancelText(), QStringLiteral("Abbrechen"));
 }
 
 void tst_CoreUIManager::translatorPathNeedsApplicationObjectUnchanged()
