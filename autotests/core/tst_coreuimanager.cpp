@@ -245,6 +245,7 @@ void tst_CoreUIManager::initializeUseUninitializeRepeats()
     for (int round = 0; round < 3; ++round) {
         QVERIFY(CoreUIManager::Initialize());
         QVERIFY(CoreUIManager::Initialize()); // idempotent
+        QVERIFY(QMetaType::fromName("SliderElement").isValid()); // the property editor registered its kinds
         CoreUIManager* core = CoreUIManager::GetInstance();
         QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
         QVERIFY(core->SetCurrentLocale(L"de-DE"));

@@ -308,7 +308,8 @@ QByteArray laughingEntities()
 void tst_ThemeManager::hostileFiles_data()
 {
     // kind: "file" writes content, "missing" writes nothing, "fifo" and
-    // "directory" make one of those under the file's name.
+    // "directory" make one of those under the file's name, "fifo icon" names
+    // a FIFO as an icon file.
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("warning"); // empty: the file loads
@@ -324,6 +325,7 @@ void tst_ThemeManager::hostileFiles_data()
     QTest::newRow("truncated") << "file" << QByteArray("<xbel version=\"1.0\"><StyleSheet name=\"s\">a { b")
                                << parseError << QString();
     QTest::newRow("fifo") << "fifo" << QByteArray() << cannotRead << "Not a regular file";
+    QTest::newRow("fifo icon") << "fifo icon" << QByteArray() << QString() << QStringLiteral("After");
     QTest::newRow("directory") << "directory" << QByteArray() << cannotRead << "Not a regular file";
     QTest::newRow("over 8 MiB") << "file" << QByteArray(8 * 1024 * 1024 + 1, ' ') << cannotRead << "larger than";
     // 64 x 64 x 64 x 16 characters: the fourth value passes 1 Mi characters.
@@ -354,9 +356,14 @@ void tst_ThemeManager::hostileFiles()
         QVERIFY(writeFile(path, content));
     } else if (kind == QLatin1String("directory")) {
         QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("hostile.xbel")));
-    } else if (kind == QLatin1String("fifo")) {
+    } else if (kind.startsWith(QLatin1String("fifo"))) {
 #ifdef Q_OS_UNIX
-        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        const QString fifo = kind == QLatin1String("fifo") ? path : dir.filePath(QStringLiteral("icon.ico"));
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        if (fifo != path)
+            QVERIFY(writeFile(path, QStringLiteral("<xbel version=\"1.0\"><Icon name=\"After\" file=\"%1\"/></xbel>")
+                                        .arg(fifo)
+                                        .toUtf8()));
 #else
         QSKIP("FIFOs are a POSIX file type");
 #endif

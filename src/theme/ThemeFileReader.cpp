@@ -88,6 +88,7 @@ void ThemeFileReader::ReadRoot()
     while (mReader.readNextStartElement()) {
         const QStringView element = mReader.name();
         const QString name = mReader.attributes().value(QLatin1String("name")).toString();
+        msEntryName = name;
         if (element == QLatin1String("Color"))
             ReadColor(name);
         else if (element == QLatin1String("Icon"))
@@ -247,7 +248,7 @@ void ThemeFileReader::ReadStyleSheet(const QString& name)
             mReader.skipCurrentElement();
         mReader.readNext();
     }
-    if (mReader.hasError() || !Substitute(name, text))
+    if (mReader.hasError() || !Substitute(text))
         return;
     Store(name, QVariant(text));
 }
@@ -304,12 +305,12 @@ void ThemeFileReader::SkipToEndElement()
 int ThemeFileReader::ReadNumber(const QString& attribute, bool substitute)
 {
     QString text = mReader.attributes().value(attribute).toString();
-    if (substitute && text.contains(QLatin1Char('$')) && !Substitute(attribute, text))
+    if (substitute && text.contains(QLatin1Char('$')) && !Substitute(text))
         return 0;
     return text.trimmed().toInt();
 }
 
-bool ThemeFileReader::Substitute(const QString& name, QString& text)
+bool ThemeFileReader::Substitute(QString& text)
 {
     if (!mTextOf)
         return true;
@@ -318,7 +319,7 @@ bool ThemeFileReader::Substitute(const QString& name, QString& text)
         return true;
     case Substitution::ValueTooLong:
         RaiseError(tr("The value of %1 grows beyond %2 characters when its references are expanded.")
-                       .arg(name)
+                       .arg(msEntryName)
                        .arg(kMaximumValueLength));
         return false;
     case Substitution::BudgetSpent:

@@ -63,7 +63,7 @@ private:
     QColor ReadHexColor();
     QColor ReadRgbaColor();
     int ReadNumber(const QString& attribute, bool substitute);
-    bool Substitute(const QString& name, QString& text);
+    bool Substitute(QString& text);
     void SkipToEndElement();
     void RaiseError(const QString& message);
     void Store(const QString& name, const QVariant& value);
@@ -71,6 +71,7 @@ private:
     QXmlStreamReader mReader;
     ThemeValueTable& mTable;
     TextOf mTextOf;
+    QString msEntryName; // the entry being read, for messages
     qsizetype miExpansionBudget = kMaximumFileExpansion;
 };
 
