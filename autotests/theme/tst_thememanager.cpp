@@ -361,9 +361,9 @@ void tst_ThemeManager::hostileFiles()
         const QString fifo = kind == QLatin1String("fifo") ? path : dir.filePath(QStringLiteral("icon.ico"));
         QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
         if (fifo != path)
-            QVERIFY(writeFile(path, QStringLiteral("<xbel version=\"1.0\"><Icon name=\"After\" file=\"%1\"/></xbel>")
-                                        .arg(fifo)
-                                        .toUtf8()));
+            QVERIFY(writeFile(
+                path,
+                QStringLiteral("<xbel version=\"1.0\"><Icon name=\"After\" file=\"%1\"/></xbel>").arg(fifo).toUtf8()));
 #else
         QSKIP("FIFOs are a POSIX file type");
 #endif
