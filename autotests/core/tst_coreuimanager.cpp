@@ -67,7 +67,6 @@ private Q_SLOTS:
     void translatorBaseNamesIgnoreCase();
     void translatorFoundLaterIsLoaded();
     void translationFileThatFailsToLoadCountsAsLoaded();
-    void translatorPathNeedsApplicationObjectUnchanged();
     void globalStyleSheetDisabledIsMarkedApplied();
     void globalStyleSheetAppliedOnFirstQuery();
     void initializeUseUninitializeRepeats();
@@ -203,16 +202,6 @@ void tst_CoreUIManager::translationFileThatFailsToLoadCountsAsLoaded()
     // ... and the good files count as different again.
     QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
     QCOMPARE(cancelText(), QStringLiteral("Abbrechen"));
-}
-
-void tst_CoreUIManager::translatorPathNeedsApplicationObjectUnchanged()
-{
-    CoreUIManager* core = CoreUIManager::GetInstance();
-    QVERIFY(core->SetTranslatorFilesPath(L"/some/where"));
-    QVERIFY(core->SetTranslatorFilesPath(L"/some/where")); // same path: true, nothing reloaded
-    wchar_t buffer[64];
-    core->GetTranslatorFilesPath(buffer, 64);
-    QCOMPARE(QString::fromWCharArray(buffer), QStringLiteral("/some/where"));
 }
 
 void tst_CoreUIManager::globalStyleSheetDisabledIsMarkedApplied()
