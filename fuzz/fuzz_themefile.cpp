@@ -16,9 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     buffer.setData(reinterpret_cast<const char*>(data), int(size));
     buffer.open(QIODevice::ReadOnly);
     ThemeValueTable table;
-    ThemeFileReader reader(table, [&table](const QString& text) {
-        return SubstituteReferences(text, [&table](const QString& name) { return ThemeValueText(table.value(name)); });
-    });
+    ThemeFileReader reader(table, [&table](const QString& name) { return ThemeValueText(table.value(name)); });
     reader.Read(&buffer);
     qDeleteAll(table);
     return 0;

@@ -1,5 +1,6 @@
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/core/CoreUIManagerImp.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
@@ -65,7 +66,7 @@ private Q_SLOTS:
     void sameLocaleTwiceReachesUnitsOnly();
     void translatorBaseNamesIgnoreCase();
     void translatorFoundLaterIsLoaded();
-    void translatorPathNeedsApplicationObjectUnchanged();
+    void translationFileThatFailsToLoadCountsAsLoaded();
     void globalStyleSheetDisabledIsMarkedApplied();
     void globalStyleSheetAppliedOnFirstQuery();
     void initializeUseUninitializeRepeats();
@@ -183,14 +184,24 @@ void tst_CoreUIManager::translatorFoundLaterIsLoaded()
     QCOMPARE(QString::fromWCharArray(buffer), filled.path());
 }
 
-void tst_CoreUIManager::translatorPathNeedsApplicationObjectUnchanged()
+void tst_CoreUIManager::translationFileThatFailsToLoadCountsAsLoaded()
 {
+    QTemporaryDir broken;
+    for (const char* name : {"qt_de.qm", "qtbase_de.qm"}) {
+        QFile file(broken.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("not a translation file") > 0);
+    }
     CoreUIManager* core = CoreUIManager::GetInstance();
-    QVERIFY(core->SetTranslatorFilesPath(L"/some/where"));
-    QVERIFY(core->SetTranslatorFilesPath(L"/some/where")); // same path: true, nothing reloaded
-    wchar_t buffer[64];
-    core->GetTranslatorFilesPath(buffer, 64);
-    QCOMPARE(QString::fromWCharArray(buffer), QStringLiteral("/some/where"));
+    QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
+    QVERIFY(core->SetCurrentLocale(L"de-DE"));
+    QCOMPARE(cancelText(), QStringLiteral("Abbrechen"));
+    // The broken files become the loaded ones, so the translators are empty ...
+    QVERIFY(core->SetTranslatorFilesPath(wide(broken.path()).c_str()));
+    QCOMPARE(cancelText(), QStringLiteral("Cancel"));
+    // ... and the good files count as different again.
+    QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
+    QCOMPARE(cancelText(), QStringLiteral("Abbrechen"));
 }
 
 void tst_CoreUIManager::globalStyleSheetDisabledIsMarkedApplied()
@@ -223,6 +234,7 @@ void tst_CoreUIManager::initializeUseUninitializeRepeats()
     for (int round = 0; round < 3; ++round) {
         QVERIFY(CoreUIManager::Initialize());
         QVERIFY(CoreUIManager::Initialize()); // idempotent
+        QVERIFY(QMetaType::fromName("SliderElement").isValid()); // the property editor registered its kinds
         CoreUIManager* core = CoreUIManager::GetInstance();
         QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
         QVERIFY(core->SetCurrentLocale(L"de-DE"));

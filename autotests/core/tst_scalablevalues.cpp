@@ -12,10 +12,8 @@ class tst_ScalableValues : public QObject
 private Q_SLOTS:
     void valuesConvertUnchanged();
     void imagesConvertToCopies();
-    void deviceScaleFactor_data();
-    void deviceScaleFactor();
-    void resolutionBucket_data();
-    void resolutionBucket();
+    void scaleFactorAndBucket_data();
+    void scaleFactorAndBucket();
     void snappedRect_data();
     void snappedRect();
 };
@@ -47,41 +45,27 @@ void tst_ScalableValues::imagesConvertToCopies()
     QCOMPARE(variant.value<QImage>().size(), QSize(5, 3));
 }
 
-void tst_ScalableValues::deviceScaleFactor_data()
+void tst_ScalableValues::scaleFactorAndBucket_data()
 {
     QTest::addColumn<float>("ratio");
     QTest::addColumn<float>("factor");
-    QTest::newRow("1.0") << 1.0f << 1.0f;
-    QTest::newRow("1.22 rounds down") << 1.22f << 1.20f;
-    QTest::newRow("1.225 rounds up") << 1.225f << 1.25f;
-    QTest::newRow("1.5") << 1.5f << 1.5f;
-    QTest::newRow("0.9 is at least 1") << 0.9f << 1.0f;
-    QTest::newRow("4.0 is at most 3.5") << 4.0f << 3.5f;
+    QTest::addColumn<float>("bucket");
+    QTest::newRow("1.0") << 1.0f << 1.0f << 1.0f;
+    QTest::newRow("1.22 rounds down") << 1.22f << 1.20f << 1.0f;
+    QTest::newRow("1.225 rounds up") << 1.225f << 1.25f << 1.0f;
+    QTest::newRow("1.5 exactly") << 1.5f << 1.5f << 2.0f;
+    QTest::newRow("2.45") << 2.45f << 2.45f << 2.0f;
+    QTest::newRow("2.5 exactly") << 2.5f << 2.5f << 3.0f;
+    QTest::newRow("0.9 is at least 1") << 0.9f << 1.0f << 1.0f;
+    QTest::newRow("4.0 is at most 3.5") << 4.0f << 3.5f << 3.0f;
 }
 
-void tst_ScalableValues::deviceScaleFactor()
+void tst_ScalableValues::scaleFactorAndBucket()
 {
     QFETCH(float, ratio);
     QFETCH(float, factor);
-    QCOMPARE(DeviceScaleFactorForRatio(ratio), factor);
-}
-
-void tst_ScalableValues::resolutionBucket_data()
-{
-    QTest::addColumn<float>("factor");
-    QTest::addColumn<float>("bucket");
-    QTest::newRow("1.0") << 1.0f << 1.0f;
-    QTest::newRow("1.25") << 1.25f << 1.0f;
-    QTest::newRow("1.5 exactly") << 1.5f << 2.0f;
-    QTest::newRow("2.45") << 2.45f << 2.0f;
-    QTest::newRow("2.5 exactly") << 2.5f << 3.0f;
-    QTest::newRow("3.5") << 3.5f << 3.0f;
-}
-
-void tst_ScalableValues::resolutionBucket()
-{
-    QFETCH(float, factor);
     QFETCH(float, bucket);
+    QCOMPARE(DeviceScaleFactorForRatio(ratio), factor);
     QCOMPARE(ResolutionBucket(factor), bucket);
 }
 

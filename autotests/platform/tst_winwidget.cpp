@@ -1,6 +1,6 @@
 // The hosting wrapper on a platform without foreign windows (offscreen): it
 // stays an ordinary top-level widget, and everything still answers sensibly.
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/NativeParent_p.h>
 #include <KvUICore/platform/WinWidget_p.h>
 #include <KvUICore/widgets/WidgetImp.h>
 

@@ -181,36 +181,6 @@ private Q_SLOTS:
         QVERIFY(IsFilledWith(image, 0u));
     }
 
-    void metricsAreFixed_data()
-    {
-        QTest::addColumn<int>("metric");
-        QTest::addColumn<int>("value");
-        QTest::newRow("spin box frame") << int(QStyle::PM_SpinBoxFrameWidth) << 0;
-        QTest::newRow("slider thickness") << int(QStyle::PM_SliderThickness) << 24;
-        QTest::newRow("slider length") << int(QStyle::PM_SliderLength) << 4;
-        QTest::newRow("menu scroller") << int(QStyle::PM_MenuScrollerHeight) << 16;
-        QTest::newRow("menu h margin") << int(QStyle::PM_MenuHMargin) << 0;
-        QTest::newRow("menu v margin") << int(QStyle::PM_MenuVMargin) << 0;
-        QTest::newRow("menu panel") << int(QStyle::PM_MenuPanelWidth) << 1;
-        QTest::newRow("menu tear-off") << int(QStyle::PM_MenuTearoffHeight) << 16;
-        QTest::newRow("indicator width") << int(QStyle::PM_IndicatorWidth) << 14;
-        QTest::newRow("indicator height") << int(QStyle::PM_IndicatorHeight) << 14;
-        QTest::newRow("menus scroll") << -1 << 1;
-    }
-
-    void metricsAreFixed()
-    {
-        QFETCH(int, metric);
-        QFETCH(int, value);
-        QSlider slider;
-        if (metric < 0) {
-            QCOMPARE(Style()->styleHint(QStyle::SH_Menu_Scrollable), value);
-            return;
-        }
-        QCOMPARE(Style()->pixelMetric(QStyle::PixelMetric(metric)), value);
-        QCOMPARE(Style()->pixelMetric(QStyle::PixelMetric(metric), nullptr, &slider), value);
-    }
-
     void toolButtonIsAlways28By24()
     {
         ToolButton button;

@@ -14,7 +14,6 @@ private Q_SLOTS:
     void deliberateTexts_data();
     void deliberateTexts();
     void catalogueIsCompleteAndUnique();
-    void fixedMetrics();
 };
 
 void tst_ThemeFileKey::deliberateTexts_data()
@@ -23,11 +22,25 @@ void tst_ThemeFileKey::deliberateTexts_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("ContextMenuIcon") << ThemeFileKey::ContextMenuIcon << "ContectMenu";
     QTest::newRow("HideTreeIcon") << ThemeFileKey::HideTreeIcon << "hide tree";
-    QTest::newRow("ShowTreeIcon") << ThemeFileKey::ShowTreeIcon << "show tree";
-    QTest::newRow("HoverAddIcon") << ThemeFileKey::HoverAddIcon << "Hover_Hover_Add";
     QTest::newRow("HoverAddAndEditIcon") << ThemeFileKey::HoverAddAndEditIcon << "Hover_Hover_AddAndEdit";
+    QTest::newRow("HoverAddIcon") << ThemeFileKey::HoverAddIcon << "Hover_Hover_Add";
+    QTest::newRow("HoverDeleteIcon") << ThemeFileKey::HoverDeleteIcon << "Hover_Hover_Delete";
+    QTest::newRow("HoverDownloadIcon") << ThemeFileKey::HoverDownloadIcon << "Hover_Hover_Download";
+    QTest::newRow("HoverEditIcon") << ThemeFileKey::HoverEditIcon << "Hover_Hover_Edit";
+    QTest::newRow("HoverReplaceIcon") << ThemeFileKey::HoverReplaceIcon << "Hover_Hover_Replace";
+    QTest::newRow("IdleAddAndEditIcon") << ThemeFileKey::IdleAddAndEditIcon << "Idle_Hover_AddAndEdit";
+    QTest::newRow("IdleAddIcon") << ThemeFileKey::IdleAddIcon << "Idle_Hover_Add";
+    QTest::newRow("IdleDeleteIcon") << ThemeFileKey::IdleDeleteIcon << "Idle_Hover_Delete";
     QTest::newRow("IdleDownloadIcon") << ThemeFileKey::IdleDownloadIcon << "Idle_Hover_Download";
+    QTest::newRow("IdleEditIcon") << ThemeFileKey::IdleEditIcon << "Idle_Hover_Edit";
+    QTest::newRow("IdleReplaceIcon") << ThemeFileKey::IdleReplaceIcon << "Idle_Hover_Replace";
+    QTest::newRow("PressAddAndEditIcon") << ThemeFileKey::PressAddAndEditIcon << "Pressed_Hover_AddAndEdit";
+    QTest::newRow("PressAddIcon") << ThemeFileKey::PressAddIcon << "Pressed_Hover_Add";
+    QTest::newRow("PressDeleteIcon") << ThemeFileKey::PressDeleteIcon << "Pressed_Hover_Delete";
+    QTest::newRow("PressDownloadIcon") << ThemeFileKey::PressDownloadIcon << "Pressed_Hover_Download";
+    QTest::newRow("PressEditIcon") << ThemeFileKey::PressEditIcon << "Pressed_Hover_Edit";
     QTest::newRow("PressReplaceIcon") << ThemeFileKey::PressReplaceIcon << "Pressed_Hover_Replace";
+    QTest::newRow("ShowTreeIcon") << ThemeFileKey::ShowTreeIcon << "show tree";
     QTest::newRow("plain key") << ThemeFileKey::FontNormal1 << "FontNormal1";
     QTest::newRow("lower-case key") << ThemeFileKey::wood_16Icon << "wood_16Icon";
 }
@@ -53,18 +66,6 @@ void tst_ThemeFileKey::catalogueIsCompleteAndUnique()
     }
     QCOMPARE(texts.size(), 389);
     QCOMPARE(different, 21);
-}
-
-void tst_ThemeFileKey::fixedMetrics()
-{
-    QCOMPARE(ThemeFileKey::ButtonDefaultSize, QSize(24, 24));
-    QCOMPARE(ThemeFileKey::NormalIconSize, QSize(16, 16));
-    QCOMPARE(ThemeFileKey::Button_IconGapToBorder, QPoint(2, 2));
-    QCOMPARE(ThemeFileKey::TitleBarHeight, 20);
-    QCOMPARE(ThemeFileKey::TitleBarCloseButtonWidth, 14);
-    QCOMPARE(ThemeFileKey::TitleBarCloseButtonMargin, 4);
-    QCOMPARE(ThemeFileKey::xRadius, 1);
-    QCOMPARE(ThemeFileKey::yRadius, 1);
 }
 
 QTEST_GUILESS_MAIN(tst_ThemeFileKey)

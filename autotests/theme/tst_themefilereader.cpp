@@ -25,9 +25,7 @@ void read(const QByteArray& xml, ReadResult& result)
     buffer.setData(xml);
     buffer.open(QIODevice::ReadOnly | QIODevice::Text);
     ThemeValueTable& table = result.table;
-    ThemeFileReader reader(table, [&table](const QString& text) {
-        return SubstituteReferences(text, [&table](const QString& name) { return ThemeValueText(table.value(name)); });
-    });
+    ThemeFileReader reader(table, [&table](const QString& name) { return ThemeValueText(table.value(name)); });
     result.ok = reader.Read(&buffer);
     result.error = reader.ErrorString();
 }
@@ -69,6 +67,8 @@ void tst_ThemeFileReader::colours_data()
     QTest::newRow("rgba without a is transparent") << QByteArray("<rgba r=\"9\" g=\"8\" b=\"7\"/>") << QColor(9, 8, 7, 0);
     QTest::newRow("rgba text reads as zero") << QByteArray("<rgba r=\"red\" g=\"8\" b=\"7\" a=\"255\"/>")
                                              << QColor(0, 8, 7, 255);
+    QTest::newRow("rgba reference is not expanded")
+        << QByteArray("<rgba r=\"$(Twelve)\" g=\"8\" b=\"7\" a=\"255\"/>") << QColor(0, 8, 7, 255);
     QTest::newRow("hex without # is invalid") << QByteArray("<hex value=\"102030\"/>") << QColor();
     QTest::newRow("other children skipped") << QByteArray("<note>x</note><hex value=\"#ffffff\"/>") << QColor(Qt::white);
 }
@@ -78,7 +78,7 @@ void tst_ThemeFileReader::colours()
     QFETCH(QByteArray, element);
     QFETCH(QColor, expected);
     ReadResult result;
-    read(xbel("<Color name=\"c\">" + element + "</Color>"), result);
+    read(xbel("<Int name=\"Twelve\" value=\"12\"/><Color name=\"c\">" + element + "</Color>"), result);
     QVERIFY2(result.ok, qPrintable(result.error));
     QVERIFY(result.table.contains(QStringLiteral("c")));
     const QVariant* value = result.table.value(QStringLiteral("c"));
@@ -106,12 +106,19 @@ void tst_ThemeFileReader::gradientTextForm()
 void tst_ThemeFileReader::stringContentAndAttribute()
 {
     ReadResult result;
-    read(xbel("<String name=\"content\">some <!-- c -->text</String>"
+    read(xbel("<String name=\"content\">some <![CDATA[<text>]]></String>"
+              "<String name=\"comment\">some <!-- c -->text</String>"
+              "<String name=\"child\">a<b>x</b>c</String>"
               "<String name=\"attribute\" value=\"attr\">ignored</String>"
-              "<String name=\"ref\" value=\"$(content)\"/>"),
+              "<String name=\"ref\" value=\"$(content)\"/>"
+              "<Int name=\"after\" value=\"1\"/>"),
          result);
     QVERIFY2(result.ok, qPrintable(result.error));
-    QCOMPARE(result.table.value(QStringLiteral("content"))->toString(), QStringLiteral("some text"));
+    QCOMPARE(result.table.value(QStringLiteral("content"))->toString(), QStringLiteral("some <text>"));
+    // The content is the text right after the start tag: a comment or child ends it.
+    QCOMPARE(result.table.value(QStringLiteral("comment"))->toString(), QStringLiteral("some "));
+    QCOMPARE(result.table.value(QStringLiteral("child"))->toString(), QStringLiteral("a"));
+    QCOMPARE(result.table.value(QStringLiteral("after"))->toInt(), 1);
     QCOMPARE(result.table.value(QStringLiteral("attribute"))->toString(), QStringLiteral("attr"));
     QCOMPARE(result.table.value(QStringLiteral("ref"))->toString(), QStringLiteral("$(content)"));
 }
@@ -141,6 +148,10 @@ void tst_ThemeFileReader::references_data()
     QTest::newRow("nested expansion") << QStringLiteral("<$(Outer)>") << QStringLiteral("<x #ff010203 y>");
     QTest::newRow("self reference expands once") << QStringLiteral("$(Self)") << QStringLiteral("keep $(Self)");
     QTest::newRow("integer") << QStringLiteral("$(N)px") << QStringLiteral("7px");
+    QTest::newRow("up to the first parenthesis") << QStringLiteral("$(A))") << QStringLiteral("#ff010203)");
+    QTest::newRow("name holding $(") << QStringLiteral("$(x$(A)") << QStringLiteral("");
+    QTest::newRow("not across a line") << QStringLiteral("$(\n$(N)") << QStringLiteral("$(\n7");
+    QTest::newRow("reference split by expansion") << QStringLiteral("$(Half)N)") << QStringLiteral("7");
 }
 
 void tst_ThemeFileReader::references()
@@ -153,22 +164,25 @@ void tst_ThemeFileReader::references()
         {QStringLiteral("Outer"), QStringLiteral("x $(A) y")},
         {QStringLiteral("Self"), QStringLiteral("keep $(Self)")},
         {QStringLiteral("N"), 7},
+        {QStringLiteral("Half"), QStringLiteral("$(")},
     };
-    const QString result = SubstituteReferences(text, [&values](const QString& name) {
-        const auto it = values.constFind(name);
-        return it == values.constEnd() ? QString() : ThemeValueText(&it.value());
-    });
-    QCOMPARE(result, expected);
+    QCOMPARE(SubstituteReferences(text,
+                                  [&values](const QString& name) {
+                                      const auto it = values.constFind(name);
+                                      return it == values.constEnd() ? QString() : ThemeValueText(&it.value());
+                                  }),
+             Substitution::Done);
+    QCOMPARE(text, expected);
 }
 
 void tst_ThemeFileReader::referenceRingEnds()
 {
     const QHash<QString, QString> values = {{QStringLiteral("A"), QStringLiteral("$(B)")},
                                             {QStringLiteral("B"), QStringLiteral("$(A)")}};
-    const QString result = SubstituteReferences(QStringLiteral("$(A)"), [&values](const QString& name) {
-        return values.value(name);
-    });
-    QVERIFY(result == QStringLiteral("$(A)") || result == QStringLiteral("$(B)"));
+    QString text = QStringLiteral("$(A)");
+    QCOMPARE(SubstituteReferences(text, [&values](const QString& name) { return values.value(name); }),
+             Substitution::Done);
+    QVERIFY(text == QStringLiteral("$(A)") || text == QStringLiteral("$(B)"));
 }
 
 void tst_ThemeFileReader::unknownElementsSkipped()

@@ -5,13 +5,19 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QLinearGradient>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Kavrel::UICore;
 
@@ -76,8 +82,10 @@ private Q_SLOTS:
     void imageSelection_data();
     void imageSelection();
     void themeEntryHidesBaseEntry();
-    void brokenFilesWarn_data();
-    void brokenFilesWarn();
+    void hostileFiles_data();
+    void hostileFiles();
+    void failedSwitchKeepsTheCurrentTheme();
+    void failedAutomaticLoadIsRetried();
     void searchDirectories();
 
 private:
@@ -261,39 +269,163 @@ void tst_ThemeManager::themeEntryHidesBaseEntry()
     QCOMPARE(themes->GetInt(QStringLiteral("BaseOnly")), 2);
 }
 
-void tst_ThemeManager::brokenFilesWarn_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("expectedStart");
+namespace {
 
-    QTest::newRow("missing file") << QByteArray() << QStringLiteral("Cannot read file ");
-    QTest::newRow("malformed xml") << QByteArray("<xbel version=\"1.0\">\n<Int name=\"a\" value=\"1\"/>\n<Int")
-                                   << QStringLiteral("Parse error in file ");
-    QTest::newRow("not xbel") << QByteArray("<html/>") << QStringLiteral("Parse error in file ");
+// n style sheets, each holding count references to the one before.
+QByteArray multiplyingStyleSheets(int n, int count, const QByteArray& first)
+{
+    QByteArray xml = "<xbel version=\"1.0\"><StyleSheet name=\"s0\">" + first + "</StyleSheet>";
+    for (int i = 1; i < n; ++i) {
+        xml += "<StyleSheet name=\"s" + QByteArray::number(i) + "\">";
+        for (int k = 0; k < count; ++k)
+            xml += "$(s" + QByteArray::number(i - 1) + ")";
+        xml += "</StyleSheet>";
+    }
+    return xml + "</xbel>";
 }
 
-void tst_ThemeManager::brokenFilesWarn()
+QByteArray deepNesting(int depth)
 {
+    return "<xbel version=\"1.0\">" + QByteArray("<Folder>").repeated(depth) + QByteArray("</Folder>").repeated(depth) +
+           "<Int name=\"After\" value=\"5\"/></xbel>";
+}
+
+QByteArray laughingEntities()
+{
+    QByteArray dtd = "<!DOCTYPE xbel [<!ENTITY e0 \"lol\">";
+    for (int i = 1; i < 10; ++i) {
+        dtd += "<!ENTITY e" + QByteArray::number(i) + " \"";
+        for (int k = 0; k < 10; ++k)
+            dtd += "&e" + QByteArray::number(i - 1) + ";";
+        dtd += "\">";
+    }
+    return dtd + "]><xbel version=\"1.0\"><String name=\"After\">&e9;</String></xbel>";
+}
+
+} // namespace
+
+void tst_ThemeManager::hostileFiles_data()
+{
+    // kind: "file" writes content, "missing" writes nothing, "fifo" and
+    // "directory" make one of those under the file's name, "fifo icon" names
+    // a FIFO as an icon file.
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("warning"); // empty: the file loads
+    QTest::addColumn<QString>("after");   // a key the load stores when it succeeds, else a part of the warning
+
+    const QString cannotRead = QStringLiteral("Cannot read file ");
+    const QString parseError = QStringLiteral("Parse error in file ");
+    QTest::newRow("missing") << "missing" << QByteArray() << cannotRead << "does not exist";
+    QTest::newRow("not xbel") << "file" << QByteArray("<html/>") << parseError << QString();
+    QTest::newRow("empty") << "file" << QByteArray() << parseError << QString();
+    QTest::newRow("truncated") << "file" << QByteArray("<xbel version=\"1.0\"><StyleSheet name=\"s\">a { b")
+                               << parseError << QString();
+    QTest::newRow("fifo") << "fifo" << QByteArray() << cannotRead << "Not a regular file";
+    QTest::newRow("fifo icon") << "fifo icon" << QByteArray() << QString() << QStringLiteral("After");
+    QTest::newRow("directory") << "directory" << QByteArray() << cannotRead << "Not a regular file";
+    QTest::newRow("over 8 MiB") << "file" << QByteArray(8 * 1024 * 1024 + 1, ' ') << cannotRead << "larger than";
+    // 64 x 64 x 64 x 16 characters: the fourth value passes 1 Mi characters.
+    QTest::newRow("multiplying references")
+        << "file" << multiplyingStyleSheets(6, 64, "0123456789abcdef") << parseError << "value of s3 grows beyond";
+    // Each value stays below 1 Mi characters; together they pass 16 Mi.
+    QByteArray spread = multiplyingStyleSheets(3, 32, QByteArray(512, 'x'));
+    for (int i = 0; i < 40; ++i)
+        spread.insert(spread.size() - 7, "<StyleSheet name=\"c" + QByteArray::number(i) + "\">$(s2)</StyleSheet>");
+    QTest::newRow("references spread over values") << "file" << spread << parseError << "expand to more than";
+    QTest::newRow("deep nesting") << "file" << deepNesting(100000) << QString() << QStringLiteral("After");
+    QTest::newRow("entity expansion") << "file" << laughingEntities() << parseError << "entity";
+    QTest::newRow("external entity") << "file"
+                                     << QByteArray("<!DOCTYPE xbel [<!ENTITY x SYSTEM \"/etc/passwd\">]>"
+                                                   "<xbel version=\"1.0\"><String name=\"After\">&x;</String></xbel>")
+                                     << QString() << QStringLiteral("After");
+}
+
+void tst_ThemeManager::hostileFiles()
+{
+    QFETCH(QString, kind);
     QFETCH(QByteArray, content);
-    QFETCH(QString, expectedStart);
+    QFETCH(QString, warning);
+    QFETCH(QString, after);
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("broken.xbel"));
-    if (!content.isEmpty())
+    const QString path = dir.filePath(QStringLiteral("hostile.xbel"));
+    if (kind == QLatin1String("file")) {
         QVERIFY(writeFile(path, content));
+    } else if (kind == QLatin1String("directory")) {
+        QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("hostile.xbel")));
+    } else if (kind.startsWith(QLatin1String("fifo"))) {
+#ifdef Q_OS_UNIX
+        const QString fifo = kind == QLatin1String("fifo") ? path : dir.filePath(QStringLiteral("icon.ico"));
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        if (fifo != path)
+            QVERIFY(writeFile(
+                path,
+                QStringLiteral("<xbel version=\"1.0\"><Icon name=\"After\" file=\"%1\"/></xbel>").arg(fifo).toUtf8()));
+#else
+        QSKIP("FIFOs are a POSIX file type");
+#endif
+    }
     ThemeManager* themes = loadedThemeManager();
     mWarnings.clear();
-    QVERIFY(!themes->LoadThemeFile(path, true));
+    QCOMPARE(themes->LoadThemeFile(path, false), warning.isEmpty());
+    if (warning.isEmpty()) {
+        QVERIFY2(mWarnings.isEmpty(), qPrintable(mWarnings.join(QLatin1Char('\n'))));
+        QVERIFY(themes->Exists(after));
+        QVERIFY(!themes->GetString(after).contains(QLatin1String("root:")));
+        return;
+    }
     QCOMPARE(mWarnings.size(), 1);
     const QString title = mWarnings.first().section(QLatin1Char('|'), 0, 0);
     const QString text = mWarnings.first().section(QLatin1Char('|'), 1);
     QCOMPARE(title, QStringLiteral("QXmlStream for UI Skin"));
-    QVERIFY2(text.startsWith(expectedStart + path), qPrintable(text));
-    if (expectedStart.startsWith(QLatin1String("Parse")))
+    QVERIFY2(text.startsWith(warning + path), qPrintable(text));
+    QVERIFY2(text.contains(after), qPrintable(text));
+    if (warning == QLatin1String("Parse error in file "))
         QVERIFY2(text.contains(QRegularExpression(QStringLiteral(" at line \\d+, column \\d+:\n."))), qPrintable(text));
     else
         QVERIFY(text.endsWith(QLatin1Char('.')));
     // The current theme is untouched.
     QCOMPARE(themes->GetCurrentTheme(), QStringLiteral("Light"));
+}
+
+void tst_ThemeManager::failedSwitchKeepsTheCurrentTheme()
+{
+    QTemporaryDir dir;
+    QVERIFY(writeFile(dir.filePath(QStringLiteral("DarkTheme.xbel")),
+                      "<xbel version=\"1.0\"><Color name=\"FontNormal1\"><hex value=\"#0"));
+    ThemeManager* themes = loadedThemeManager();
+    themes->SetThemeFilesPath(dir.path().toStdWString().c_str());
+    const QColor light = themes->GetColor(ThemeFileKey::FontNormal1);
+    QVERIFY(light.isValid());
+    QSignalSpy spy(themes, &ThemeManager::ThemeChanged);
+    mWarnings.clear();
+
+    QVERIFY(!themes->SetCurrentTheme(QStringLiteral("Dark")));
+    QCOMPARE(mWarnings.size(), 1);
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(themes->GetCurrentTheme(), QStringLiteral("Light"));
+    QCOMPARE(themes->GetColor(ThemeFileKey::FontNormal1), light);
+    QVERIFY(themes->Exists(QStringLiteral("ScrollBarGlobal"))); // the base values stay too
+    QVERIFY(themes->SetCurrentTheme(QStringLiteral("HIGLight")));
+    QVERIFY(themes->GetColor(ThemeFileKey::FontNormal1).isValid());
+}
+
+void tst_ThemeManager::failedAutomaticLoadIsRetried()
+{
+    QTemporaryDir dir;
+    const QString light = dir.filePath(QStringLiteral("LightTheme.xbel"));
+    QVERIFY(writeFile(light, "<xbel version=\"1.0\"><Int"));
+    ThemeManager* themes = ThemeManager::GetInstance();
+    themes->SetThemeFilesPath(dir.path().toStdWString().c_str());
+    QVERIFY(!themes->Exists(ThemeFileKey::FontNormal1));
+    QVERIFY(!themes->Exists(ThemeFileKey::FontNormal1));
+    QCOMPARE(mWarnings.size(), 2); // every query while no theme is current tries again
+    QCOMPARE(themes->GetCurrentTheme(), QString());
+
+    QVERIFY(writeFile(light, "<xbel version=\"1.0\"><String name=\"CurrentTheme\" value=\"Fixed\"/></xbel>"));
+    QCOMPARE(themes->GetString(QStringLiteral("CurrentTheme")), QStringLiteral("Fixed"));
+    QCOMPARE(themes->GetCurrentTheme(), QStringLiteral("Light"));
+    QCOMPARE(mWarnings.size(), 2);
 }
 
 void tst_ThemeManager::searchDirectories()
@@ -319,6 +451,10 @@ void tst_ThemeManager::searchDirectories()
     QVERIFY(writeFile(dir.filePath(QStringLiteral("LightTheme.xbel")),
                       "<xbel version=\"1.0\"><String name=\"CurrentTheme\" value=\"Mine\"/></xbel>"));
     QCOMPARE(themes->GetString(QStringLiteral("CurrentTheme")), QStringLiteral("Mine"));
+
+    // An empty folder is added like any other.
+    themes->SetThemeFilesPath(L"");
+    QCOMPARE(themes->GetThemeFilesPath(buffer, 512), 0);
 }
 
 QTEST_MAIN(tst_ThemeManager)

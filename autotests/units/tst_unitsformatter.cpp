@@ -125,8 +125,18 @@ private Q_SLOTS:
         QCOMPARE(QString::fromWCharArray(separator), QStringLiteral(","));
         QCOMPARE(german.GetNumberDecimalSeparator(separator, 1), kBufferTooSmall);
         QCOMPARE(german.SetNumberDecimalSeparator(L""), kInvalidArgument);
-        QCOMPARE(german.SetNumberDecimalSeparator(L"1"), kInvalidArgument);
         QCOMPARE(german.SetNumberDecimalSeparator(nullptr), kInvalidArgument);
+        // Any length and any characters are kept.
+        QCOMPARE(german.SetNumberDecimalSeparator(L" decimal-1 "), kSuccess);
+        QCOMPARE(german.GetNumberDecimalSeparator(separator, 8), kBufferTooSmall);
+        wchar_t wide[16];
+        QCOMPARE(german.GetNumberDecimalSeparator(wide, 12), kSuccess);
+        QCOMPARE(QString::fromWCharArray(wide), QStringLiteral(" decimal-1 "));
+        QCOMPARE(Format(german, 1.5, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("1 decimal-1 50 mm"));
+        // Text beyond the formatter's working space fails instead of being cut.
+        const std::wstring huge(600, L'~');
+        QCOMPARE(german.SetNumberDecimalSeparator(huge.c_str()), kSuccess);
+        QCOMPARE(Format(german, 1.5, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("<error>"));
     }
 
     void displayedNumberIsInTheSymbolUnit()
@@ -241,12 +251,17 @@ private Q_SLOTS:
     void settersRefuseUnknownValues()
     {
         UnitsFormatter formatter(L"en-US");
-        QCOMPARE(formatter.SetNumericFormat(NumberFormat(7)), kInvalidArgument);
-        QCOMPARE(formatter.SetNumericFormat(NumberFormat(-1)), kInvalidArgument);
-        QCOMPARE(formatter.GetNumericFormat(), kNumberFormatDecimal);
-        QCOMPARE(formatter.SetNumberDecimalPrecision(-1), kInvalidArgument);
-        QCOMPARE(formatter.SetNumberDecimalPrecision(16), kInvalidArgument);
-        QCOMPARE(formatter.GetNumberDecimalPrecision(), 2);
+        // Formats and precisions out of range are kept as set and written as
+        // the plain decimal form, with the precision limited to 0 to 15.
+        QCOMPARE(formatter.SetNumericFormat(NumberFormat(7)), kSuccess);
+        QCOMPARE(formatter.GetNumericFormat(), NumberFormat(7));
+        QCOMPARE(formatter.SetNumberDecimalPrecision(-1), kSuccess);
+        QCOMPARE(formatter.GetNumberDecimalPrecision(), -1);
+        QCOMPARE(Format(formatter, 2.25, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("2 mm"));
+        QCOMPARE(formatter.SetNumericFormat(NumberFormat(-1)), kSuccess);
+        QCOMPARE(formatter.SetNumberDecimalPrecision(40), kSuccess);
+        QCOMPARE(formatter.GetNumberDecimalPrecision(), 40);
+        QCOMPARE(Format(formatter, 0.5, Units::eMillimeter, kSymbolMillimeter), QStringLiteral("0.500000000000000 mm"));
         QCOMPARE(formatter.SetDefaultUnit(0x2099), kUnknownUnit);
         QCOMPARE(formatter.SetDefaultSymbol(0x2099), kUnknownUnit);
         QCOMPARE(formatter.GetDefaultUnit(), int(Units::eUnitless));

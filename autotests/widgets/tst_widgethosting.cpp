@@ -2,7 +2,7 @@
 // A WidgetImp hosted in a foreign X11 window, as a host that is not a Qt
 // application creates it with its own connection.
 #include <KvUICore/core/CoreUIManager.h>
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/NativeParent_p.h>
 #include <KvUICore/platform/WinWidget_p.h>
 #include <KvUICore/widgets/KvMessageBox.h>
 #include <KvUICore/widgets/WidgetImp.h>

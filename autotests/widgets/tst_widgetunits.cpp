@@ -201,9 +201,15 @@ private Q_SLOTS:
         double value = 0;
         QVERIFY(units.ValidateValue(QStringLiteral("1~~234*5 "), value));
         QCOMPARE(value, 1234.5);
-        // A separator set on the formatter directly is read back.
-        QCOMPARE(units.GetFormatter().SetNumberDecimalSeparator(L"<dec>"), kSuccess);
-        QCOMPARE(units.GetDecimalSeparator(), QStringLiteral("<dec>"));
+        // Separators of any length and with digits are stored and notified.
+        units.mCalls.clear();
+        const QString longSeparator = QStringLiteral("decimal separator 10");
+        units.SetDecimalSeparator(longSeparator);
+        QCOMPARE(units.mCalls, QStringList({QStringLiteral("DecimalSeparator(*,%1)").arg(longSeparator)}));
+        QCOMPARE(units.GetDecimalSeparator(), longSeparator);
+        // A separator set on the formatter directly is read back in full.
+        QCOMPARE(units.GetFormatter().SetNumberDecimalSeparator(L"<a decimal separator of 32 chars>"), kSuccess);
+        QCOMPARE(units.GetDecimalSeparator(), QStringLiteral("<a decimal separator of 32 chars>"));
     }
 
     void unitTypeAndSymbol()
@@ -297,12 +303,14 @@ private Q_SLOTS:
         units.SetNumberFormat(QStringLiteral("decimal")); // same as now
         QVERIFY(units.mCalls.isEmpty());
         units.SetNumberFormat(QStringLiteral("Scientific"));
-        units.SetNumberFormatId(NumberFormat(9)); // refused by the formatter
-        QCOMPARE(units.mCalls, QStringList({"NumberFormat(2,0)"}));
         QCOMPARE(units.GetNumberFormatW(), QStringLiteral("Scientific"));
+        // Ids and precisions out of range are stored and notified like any other.
+        units.SetNumberFormatId(NumberFormat(9));
         units.SetDecimalPrecision(2);
-        units.SetDecimalPrecision(-3); // refused
-        QCOMPARE(units.GetDecimalPrecision(), 2);
+        units.SetDecimalPrecision(-3);
+        QCOMPARE(units.mCalls, QStringList({"NumberFormat(2,0)", "NumberFormat(0,9)", "DecimalPrecision(2,-3)"}));
+        QCOMPARE(int(units.GetNumberFormatId()), 9);
+        QCOMPARE(units.GetDecimalPrecision(), -3);
     }
 
     void exponentFallback_data()

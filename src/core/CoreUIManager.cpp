@@ -1,10 +1,6 @@
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/core/CoreUIManagerImp.h>
-#include <KvUICore/core/LibraryHooks_p.h>
-#include <KvUICore/theme/ThemeManager.h>
-#include <KvUICore/theme/ThemeManagerImp.h>
-#include <KvUICore/widgets/IMessageBoxProvider.h>
-#include <KvUICore/widgets/MessageBoxProvider.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 
 #include <KvCoreUnits/LocaleUtil.h>
 #include <KvCoreUnits/StringUtil.h>
@@ -13,7 +9,6 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -32,6 +27,11 @@ namespace {
 bool gInitialized = false;
 bool gGlobalStyleSheetEnabled = true;
 CoreUIManager* gInstance = nullptr;
+
+// Filled in by the layers above when the library loads.
+Internal::ThemeLayer gThemeLayer;
+Internal::MessageBoxLayer gMessageBoxLayer;
+Internal::PropertyEditorLayer gPropertyEditorLayer;
 
 // Locale → (Qt translation base, Qt base-module translation base).
 const QHash<QString, QPair<QString, QString>>& languageTable()
@@ -96,7 +96,8 @@ CoreUIManagerImp::~CoreUIManagerImp()
     }
     mTranslators.clear();
     mLanguageTable.clear();
-    DestroyThemeManagerInstance();
+    if (gThemeLayer.mpDestroy)
+        gThemeLayer.mpDestroy();
     ReleaseProvider();
 }
 
@@ -107,8 +108,10 @@ CoreUIManagerImp* CoreUIManagerImp::Get(CoreUIManager* manager)
 
 void CoreUIManagerImp::ReleaseProvider()
 {
-    delete mpMessageBoxProvider;
+    IMessageBoxProvider* provider = mpMessageBoxProvider;
     mpMessageBoxProvider = nullptr;
+    if (provider && gMessageBoxLayer.mpReleaseProvider)
+        gMessageBoxLayer.mpReleaseProvider(provider);
 }
 
 void CoreUIManagerImp::InstallQtTranslators()
@@ -138,8 +141,9 @@ void CoreUIManagerImp::ReloadTranslator(Translator* translator)
     file = QDir::cleanPath(file);
     if (translator->mbLoaded && translator->msLoadedFile == file)
         return;
-    if (!translator->load(file, QString(), QString(), QString()))
-        return;
+    // A file that fails to load still counts as the loaded one: the translator
+    // is then empty, and a later change of path or locale tries again.
+    static_cast<void>(translator->load(file, QString(), QString(), QString()));
     // Reinstalled so that it is the most recent translator and wins lookups.
     QCoreApplication::removeTranslator(translator);
     QCoreApplication::installTranslator(translator);
@@ -154,10 +158,59 @@ void CoreUIManagerImp::ReloadTranslators()
 }
 
 namespace Internal {
+
+void RegisterThemeLayer(const ThemeLayer& layer)
+{
+    gThemeLayer = layer;
+}
+
+void RegisterMessageBoxLayer(const MessageBoxLayer& layer)
+{
+    gMessageBoxLayer = layer;
+}
+
+void RegisterPropertyEditorLayer(const PropertyEditorLayer& layer)
+{
+    gPropertyEditorLayer = layer;
+}
+
 bool CoreUIManagerExists()
 {
     return gInstance != nullptr;
 }
+
+QString CurrentLocaleName()
+{
+    return CoreUIManagerImp::Get(CoreUIManager::GetInstance())->msCurrentLocale;
+}
+
+QString TranslatorFilesPath()
+{
+    return CoreUIManagerImp::Get(CoreUIManager::GetInstance())->msTranslatorFilesPath;
+}
+
+int MessageBoxStyle()
+{
+    return CoreUIManagerImp::Get(CoreUIManager::GetInstance())->miMessageBoxStyle;
+}
+
+void SetMessageBoxStyle(int style)
+{
+    CoreUIManagerImp* manager = CoreUIManagerImp::Get(CoreUIManager::GetInstance());
+    if (manager->miMessageBoxStyle == style)
+        return;
+    manager->miMessageBoxStyle = style;
+    // A host provider is dropped too: the next box comes from a fresh default one.
+    manager->ReleaseProvider();
+}
+
+void ReapplyGlobalStyleSheet()
+{
+    CoreUIManager* core = CoreUIManager::GetInstance();
+    CoreUIManagerImp::Get(core)->mbGlobalStyleSheetApplied = false;
+    core->OverrideApplicationStyleSheet();
+}
+
 } // namespace Internal
 
 // ---- CoreUIManager -------------------------------------------------------
@@ -175,7 +228,8 @@ bool CoreUIManager::Initialize(void*)
         return true;
     gInitialized = true;
     gGlobalStyleSheetEnabled = true;
-    Internal::RegisterPropertyEditorElementTypes();
+    if (gPropertyEditorLayer.mpRegisterElementTypes)
+        gPropertyEditorLayer.mpRegisterElementTypes();
     UnitsManager::Initialize();
     if (qobject_cast<QApplication*>(QCoreApplication::instance()))
         QApplication::setEffectEnabled(Qt::UI_FadeTooltip, false);
@@ -190,7 +244,8 @@ bool CoreUIManager::Uninitialize()
     CoreUIManager* instance = gInstance;
     gInstance = nullptr;
     delete instance;
-    Internal::ClearRememberedColumnWidths();
+    if (gPropertyEditorLayer.mpClearRememberedColumnWidths)
+        gPropertyEditorLayer.mpClearRememberedColumnWidths();
     gInitialized = false;
     gGlobalStyleSheetEnabled = true;
     return true;
@@ -284,12 +339,13 @@ int CoreUIManager::GetTranslatorFilesPath(wchar_t* buffer, int capacity)
 
 void CoreUIManager::SetThemeFilesPath(const wchar_t* path)
 {
-    ThemeManager::GetInstance()->SetThemeFilesPath(path);
+    if (gThemeLayer.mpSetThemeFilesPath)
+        gThemeLayer.mpSetThemeFilesPath(path);
 }
 
 int CoreUIManager::GetThemeFilesPath(wchar_t* buffer, int capacity)
 {
-    return ThemeManager::GetInstance()->GetThemeFilesPath(buffer, capacity);
+    return gThemeLayer.mpGetThemeFilesPath ? gThemeLayer.mpGetThemeFilesPath(buffer, capacity) : 0;
 }
 
 const wchar_t* CoreUIManager::GetThemeName(const Theme& theme)
@@ -315,27 +371,18 @@ void CoreUIManager::SetMessageBoxProvider(IMessageBoxProvider* provider)
 
 IMessageBoxProvider* CoreUIManager::GetMessageBoxProvider()
 {
-    if (!mpImp->mpMessageBoxProvider)
-        mpImp->mpMessageBoxProvider = new MessageBoxProvider;
+    if (!mpImp->mpMessageBoxProvider && gMessageBoxLayer.mpCreateDefaultProvider)
+        mpImp->mpMessageBoxProvider = gMessageBoxLayer.mpCreateDefaultProvider();
     return mpImp->mpMessageBoxProvider;
 }
 
 void CoreUIManager::OverrideApplicationStyleSheet()
 {
-    if (mpImp->mbGlobalStyleSheetApplied || !qobject_cast<QApplication*>(QCoreApplication::instance())
-        || !ThemeManagerInstanceExists())
+    if (mpImp->mbGlobalStyleSheetApplied || !qobject_cast<QApplication*>(QCoreApplication::instance()) ||
+        !gThemeLayer.mpGlobalStyleSheet)
         return;
-    ThemeManager* themes = ThemeManager::GetInstance();
-    const QString scrollBarKey = QStringLiteral("ScrollBarGlobal");
-    const QString toolTipKey = QStringLiteral("ToolTipGlobal");
-    if (!themes->Exists(scrollBarKey) || !themes->Exists(toolTipKey)) {
-        QFile file(QStringLiteral(":/AppStyle.xbel"));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-            return;
-        if (!themes->LoadThemeFile(file, false))
-            return;
-    }
-    const QString styleSheet = themes->GetStyleSheet(scrollBarKey) + themes->GetStyleSheet(toolTipKey);
+    const QString styleSheet = gThemeLayer.mpGlobalStyleSheet();
+    // Empty: nothing to apply yet, a later call may succeed.
     if (styleSheet.isEmpty())
         return;
     if (gGlobalStyleSheetEnabled)

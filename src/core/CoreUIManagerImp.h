@@ -54,10 +54,4 @@ public:
     bool mbGlobalStyleSheetApplied = false;
 };
 
-// Hooks of other parts of the library that shut-down must reach.
-namespace Internal {
-// Whether the singleton exists, without creating it.
-KVUICORE_EXPORT bool CoreUIManagerExists();
-} // namespace Internal
-
 } // namespace Kavrel::UICore

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <KvUICore/KvUICoreExport.h>
-#include <KvUICore/platform/NativeHandle.h>
 
 #include <QColor>
 #include <QFont>
@@ -20,11 +19,6 @@ KVUICORE_EXPORT QColor DimmedColor(const QColor& color);
 KVUICORE_EXPORT void SetTextColor(QWidget* widget, const QColor& color);
 
 KVUICORE_EXPORT QFont ItemViewFont();
-
-// The widget to parent library UI to for a native handle: null for a null
-// handle, the Qt widget that owns the handle, or a new native-window wrapper
-// that the caller does not delete.
-KVUICORE_EXPORT QWidget* ParentWidgetForNativeHandle(HWND handle);
 
 // Every warning box the library raises on its own (unreadable or broken theme
 // files) goes through here, so that a test or a host can take the texts

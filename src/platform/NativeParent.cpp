@@ -1,4 +1,4 @@
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/NativeParent_p.h>
 #include <KvUICore/platform/WinWidget_p.h>
 
 #include <QWidget>

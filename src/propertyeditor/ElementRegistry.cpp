@@ -1,6 +1,6 @@
 #include <KvUICore/propertyeditor/ElementRegistry_p.h>
 
-#include <KvUICore/core/LibraryHooks_p.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/platform/PlatformFiles_p.h>
 #include <KvUICore/propertyeditor/ButtonElement.h>
 #include <KvUICore/propertyeditor/CheckBoxElement.h>
@@ -84,6 +84,20 @@ void RegisterPropertyEditorElementTypes()
     RegisterKind<PanelElement>("PanelElement");
     RegisterKind<RadioButtonGroupElement>("RadioButtonGroupElement");
 }
+
+namespace {
+
+// Start-up registers the kinds and shut-down forgets the widths through core.
+void registerPropertyEditorLayer()
+{
+    PropertyEditorLayer layer;
+    layer.mpRegisterElementTypes = &RegisterPropertyEditorElementTypes;
+    layer.mpClearRememberedColumnWidths = &ClearRememberedColumnWidths;
+    RegisterPropertyEditorLayer(layer);
+}
+Q_CONSTRUCTOR_FUNCTION(registerPropertyEditorLayer)
+
+} // namespace
 
 ElementTypeRegistry& ElementTypeRegistry::Instance()
 {

@@ -23,6 +23,11 @@ using ColumnWidths = std::array<int, 3>;
 // the definition they were set for (see PropertyEditor), so that the next
 // editor showing the same definition opens with them.
 KVUICORE_EXPORT QHash<QString, ColumnWidths>& RememberedColumnWidths();
+// Empties that table (at shut-down).
+void ClearRememberedColumnWidths();
+
+// Registers the element kinds with Qt's meta-type system, once.
+void RegisterPropertyEditorElementTypes();
 
 // The namespace and module that a node's namespace URI names:
 // "namespace=Kavrel::UICore;module=KvUICore".

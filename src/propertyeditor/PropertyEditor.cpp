@@ -1,6 +1,6 @@
 #include <KvUICore/propertyeditor/PropertyEditorImp.h>
 
-#include <KvUICore/core/LibraryHooks_p.h>
+#include <KvUICore/propertyeditor/ElementRegistry_p.h>
 #include <KvUICore/propertyeditor/GroupElementImp.h>
 #include <KvUICore/propertyeditor/PageElement.h>
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>

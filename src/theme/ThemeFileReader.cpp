@@ -1,16 +1,18 @@
 #include <KvUICore/theme/ThemeFileReader_p.h>
 
-#include <QCoreApplication>
+#include <QBuffer>
 #include <QColor>
-#include <QImage>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QImage>
 #include <QImageReader>
 #include <QLinearGradient>
 #include <QList>
 #include <QMetaType>
-#include <QRegularExpression>
 #include <QSize>
+
+#include <algorithm>
 
 namespace Kavrel::UICore::Internal {
 
@@ -23,9 +25,22 @@ QString tr(const char* text)
 
 } // namespace
 
-ThemeFileReader::ThemeFileReader(ThemeValueTable& table, Substitute substitute)
+QString UnreadableFileReason(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return tr("The file does not exist");
+    // A FIFO would block the reader forever, a device never ends.
+    if (!info.isFile())
+        return tr("Not a regular file");
+    if (info.size() > kMaximumFileSize)
+        return tr("The file is larger than %1 bytes").arg(kMaximumFileSize);
+    return QString();
+}
+
+ThemeFileReader::ThemeFileReader(ThemeValueTable& table, TextOf textOf)
     : mTable(table)
-    , mSubstitute(std::move(substitute))
+    , mTextOf(std::move(textOf))
 {
 }
 
@@ -38,7 +53,22 @@ void ThemeFileReader::RegisterMetaTypes()
 bool ThemeFileReader::Read(QIODevice* device)
 {
     RegisterMetaTypes();
-    mReader.setDevice(device);
+    miExpansionBudget = kMaximumFileExpansion;
+    // Read whole and bounded before parsing: a pipe or a file that keeps
+    // growing cannot hold the reader.
+    QByteArray data;
+    if (!device || device->isSequential()) {
+        mReader.clear();
+        RaiseError(tr("Not a regular file"));
+        return false;
+    }
+    data = device->read(kMaximumFileSize + 1);
+    mReader.clear();
+    if (data.size() > kMaximumFileSize) {
+        RaiseError(tr("The file is larger than %1 bytes").arg(kMaximumFileSize));
+        return false;
+    }
+    mReader.addData(data);
     while (!mReader.atEnd() && !mReader.hasError()) {
         mReader.readNext();
         if (!mReader.isStartElement())
@@ -58,6 +88,7 @@ void ThemeFileReader::ReadRoot()
     while (mReader.readNextStartElement()) {
         const QStringView element = mReader.name();
         const QString name = mReader.attributes().value(QLatin1String("name")).toString();
+        msEntryName = name;
         if (element == QLatin1String("Color"))
             ReadColor(name);
         else if (element == QLatin1String("Icon"))
@@ -113,8 +144,9 @@ void ThemeFileReader::ReadColor(const QString& name)
 
 QColor ThemeFileReader::ReadRgbaColor()
 {
-    return QColor(ReadNumber(QStringLiteral("r")), ReadNumber(QStringLiteral("g")), ReadNumber(QStringLiteral("b")),
-                  ReadNumber(QStringLiteral("a")));
+    // Channels are plain numbers: a reference reads as 0.
+    return QColor(ReadNumber(QStringLiteral("r"), false), ReadNumber(QStringLiteral("g"), false),
+                  ReadNumber(QStringLiteral("b"), false), ReadNumber(QStringLiteral("a"), false));
 }
 
 QColor ThemeFileReader::ReadHexColor()
@@ -160,6 +192,9 @@ QHash<QString, CachedIcon>& iconCache()
 QList<QImage> readImages(const QString& file)
 {
     QList<QImage> images;
+    // Like a missing file, one that is no regular file or too large gives no images.
+    if (!UnreadableFileReason(file).isEmpty())
+        return images;
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     const int count = reader.imageCount();
@@ -213,22 +248,26 @@ void ThemeFileReader::ReadStyleSheet(const QString& name)
             mReader.skipCurrentElement();
         mReader.readNext();
     }
-    if (mReader.hasError())
+    if (mReader.hasError() || !Substitute(text))
         return;
-    Store(name, QVariant(mSubstitute ? mSubstitute(text) : text));
+    Store(name, QVariant(text));
 }
 
 void ThemeFileReader::ReadSize(const QString& name)
 {
-    const int width = ReadNumber(QStringLiteral("width"));
-    const int height = ReadNumber(QStringLiteral("height"));
+    const int width = ReadNumber(QStringLiteral("width"), true);
+    const int height = ReadNumber(QStringLiteral("height"), true);
+    if (mReader.hasError())
+        return;
     Store(name, QVariant(QSize(width, height)));
     mReader.skipCurrentElement();
 }
 
 void ThemeFileReader::ReadInt(const QString& name, bool scalable)
 {
-    const int value = ReadNumber(QStringLiteral("value"));
+    const int value = ReadNumber(QStringLiteral("value"), true);
+    if (mReader.hasError())
+        return;
     // ScalableInt values are design sizes; the conversion keeps them as they are.
     Store(name, QVariant(value));
     Q_UNUSED(scalable);
@@ -243,26 +282,51 @@ void ThemeFileReader::ReadString(const QString& name)
         mReader.skipCurrentElement();
         return;
     }
+    // The content is the run of character tokens right after the start tag; a
+    // comment or a child element ends it.
     QString text;
-    while (!mReader.atEnd()) {
-        mReader.readNext();
-        if (mReader.isCharacters())
-            text += mReader.text();
-        else if (mReader.isStartElement())
-            mReader.skipCurrentElement();
-        else if (mReader.isEndElement() || mReader.hasError())
-            break;
-    }
+    while (mReader.readNext() == QXmlStreamReader::Characters)
+        text += mReader.text();
+    if (!mReader.isEndElement())
+        SkipToEndElement();
     if (!mReader.hasError())
         Store(name, QVariant(text));
 }
 
-int ThemeFileReader::ReadNumber(const QString& attribute)
+void ThemeFileReader::SkipToEndElement()
+{
+    while (!mReader.atEnd() && !mReader.hasError() && !mReader.isEndElement()) {
+        if (mReader.isStartElement())
+            mReader.skipCurrentElement();
+        mReader.readNext();
+    }
+}
+
+int ThemeFileReader::ReadNumber(const QString& attribute, bool substitute)
 {
     QString text = mReader.attributes().value(attribute).toString();
-    if (text.contains(QLatin1Char('$')) && mSubstitute)
-        text = mSubstitute(text);
+    if (substitute && text.contains(QLatin1Char('$')) && !Substitute(text))
+        return 0;
     return text.trimmed().toInt();
+}
+
+bool ThemeFileReader::Substitute(QString& text)
+{
+    if (!mTextOf)
+        return true;
+    switch (SubstituteReferences(text, mTextOf, &miExpansionBudget)) {
+    case Substitution::Done:
+        return true;
+    case Substitution::ValueTooLong:
+        RaiseError(tr("The value of %1 grows beyond %2 characters when its references are expanded.")
+                       .arg(msEntryName)
+                       .arg(kMaximumValueLength));
+        return false;
+    case Substitution::BudgetSpent:
+        RaiseError(tr("The references of the file expand to more than %1 characters.").arg(kMaximumFileExpansion));
+        return false;
+    }
+    return false;
 }
 
 void ThemeFileReader::RaiseError(const QString& message)
@@ -298,32 +362,79 @@ QString ThemeValueText(const QVariant* value)
     return value->toString();
 }
 
-QString SubstituteReferences(QString text, const std::function<QString(const QString&)>& textOf)
+Substitution SubstituteReferences(QString& text, const std::function<QString(const QString&)>& textOf,
+                                  qsizetype* budget)
 {
-    static const QRegularExpression reference(QStringLiteral("\\$\\(.*\\)"),
-                                              QRegularExpression::InvertedGreedinessOption);
-    // A cap on expansions: references that name each other in a ring would
-    // otherwise never end.
-    constexpr int kMaximumExpansions = 4096;
+    if (!text.contains(QLatin1String("$(")))
+        return Substitution::Done;
+    // The text still to scan is kept reversed, so that expanded text goes in
+    // front of it by appending and nothing is ever moved twice. A reference
+    // is "$(", then the shortest run up to ")" on the same line.
+    QString pending = text;
+    std::reverse(pending.begin(), pending.end());
+    QString done;
+    done.reserve(text.size());
+    auto consume = [&](qsizetype count) {
+        const qsizetype from = done.size();
+        done.append(QStringView(pending).right(count));
+        std::reverse(done.begin() + from, done.end());
+        pending.chop(count);
+    };
     int expansions = 0;
-    qsizetype position = 0;
-    while (position < text.size() && expansions < kMaximumExpansions) {
-        const QRegularExpressionMatch match = reference.match(text, position);
-        if (!match.hasMatch())
+    while (!pending.isEmpty() && expansions < kMaximumExpansions) {
+        const qsizetype last = pending.size() - 1; // the logical first character
+        qsizetype start = -1;                      // logical index of the match
+        qsizetype end = -1;                        // logical index of its ")"
+        qsizetype scanned = pending.size();        // characters known to hold no match
+        for (qsizetype i = 0; i < last; ++i) {
+            if (pending.at(last - i) != QLatin1Char('$') || pending.at(last - i - 1) != QLatin1Char('('))
+                continue;
+            qsizetype j = i + 2;
+            while (j <= last && pending.at(last - j) != QLatin1Char(')') && pending.at(last - j) != QLatin1Char('\n'))
+                ++j;
+            if (j <= last && pending.at(last - j) == QLatin1Char(')')) {
+                start = i;
+                end = j;
+            } else {
+                // Every "$(" before the line break runs into it too.
+                scanned = qMin(j + 1, pending.size());
+            }
             break;
-        const qsizetype start = match.capturedStart();
-        const QString name = text.mid(start + 2, match.capturedLength() - 3);
+        }
+        if (start < 0) {
+            consume(scanned);
+            continue;
+        }
+        QString name = QStringView(pending).mid(last - end + 1, end - start - 2).toString();
+        std::reverse(name.begin(), name.end());
         if (name.isEmpty()) {
-            position = start + 1;
+            consume(start + 1);
             continue;
         }
         const QString inserted = textOf(name);
         ++expansions;
-        text.replace(start, match.capturedLength(), inserted);
+        const qsizetype length = done.size() + pending.size() - (end - start + 1) + inserted.size();
+        if (length > kMaximumValueLength)
+            return Substitution::ValueTooLong;
+        if (budget) {
+            if (inserted.size() > *budget)
+                return Substitution::BudgetSpent;
+            *budget -= inserted.size();
+        }
+        consume(start);
+        pending.chop(end - start + 1);
         // Rescanning text that names itself would never end.
-        position = inserted.contains(name) ? start + inserted.size() : start;
+        if (inserted.contains(name)) {
+            done += inserted;
+        } else {
+            const qsizetype from = pending.size();
+            pending += inserted;
+            std::reverse(pending.begin() + from, pending.end());
+        }
     }
-    return text;
+    consume(pending.size());
+    text = done;
+    return Substitution::Done;
 }
 
 } // namespace Kavrel::UICore::Internal

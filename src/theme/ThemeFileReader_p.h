@@ -15,16 +15,34 @@ namespace Kavrel::UICore::Internal {
 
 using ThemeValueTable = QHash<QString, QVariant*>;
 
+// Limits that keep a hostile theme file from hanging the application or
+// exhausting its memory. Files beyond them fail with a clear message.
+// - A theme file, and an icon file a theme names, is read only when it is a
+//   regular file (no FIFO, device or folder) of at most kMaximumFileSize bytes.
+// - $(Name) references expand at most kMaximumExpansions times per value, a
+//   value may grow to at most kMaximumValueLength characters, and the
+//   expansions of one file may insert at most kMaximumFileExpansion characters
+//   in all. Each limit is checked before the text grows.
+constexpr qint64 kMaximumFileSize = 8 * 1024 * 1024;
+constexpr int kMaximumExpansions = 4096;
+constexpr qsizetype kMaximumValueLength = 1024 * 1024;
+constexpr qsizetype kMaximumFileExpansion = 16 * 1024 * 1024;
+
+// Why a file cannot be read, or empty when it is a regular file within the
+// size limit.
+KVUICORE_EXPORT QString UnreadableFileReason(const QString& path);
+
 // Reads one XBEL theme file into a value table. References $(Name) in style
-// sheets and numbers are expanded through the substitution callback.
+// sheets and numbers expand to the text form of the value the callback finds.
 class KVUICORE_EXPORT ThemeFileReader
 {
 public:
-    using Substitute = std::function<QString(const QString&)>;
+    using TextOf = std::function<QString(const QString& name)>;
 
-    ThemeFileReader(ThemeValueTable& table, Substitute substitute);
+    ThemeFileReader(ThemeValueTable& table, TextOf textOf);
 
-    // True when the stream reported no error; entries read before an error stay.
+    // True when the stream reported no error; entries read before an error
+    // stay. A sequential device or one larger than kMaximumFileSize fails.
     bool Read(QIODevice* device);
 
     QString ErrorString() const { return mReader.errorString(); }
@@ -44,13 +62,17 @@ private:
     void ReadString(const QString& name);
     QColor ReadHexColor();
     QColor ReadRgbaColor();
-    int ReadNumber(const QString& attribute);
+    int ReadNumber(const QString& attribute, bool substitute);
+    bool Substitute(QString& text);
+    void SkipToEndElement();
     void RaiseError(const QString& message);
     void Store(const QString& name, const QVariant& value);
 
     QXmlStreamReader mReader;
     ThemeValueTable& mTable;
-    Substitute mSubstitute;
+    TextOf mTextOf;
+    QString msEntryName; // the entry being read, for messages
+    qsizetype miExpansionBudget = kMaximumFileExpansion;
 };
 
 // Forgets the decoded icon files that theme loads share.
@@ -59,8 +81,19 @@ KVUICORE_EXPORT void ClearIconCache();
 // The text that a reference $(Name) to a stored value expands to.
 KVUICORE_EXPORT QString ThemeValueText(const QVariant* value);
 
+// How SubstituteReferences ended.
+enum class Substitution
+{
+    Done,
+    ValueTooLong, // the value would outgrow kMaximumValueLength
+    BudgetSpent,  // the insertions would outgrow *budget
+};
+
 // Expands every $(Name) reference of text, left to right, including references
-// inside expanded text; a name whose text contains itself expands once.
-KVUICORE_EXPORT QString SubstituteReferences(QString text, const std::function<QString(const QString&)>& textOf);
+// inside expanded text; a name whose text contains itself expands once. The
+// scan is linear in the text it produces. budget, when given, is the number of
+// characters insertions may still add, and is reduced by what they add.
+KVUICORE_EXPORT Substitution SubstituteReferences(QString& text, const std::function<QString(const QString&)>& textOf,
+                                                  qsizetype* budget = nullptr);
 
 } // namespace Kavrel::UICore::Internal

@@ -1,8 +1,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
 
-#include <KvUICore/core/CoreUIManager.h>
-#include <KvUICore/core/CoreUIManagerImp.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/platform/PlatformFiles_p.h>
 
@@ -12,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLinearGradient>
 #include <QWidget>
 
@@ -42,6 +42,39 @@ void DestroyThemeManagerInstance()
     gInstance = nullptr;
     delete instance;
 }
+
+namespace {
+
+QString globalStyleSheet()
+{
+    if (!gInstance)
+        return QString();
+    const QString scrollBarKey = QStringLiteral("ScrollBarGlobal");
+    const QString toolTipKey = QStringLiteral("ToolTipGlobal");
+    if (!gInstance->Exists(scrollBarKey) || !gInstance->Exists(toolTipKey)) {
+        QFile file(QStringLiteral(":/AppStyle.xbel"));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text) || !gInstance->LoadThemeFile(file, false))
+            return QString();
+    }
+    return gInstance->GetStyleSheet(scrollBarKey) + gInstance->GetStyleSheet(toolTipKey);
+}
+
+void registerThemeLayer()
+{
+    Internal::ThemeLayer layer;
+    layer.mpGlobalStyleSheet = &globalStyleSheet;
+    layer.mpSetThemeFilesPath = [](const wchar_t* directory) {
+        ThemeManager::GetInstance()->SetThemeFilesPath(directory);
+    };
+    layer.mpGetThemeFilesPath = [](wchar_t* buffer, int capacity) {
+        return ThemeManager::GetInstance()->GetThemeFilesPath(buffer, capacity);
+    };
+    layer.mpDestroy = &DestroyThemeManagerInstance;
+    Internal::RegisterThemeLayer(layer);
+}
+Q_CONSTRUCTOR_FUNCTION(registerThemeLayer)
+
+} // namespace
 
 // ---- ThemeManagerImp -----------------------------------------------------
 
@@ -99,8 +132,8 @@ const QVariant* ThemeManagerImp::Find(const QString& key)
 
 void ThemeManagerImp::EnsureTheme()
 {
-    // A broken theme file is reported once, not on every later query.
-    if (!msCurrentTheme.isEmpty() || mbSwitching || mbAutomaticLoadFailed)
+    // While a switch loads its file, the theme being loaded is not current yet.
+    if (!msCurrentTheme.isEmpty() || mbSwitching)
         return;
     QString theme;
     const QString light = QStringLiteral("Light");
@@ -114,14 +147,18 @@ void ThemeManagerImp::EnsureTheme()
             }
         }
     }
-    if (!theme.isEmpty() && !SetCurrentTheme(theme))
-        mbAutomaticLoadFailed = true;
+    // A file that fails to load is tried (and reported) again on the next query.
+    if (!theme.isEmpty())
+        SetCurrentTheme(theme);
 }
 
 QString ThemeManagerImp::LocateThemeFile(const QString& fileName) const
 {
     for (const QString& directory : mSearchDirectories) {
         const QString path = directory + QLatin1Char('/') + fileName;
+        // Opening a FIFO would block: only regular files are tried.
+        if (!QFileInfo(path).isFile())
+            continue;
         QFile file(path);
         if (file.open(QIODevice::ReadOnly | QIODevice::Text))
             return path;
@@ -139,17 +176,27 @@ bool ThemeManagerImp::SetCurrentTheme(const QString& name)
     const QString path = LocateThemeFile(entry->second);
     if (path.isEmpty())
         return false;
-    ClearTables();
+    // The new theme loads into empty tables; the current ones are kept aside
+    // so that a file that fails to load leaves the host with a whole theme.
+    Internal::ThemeValueTable previousTheme;
+    Internal::ThemeValueTable previousBase;
+    mSolidBrushes.clear();
+    mThemeValues.swap(previousTheme);
+    mBaseValues.swap(previousBase);
     mbSwitching = true;
     const bool loaded = LoadThemeFile(path, true);
     mbSwitching = false;
-    if (!loaded)
+    if (!loaded) {
+        ClearTables();
+        mThemeValues.swap(previousTheme);
+        mBaseValues.swap(previousBase);
         return false;
+    }
+    qDeleteAll(previousTheme);
+    qDeleteAll(previousBase);
     const QString old = msCurrentTheme;
     msCurrentTheme = name;
-    CoreUIManager* core = CoreUIManager::GetInstance();
-    CoreUIManagerImp::Get(core)->mbGlobalStyleSheetApplied = false;
-    core->OverrideApplicationStyleSheet();
+    Internal::ReapplyGlobalStyleSheet();
     Q_EMIT ThemeChanged(old, name);
     return true;
 }
@@ -159,7 +206,7 @@ bool ThemeManagerImp::LoadThemeFile(QFile& file, bool asTheme)
     // Entries may be replaced, and a new value may reuse an old one's address.
     mSolidBrushes.clear();
     Internal::ThemeFileReader reader(asTheme ? mThemeValues : mBaseValues,
-                                     [this](const QString& text) { return Substitute(text); });
+                                     [this](const QString& name) { return Internal::ThemeValueText(Find(name)); });
     if (reader.Read(&file))
         return true;
     Internal::ShowWarning(warningTitle(), tr("Parse error in file %1 at line %2, column %3:\n%4")
@@ -173,18 +220,15 @@ bool ThemeManagerImp::LoadThemeFile(QFile& file, bool asTheme)
 bool ThemeManagerImp::LoadThemeFile(const QString& path, bool asTheme)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        Internal::ShowWarning(warningTitle(), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+    // Checked before opening: opening a FIFO blocks.
+    QString reason = Internal::UnreadableFileReason(path);
+    if (reason.isEmpty() && !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        reason = file.errorString();
+    if (!reason.isEmpty()) {
+        Internal::ShowWarning(warningTitle(), tr("Cannot read file %1:\n%2.").arg(path, reason));
         return false;
     }
     return LoadThemeFile(file, asTheme);
-}
-
-QString ThemeManagerImp::Substitute(const QString& text)
-{
-    return Internal::SubstituteReferences(text, [this](const QString& name) {
-        return Internal::ThemeValueText(Find(name));
-    });
 }
 
 // ---- ThemeManager --------------------------------------------------------
@@ -323,11 +367,12 @@ bool ThemeManager::UpdateSkinNeeded()
 
 void ThemeManager::SetThemeFilesPath(const wchar_t* directory)
 {
+    // An empty path is a directory like any other: it is added, and its theme
+    // files are looked for at the root.
     const QString path = QDir::cleanPath(StringUtil::WcharToQString(directory));
-    if (path.isEmpty() || mpImp->mSearchDirectories.contains(path))
+    if (mpImp->mSearchDirectories.contains(path))
         return;
     mpImp->mSearchDirectories.prepend(path);
-    mpImp->mbAutomaticLoadFailed = false;
 }
 
 int ThemeManager::GetThemeFilesPath(wchar_t* buffer, int capacity)

@@ -21,7 +21,15 @@ class ThemeManagerImp;
 
 // The process-wide source of themed values. Keys are the ThemeFileKey texts;
 // a missing key never fails but gives the empty value of its getter. The
-// current theme ("Light" unless set otherwise) loads on the first query.
+// current theme ("Light" unless set otherwise) loads on the first query; while
+// no theme is current, every query tries (and reports a failure) again.
+//
+// Theme files and the icon files they name are read only when they are
+// regular files (never a FIFO, device or folder) of at most 8 MiB. A $(Name)
+// reference expands at most 4,096 times per value, a value grows to at most
+// 1 Mi characters, and the expansions of one file insert at most 16 Mi
+// characters; a file beyond these limits fails to load with a message saying
+// which limit it broke.
 class KVUICORE_EXPORT ThemeManager : public QObject
 {
     Q_OBJECT
@@ -43,7 +51,11 @@ public:
 
     QString GetCurrentTheme();
     // "Light", "Dark" or "HIGLight" (any case); false for an unknown theme or
-    // one whose file is not found, leaving everything as it was.
+    // one whose file is not found, leaving everything as it was. A file that
+    // fails to load is reported and returns false too, and then also leaves
+    // everything as it was: the values of the theme that was current stay, so
+    // the host always has a whole theme (safer than clearing every table and
+    // keeping what the broken file held).
     bool SetCurrentTheme(const QString& name);
 
     bool LoadThemeFile(QFile& file, bool asTheme);

@@ -30,7 +30,6 @@ public:
     bool SetCurrentTheme(const QString& name);
     bool LoadThemeFile(QFile& file, bool asTheme);
     bool LoadThemeFile(const QString& path, bool asTheme);
-    QString Substitute(const QString& text);
     void ClearTables();
 
     // The built-in themes, by name.
@@ -47,8 +46,6 @@ public:
     bool mbSwitching = false;
     // Solid brushes of colour entries, by entry; emptied whenever entries change.
     QHash<const QVariant*, QBrush> mSolidBrushes;
-    // Set when the theme chosen on first use failed to load.
-    bool mbAutomaticLoadFailed = false;
 
 Q_SIGNALS:
     void ThemeChanged(const QString& oldTheme, const QString& newTheme);

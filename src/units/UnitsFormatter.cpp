@@ -8,6 +8,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -20,7 +21,7 @@ namespace {
 using Units = kvp::IDesignPropertyUnits;
 
 constexpr int kMaxPrecision = 15;
-constexpr std::size_t kMaxSeparatorLength = 8;
+constexpr std::size_t kMaxSignLength = 8;
 constexpr std::size_t kMaxTemplateLength = 256;
 // Beyond 2^53 a double has no fractional part left to split off.
 constexpr double kExactIntegerLimit = 9007199254740992.0;
@@ -408,10 +409,15 @@ ErrorCode CopyOut(const std::wstring& text, wchar_t* buffer, std::size_t length)
 
 bool IsAcceptableSeparator(const wchar_t* text)
 {
+    return text && *text;
+}
+
+bool IsAcceptableSign(const wchar_t* text)
+{
     if (!text || !*text)
         return false;
     const std::size_t length = std::wcslen(text);
-    if (length > kMaxSeparatorLength)
+    if (length > kMaxSignLength)
         return false;
     for (std::size_t i = 0; i < length; ++i) {
         if (text[i] >= L'0' && text[i] <= L'9')
@@ -551,27 +557,25 @@ ErrorCode UnitsFormatter::Parse(const wchar_t* text, double& value, int unit) co
 
 NumberFormat UnitsFormatter::GetNumericFormat() const
 {
-    return mpImp->meNumericFormat;
+    return mpImp->meRequestedFormat;
 }
 
 ErrorCode UnitsFormatter::SetNumericFormat(NumberFormat format)
 {
-    if (format < 0 || format >= kNumberFormatCount)
-        return kInvalidArgument;
-    mpImp->meNumericFormat = format;
+    mpImp->meRequestedFormat = format;
+    mpImp->meNumericFormat = (format < 0 || format >= kNumberFormatCount) ? kNumberFormatDecimal : format;
     return kSuccess;
 }
 
 int UnitsFormatter::GetNumberDecimalPrecision() const
 {
-    return mpImp->miPrecision;
+    return mpImp->miRequestedPrecision;
 }
 
 ErrorCode UnitsFormatter::SetNumberDecimalPrecision(int precision)
 {
-    if (precision < 0 || precision > kMaxPrecision)
-        return kInvalidArgument;
-    mpImp->miPrecision = precision;
+    mpImp->miRequestedPrecision = precision;
+    mpImp->miPrecision = std::clamp(precision, 0, kMaxPrecision);
     return kSuccess;
 }
 
@@ -608,7 +612,7 @@ ErrorCode UnitsFormatter::GetPositiveSign(wchar_t* buffer, std::size_t length) c
 
 ErrorCode UnitsFormatter::SetPositiveSign(const wchar_t* sign)
 {
-    if (!IsAcceptableSeparator(sign))
+    if (!IsAcceptableSign(sign))
         return kInvalidArgument;
     mpImp->msPositiveSign = sign;
     return kSuccess;

@@ -71,17 +71,24 @@ public:
     // Reads `text` into `value`, measured in `unit` (0 for the default unit).
     ErrorCode Parse(const wchar_t* text, double& value, int unit) const;
 
+    // Any value is kept and read back as set; one outside the known formats
+    // writes as kNumberFormatDecimal.
     NumberFormat GetNumericFormat() const;
-    // kInvalidArgument for a value outside the known formats.
     ErrorCode SetNumericFormat(NumberFormat format);
 
+    // Any value is kept and read back as set; numbers are written with it
+    // limited to 0 to 15. Fractions use denominators up to 2^precision.
     int GetNumberDecimalPrecision() const;
-    // 0 to 15; fractions use denominators up to 2^precision.
     ErrorCode SetNumberDecimalPrecision(int precision);
 
     // Getters copy into the caller's buffer (terminated) and report
-    // kBufferTooSmall when it cannot hold the text. Setters refuse null, empty,
-    // longer than 8 characters and text holding digits.
+    // kBufferTooSmall when it cannot hold the text. The separator setters
+    // refuse only null and empty text: separators of any length are kept, and
+    // a value whose text outgrows Format's working space fails to format
+    // rather than being cut. Digits in a separator are kept too, but Parse
+    // reads digits as digits first, so text written with such a separator may
+    // not read back. The positive sign refuses null, empty, longer than 8
+    // characters and text holding digits.
     ErrorCode GetNumberDecimalSeparator(wchar_t* buffer, std::size_t length) const;
     ErrorCode SetNumberDecimalSeparator(const wchar_t* separator);
     ErrorCode GetNumberGroupSeparator(wchar_t* buffer, std::size_t length) const;

@@ -20,8 +20,11 @@ public:
         return nullptr;
     }
 
+    // What formatting uses; the Requested values are what was set.
     NumberFormat meNumericFormat = kNumberFormatDecimal;
     int miPrecision = 2;
+    NumberFormat meRequestedFormat = kNumberFormatDecimal;
+    int miRequestedPrecision = 2;
     std::wstring msDecimalSeparator = L".";
     std::wstring msGroupSeparator = L",";
     std::wstring msPositiveSign = L"+";

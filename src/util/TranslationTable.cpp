@@ -1,4 +1,4 @@
-#include <KvUICore/core/CoreUIManager.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
 
@@ -10,7 +10,6 @@
 #include <QXmlStreamReader>
 
 #include <map>
-#include <vector>
 
 namespace Kavrel::UICore {
 
@@ -22,20 +21,6 @@ public:
     bool mbLoaded = false;
     QString msLoadedLocale;
     QString msLoadedFolder;
-
-    static QString CurrentLocale()
-    {
-        std::vector<wchar_t> buffer(256);
-        const int count = CoreUIManager::GetInstance()->GetCurrentLocale(buffer.data(), int(buffer.size()));
-        return QString::fromWCharArray(buffer.data(), count);
-    }
-
-    static QString TranslatorFolder()
-    {
-        std::vector<wchar_t> buffer(32768);
-        const int count = CoreUIManager::GetInstance()->GetTranslatorFilesPath(buffer.data(), int(buffer.size()));
-        return QString::fromWCharArray(buffer.data(), count);
-    }
 
     // The file of that name in the folder, its name matched without regard to
     // case, so that a table's spelling doesn't depend on the file system.
@@ -186,14 +171,13 @@ void TranslationTable::Clear()
 
 QString TranslationTable::FindTranslationFile() const
 {
-    return TranslationTableImp::FindFile(mpImp->msName, TranslationTableImp::CurrentLocale(),
-                                         TranslationTableImp::TranslatorFolder());
+    return TranslationTableImp::FindFile(mpImp->msName, Internal::CurrentLocaleName(), Internal::TranslatorFilesPath());
 }
 
 bool TranslationTable::Load()
 {
-    const QString locale = TranslationTableImp::CurrentLocale();
-    const QString folder = TranslationTableImp::TranslatorFolder();
+    const QString locale = Internal::CurrentLocaleName();
+    const QString folder = Internal::TranslatorFilesPath();
     const QString file = TranslationTableImp::FindFile(mpImp->msName, locale, folder);
     const bool ok = !file.isEmpty() && LoadFile(file);
     if (file.isEmpty())
@@ -228,8 +212,8 @@ bool TranslationTable::LoadFile(const QString& fileName)
 
 void TranslationTable::Refresh()
 {
-    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != TranslationTableImp::CurrentLocale()
-        || mpImp->msLoadedFolder != TranslationTableImp::TranslatorFolder())
+    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != Internal::CurrentLocaleName() ||
+        mpImp->msLoadedFolder != Internal::TranslatorFilesPath())
         Load();
 }
 

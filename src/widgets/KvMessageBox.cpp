@@ -1,8 +1,9 @@
 #include <KvUICore/core/CoreUIManager.h>
-#include <KvUICore/core/CoreUIManagerImp.h>
+#include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/widgets/IMessageBox.h>
 #include <KvUICore/widgets/IMessageBoxProvider.h>
 #include <KvUICore/widgets/KvMessageBox.h>
+#include <KvUICore/widgets/MessageBoxProvider.h>
 
 namespace Kavrel::UICore {
 
@@ -13,6 +14,17 @@ IMessageBox* createFromProvider()
     IMessageBoxProvider* provider = CoreUIManager::GetInstance()->GetMessageBoxProvider();
     return provider ? provider->CreateMessageBox() : nullptr;
 }
+
+// The core manager holds the provider; the default one and the interface's
+// destructor live here.
+void registerMessageBoxLayer()
+{
+    Internal::MessageBoxLayer layer;
+    layer.mpCreateDefaultProvider = []() -> IMessageBoxProvider* { return new MessageBoxProvider; };
+    layer.mpReleaseProvider = [](IMessageBoxProvider* provider) { delete provider; };
+    Internal::RegisterMessageBoxLayer(layer);
+}
+Q_CONSTRUCTOR_FUNCTION(registerMessageBoxLayer)
 
 } // namespace
 
@@ -31,17 +43,14 @@ KvMessageBox::~KvMessageBox()
 
 void KvMessageBox::SetStyle(Style style)
 {
-    CoreUIManagerImp* manager = CoreUIManagerImp::Get(CoreUIManager::GetInstance());
-    if (manager->miMessageBoxStyle == style)
-        return;
-    manager->miMessageBoxStyle = style;
-    // A host provider is dropped too: the next box comes from a fresh default one.
-    manager->ReleaseProvider();
+    // A different style drops the provider, a host's too: the next box comes
+    // from a fresh default one.
+    Internal::SetMessageBoxStyle(style);
 }
 
 KvMessageBox::Style KvMessageBox::GetStyle()
 {
-    return Style(CoreUIManagerImp::Get(CoreUIManager::GetInstance())->miMessageBoxStyle);
+    return Style(Internal::MessageBoxStyle());
 }
 
 // A host provider that hands out no box leaves every member at its default.

@@ -1,5 +1,5 @@
 #include <KvUICore/core/CoreUIUtil.h>
-#include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/NativeParent_p.h>
 #include <KvUICore/widgets/KvMessageBoxImp.h>
 #include <KvUICore/widgets/UIMessageBox_p.h>
 

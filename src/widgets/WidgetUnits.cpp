@@ -27,7 +27,6 @@ constexpr Units::teGroup kAngleGroup = Units::eGroupAngle;            // 0x8000
 constexpr std::size_t kTextBufferLength = 1024;
 constexpr std::size_t kTemplateBufferLength = 50;
 constexpr std::size_t kSignBufferLength = 10;
-constexpr std::size_t kSeparatorBufferLength = 16; // the formatter refuses separators above 8 characters
 constexpr int kTemplateAttempts = 10;
 // Shown numbers beyond these switch plain forms to exponent text.
 constexpr double kExponentAbove = 1e7;
@@ -43,9 +42,9 @@ QString ReadSeparator(units::ErrorCode (units::UnitsFormatter::*getter)(wchar_t*
 {
     std::vector<wchar_t> buffer(length > 0 ? length : 1, L'\0');
     units::ErrorCode code = (formatter.*getter)(buffer.data(), buffer.size());
-    if (code == units::kBufferTooSmall) {
-        // Set directly on the formatter, bypassing the stored length.
-        buffer.assign(kSeparatorBufferLength, L'\0');
+    // Set directly on the formatter, bypassing the stored length: grow until it fits.
+    while (code == units::kBufferTooSmall) {
+        buffer.assign(buffer.size() * 2, L'\0');
         code = (formatter.*getter)(buffer.data(), buffer.size());
     }
     if (code != units::kSuccess)
