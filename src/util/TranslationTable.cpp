@@ -1,7 +1,9 @@
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/util/XmlLimits_p.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -58,8 +60,8 @@ public:
         if (name.isEmpty())
             return QString();
         const QDir dir(folder.isEmpty() ? QStringLiteral(".") : folder);
-        if (name.endsWith(QLatin1String(".xlf"), Qt::CaseInsensitive)
-            || name.endsWith(QLatin1String(".xliff"), Qt::CaseInsensitive)) {
+        if (name.endsWith(QLatin1String(".xlf"), Qt::CaseInsensitive) ||
+            name.endsWith(QLatin1String(".xliff"), Qt::CaseInsensitive)) {
             return FindInFolder(dir, name);
         }
         QStringList suffixes;
@@ -85,6 +87,8 @@ public:
         return QString();
     }
 
+    // Reads the units; false with `error` set for a malformed file or one
+    // beyond a limit, checked as the reading goes, before anything grows.
     static bool ReadXliff(QIODevice* device, QHash<QString, QString>* texts, QString* error)
     {
         QXmlStreamReader reader(device);
@@ -92,9 +96,21 @@ public:
         QString target;
         bool inUnit = false;
         bool skipUnit = false;
+        int depth = 0;
         while (!reader.atEnd()) {
             const QXmlStreamReader::TokenType token = reader.readNext();
+            if (token == QXmlStreamReader::EndElement)
+                --depth;
             if (token == QXmlStreamReader::StartElement) {
+                if (++depth > TranslationTable::kMaxDepth) {
+                    *error = QStringLiteral("elements nest deeper than %1 levels").arg(TranslationTable::kMaxDepth);
+                    return false;
+                }
+                if (reader.attributes().size() > TranslationTable::kMaxAttributes) {
+                    *error =
+                        QStringLiteral("an element has more than %1 attributes").arg(TranslationTable::kMaxAttributes);
+                    return false;
+                }
                 const QStringView name = reader.name();
                 // XLIFF 2 calls the unit <unit> and may split it in segments.
                 if (name == QLatin1String("trans-unit") || name == QLatin1String("unit")) {
@@ -112,11 +128,14 @@ public:
                     // Suggested alternatives, not the translation.
                     reader.skipCurrentElement();
                 } else if (inUnit && name == QLatin1String("target")) {
-                    // Inline markup (<g>, <x/>, ...) contributes its text.
-                    target += reader.readElementText(QXmlStreamReader::IncludeChildElements);
+                    // Inline markup (<g>, <x/>, ...) contributes its text;
+                    // reading it consumes the end tag as well.
+                    if (!ReadTargetText(reader, depth, &target, error))
+                        return false;
+                    --depth;
                 }
-            } else if (token == QXmlStreamReader::EndElement
-                       && (reader.name() == QLatin1String("trans-unit") || reader.name() == QLatin1String("unit"))) {
+            } else if (token == QXmlStreamReader::EndElement &&
+                       (reader.name() == QLatin1String("trans-unit") || reader.name() == QLatin1String("unit"))) {
                 if (!skipUnit && !target.isEmpty()) {
                     for (const QString& id : std::as_const(ids))
                         texts->insert(id, target);
@@ -128,6 +147,41 @@ public:
             *error = QStringLiteral("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
             return false;
         }
+        return true;
+    }
+
+    // The text of a <target> and its inline markup, with the same depth and
+    // attribute limits as the rest of the file.
+    static bool ReadTargetText(QXmlStreamReader& reader, int depth, QString* target, QString* error)
+    {
+        int level = 0;
+        while (!reader.atEnd()) {
+            switch (reader.readNext()) {
+            case QXmlStreamReader::StartElement:
+                ++level;
+                if (depth + level > TranslationTable::kMaxDepth) {
+                    *error = QStringLiteral("elements nest deeper than %1 levels").arg(TranslationTable::kMaxDepth);
+                    return false;
+                }
+                if (reader.attributes().size() > TranslationTable::kMaxAttributes) {
+                    *error =
+                        QStringLiteral("an element has more than %1 attributes").arg(TranslationTable::kMaxAttributes);
+                    return false;
+                }
+                break;
+            case QXmlStreamReader::EndElement:
+                if (level-- == 0)
+                    return true;
+                break;
+            case QXmlStreamReader::Characters:
+            case QXmlStreamReader::EntityReference:
+                target->append(reader.text());
+                break;
+            default:
+                break;
+            }
+        }
+        // Malformed: the caller reports the reader's error.
         return true;
     }
 };
@@ -147,10 +201,8 @@ QString TranslationTable::GetName() const
 
 void TranslationTable::SetName(const QString& name)
 {
-    if (name.compare(mpImp->msName, Qt::CaseInsensitive) == 0) {
-        mpImp->msName = name;
+    if (name == mpImp->msName)
         return;
-    }
     mpImp->msName = name;
     Clear();
 }
@@ -209,6 +261,21 @@ bool TranslationTable::Load()
 bool TranslationTable::LoadFile(const QString& fileName)
 {
     mpImp->mTexts.clear();
+    const QFileInfo info(fileName);
+    if (!info.exists())
+        return false;
+    // A pipe would block the reading and a device never end.
+    if (!info.isFile()) {
+        Internal::WriteDiagnostic(
+            QStringLiteral("TranslationTable: Failed to open file %1. Not a regular file").arg(fileName));
+        return false;
+    }
+    if (info.size() > kMaxFileSize) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+                                      .arg(fileName)
+                                      .arg(kMaxFileSize));
+        return false;
+    }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         if (file.exists())
@@ -216,9 +283,27 @@ bool TranslationTable::LoadFile(const QString& fileName)
                                           .arg(fileName, file.errorString(), QString::number(int(file.error()))));
         return false;
     }
+    // Read from memory, so a file that grew since it was looked at stops at the limit.
+    QByteArray bytes = file.read(kMaxFileSize + 1);
+    if (bytes.size() > kMaxFileSize) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+                                      .arg(fileName)
+                                      .arg(kMaxFileSize));
+        return false;
+    }
+    // The parser slows down with the square of an element's attributes.
+    if (!Internal::AttributesWithinLimit(bytes, kMaxAttributes)) {
+        Internal::WriteDiagnostic(
+            QStringLiteral("TranslationTable: Refused %1: an element has more than %2 attributes.")
+                .arg(fileName)
+                .arg(kMaxAttributes));
+        return false;
+    }
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
     QHash<QString, QString> texts;
     QString error;
-    if (!TranslationTableImp::ReadXliff(&file, &texts, &error)) {
+    if (!TranslationTableImp::ReadXliff(&buffer, &texts, &error)) {
         Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Failed to read file %1. %2").arg(fileName, error));
         return false;
     }
@@ -228,8 +313,8 @@ bool TranslationTable::LoadFile(const QString& fileName)
 
 void TranslationTable::Refresh()
 {
-    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != TranslationTableImp::CurrentLocale()
-        || mpImp->msLoadedFolder != TranslationTableImp::TranslatorFolder())
+    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != TranslationTableImp::CurrentLocale() ||
+        mpImp->msLoadedFolder != TranslationTableImp::TranslatorFolder())
         Load();
 }
 
