@@ -11,6 +11,7 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
+#include <limits>
 #include <map>
 #include <vector>
 
@@ -60,8 +61,8 @@ public:
         if (name.isEmpty())
             return QString();
         const QDir dir(folder.isEmpty() ? QStringLiteral(".") : folder);
-        if (name.endsWith(QLatin1String(".xlf"), Qt::CaseInsensitive) ||
-            name.endsWith(QLatin1String(".xliff"), Qt::CaseInsensitive)) {
+        if (name.endsWith(QLatin1String(".xlf"), Qt::CaseInsensitive)
+            || name.endsWith(QLatin1String(".xliff"), Qt::CaseInsensitive)) {
             return FindInFolder(dir, name);
         }
         QStringList suffixes;
@@ -87,8 +88,6 @@ public:
         return QString();
     }
 
-    // Reads the units; false with `error` set for a malformed file or one
-    // beyond a limit, checked as the reading goes, before anything grows.
     static bool ReadXliff(QIODevice* device, QHash<QString, QString>* texts, QString* error)
     {
         QXmlStreamReader reader(device);
@@ -96,21 +95,9 @@ public:
         QString target;
         bool inUnit = false;
         bool skipUnit = false;
-        int depth = 0;
         while (!reader.atEnd()) {
             const QXmlStreamReader::TokenType token = reader.readNext();
-            if (token == QXmlStreamReader::EndElement)
-                --depth;
             if (token == QXmlStreamReader::StartElement) {
-                if (++depth > TranslationTable::kMaxDepth) {
-                    *error = QStringLiteral("elements nest deeper than %1 levels").arg(TranslationTable::kMaxDepth);
-                    return false;
-                }
-                if (reader.attributes().size() > TranslationTable::kMaxAttributes) {
-                    *error =
-                        QStringLiteral("an element has more than %1 attributes").arg(TranslationTable::kMaxAttributes);
-                    return false;
-                }
                 const QStringView name = reader.name();
                 // XLIFF 2 calls the unit <unit> and may split it in segments.
                 if (name == QLatin1String("trans-unit") || name == QLatin1String("unit")) {
@@ -128,14 +115,11 @@ public:
                     // Suggested alternatives, not the translation.
                     reader.skipCurrentElement();
                 } else if (inUnit && name == QLatin1String("target")) {
-                    // Inline markup (<g>, <x/>, ...) contributes its text;
-                    // reading it consumes the end tag as well.
-                    if (!ReadTargetText(reader, depth, &target, error))
-                        return false;
-                    --depth;
+                    // Inline markup (<g>, <x/>, ...) contributes its text.
+                    target += reader.readElementText(QXmlStreamReader::IncludeChildElements);
                 }
-            } else if (token == QXmlStreamReader::EndElement &&
-                       (reader.name() == QLatin1String("trans-unit") || reader.name() == QLatin1String("unit"))) {
+            } else if (token == QXmlStreamReader::EndElement
+                       && (reader.name() == QLatin1String("trans-unit") || reader.name() == QLatin1String("unit"))) {
                 if (!skipUnit && !target.isEmpty()) {
                     for (const QString& id : std::as_const(ids))
                         texts->insert(id, target);
@@ -147,41 +131,6 @@ public:
             *error = QStringLiteral("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
             return false;
         }
-        return true;
-    }
-
-    // The text of a <target> and its inline markup, with the same depth and
-    // attribute limits as the rest of the file.
-    static bool ReadTargetText(QXmlStreamReader& reader, int depth, QString* target, QString* error)
-    {
-        int level = 0;
-        while (!reader.atEnd()) {
-            switch (reader.readNext()) {
-            case QXmlStreamReader::StartElement:
-                ++level;
-                if (depth + level > TranslationTable::kMaxDepth) {
-                    *error = QStringLiteral("elements nest deeper than %1 levels").arg(TranslationTable::kMaxDepth);
-                    return false;
-                }
-                if (reader.attributes().size() > TranslationTable::kMaxAttributes) {
-                    *error =
-                        QStringLiteral("an element has more than %1 attributes").arg(TranslationTable::kMaxAttributes);
-                    return false;
-                }
-                break;
-            case QXmlStreamReader::EndElement:
-                if (level-- == 0)
-                    return true;
-                break;
-            case QXmlStreamReader::Characters:
-            case QXmlStreamReader::EntityReference:
-                target->append(reader.text());
-                break;
-            default:
-                break;
-            }
-        }
-        // Malformed: the caller reports the reader's error.
         return true;
     }
 };
@@ -291,12 +240,10 @@ bool TranslationTable::LoadFile(const QString& fileName)
                                       .arg(kMaxFileSize));
         return false;
     }
-    // The parser slows down with the square of an element's attributes.
-    if (!Internal::AttributesWithinLimit(bytes, kMaxAttributes)) {
-        Internal::WriteDiagnostic(
-            QStringLiteral("TranslationTable: Refused %1: an element has more than %2 attributes.")
-                .arg(fileName)
-                .arg(kMaxAttributes));
+    static constexpr Internal::XmlLimits limits{kMaxDepth, kMaxAttributes, std::numeric_limits<qint64>::max()};
+    const QString limit = Internal::XmlLimitReached(bytes, limits);
+    if (!limit.isEmpty()) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: %2.").arg(fileName, limit));
         return false;
     }
     QBuffer buffer(&bytes);
@@ -313,8 +260,8 @@ bool TranslationTable::LoadFile(const QString& fileName)
 
 void TranslationTable::Refresh()
 {
-    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != TranslationTableImp::CurrentLocale() ||
-        mpImp->msLoadedFolder != TranslationTableImp::TranslatorFolder())
+    if (!mpImp->mbLoaded || mpImp->msLoadedLocale != TranslationTableImp::CurrentLocale()
+        || mpImp->msLoadedFolder != TranslationTableImp::TranslatorFolder())
         Load();
 }
 

@@ -11,7 +11,6 @@
 #include <QStringConverter>
 #include <QStringList>
 #include <QTextStream>
-#include <QXmlStreamReader>
 
 #include <limits>
 #include <vector>
@@ -37,51 +36,11 @@ void Report(const QString& text)
     Internal::WriteDiagnostic(QStringLiteral("XmlFiler: ") + text);
 }
 
-// A limit the input goes beyond, checked the way the DOM would read it but
-// without building anything; empty when none is reached. Malformed input is
-// left to the DOM parser to refuse.
-template <typename Input> QString LimitReached(const Input& input)
-{
-    if (!Internal::AttributesWithinLimit(input, XmlFiler::kMaxAttributes))
-        return QStringLiteral("an element has more than %1 attributes").arg(XmlFiler::kMaxAttributes);
-    QXmlStreamReader reader(input);
-    reader.setNamespaceProcessing(false);
-    int depth = 0;
-    qint64 nodes = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement: {
-            if (++depth > XmlFiler::kMaxDepth)
-                return QStringLiteral("elements nest deeper than %1 levels").arg(XmlFiler::kMaxDepth);
-            const qsizetype attributes = reader.attributes().size();
-            if (attributes > XmlFiler::kMaxAttributes)
-                return QStringLiteral("an element has more than %1 attributes").arg(XmlFiler::kMaxAttributes);
-            nodes += 1 + attributes;
-            break;
-        }
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        case QXmlStreamReader::Characters:
-        case QXmlStreamReader::Comment:
-        case QXmlStreamReader::ProcessingInstruction:
-        case QXmlStreamReader::EntityReference:
-        case QXmlStreamReader::DTD:
-            ++nodes;
-            break;
-        default:
-            break;
-        }
-        if (nodes > XmlFiler::kMaxNodes)
-            return QStringLiteral("the document has more than %1 nodes").arg(XmlFiler::kMaxNodes);
-    }
-    return QString();
-}
-
 // Parses within the limits; `source` names the input in the diagnostic.
 template <typename Input> bool ParseLimited(const Input& input, const QString& source, QDomDocument* document)
 {
-    const QString limit = LimitReached(input);
+    static constexpr Internal::XmlLimits limits{XmlFiler::kMaxDepth, XmlFiler::kMaxAttributes, XmlFiler::kMaxNodes};
+    const QString limit = Internal::XmlLimitReached(input, limits);
     if (!limit.isEmpty()) {
         Report(QStringLiteral("Refused %1: %2.").arg(source, limit));
         return false;
@@ -665,9 +624,11 @@ public:
     }
 
     // Reads `fileName` for writing it back: a missing or empty file gives a
-    // new document; anything that can't be read or written back unchanged
-    // fails. `bytes` is null for a missing file.
-    static bool ReadForUpdate(const QString& fileName, QDomDocument* document, QByteArray* bytes, bool* missing)
+    // new document; anything that can't be read fails, and with `verify` so
+    // does a document that wouldn't be written back unchanged. Callers that
+    // save at once leave that to the save.
+    static bool ReadForUpdate(const QString& fileName, QDomDocument* document, QByteArray* bytes, bool* missing,
+                              bool verify)
     {
         switch (ReadFileBytes(fileName, bytes)) {
         case FileRead::Failed:
@@ -686,6 +647,8 @@ public:
         }
         if (!ParseLimited(*bytes, fileName, document))
             return false;
+        if (!verify)
+            return true;
         XmlFilerImp probe;
         probe.mDocument = *document;
         QByteArray written;
@@ -756,7 +719,7 @@ public:
         QDomDocument theirs;
         QByteArray bytes;
         bool missing = false;
-        if (!ReadForUpdate(fileName, &theirs, &bytes, &missing)) {
+        if (!ReadForUpdate(fileName, &theirs, &bytes, &missing, false)) {
             Report(QStringLiteral("Failed to save file %1. It was changed by another writer in a way that can't "
                                   "be merged.")
                        .arg(fileName));
@@ -940,7 +903,7 @@ bool XmlFiler::OpenOrCreate(const QString& fileName)
     QDomDocument document;
     QByteArray bytes;
     bool missing = false;
-    if (!XmlFilerImp::ReadForUpdate(fileName, &document, &bytes, &missing)) {
+    if (!XmlFilerImp::ReadForUpdate(fileName, &document, &bytes, &missing, true)) {
         mpImp->Reset();
         return false;
     }
@@ -982,7 +945,7 @@ bool XmlFiler::Update(const QString& fileName, const std::function<bool(XmlFiler
     QDomDocument document;
     QByteArray bytes;
     bool missing = false;
-    if (!XmlFilerImp::ReadForUpdate(fileName, &document, &bytes, &missing)) {
+    if (!XmlFilerImp::ReadForUpdate(fileName, &document, &bytes, &missing, false)) {
         mpImp->Reset();
         return false;
     }

@@ -9,43 +9,58 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-// Scans characters of any width; `T` is char or char16_t.
-template <typename T> class TagScanner
+// Scans markup of any character width; `T` is char or char16_t.
+template <typename T> class MarkupScanner
 {
 public:
-    TagScanner(const T* begin, const T* end)
+    MarkupScanner(const T* begin, const T* end, const XmlLimits& limits)
         : mpAt(begin)
         , mpEnd(end)
+        , mLimits(limits)
     {}
 
-    bool WithinLimit(int maxAttributes)
+    QString LimitReached()
     {
-        while (SkipTo('<')) {
+        int depth = 0;
+        qint64 nodes = 0;
+        while (mpAt < mpEnd) {
+            if (*mpAt != T('<')) {
+                // A run of text up to the next markup.
+                ++nodes;
+                while (mpAt < mpEnd && *mpAt != T('<'))
+                    ++mpAt;
+                continue;
+            }
             ++mpAt;
-            if (StartsWith("!--"))
+            ++nodes;
+            if (StartsWith("!--")) {
                 SkipPast("-->");
-            else if (StartsWith("![CDATA["))
+            } else if (StartsWith("![CDATA[")) {
                 SkipPast("]]>");
-            else if (StartsWith("!"))
+            } else if (StartsWith("!")) {
                 SkipDeclaration();
-            else if (StartsWith("?"))
+            } else if (StartsWith("?")) {
                 SkipPast("?>");
-            else if (StartsWith("/"))
+            } else if (StartsWith("/")) {
+                --nodes;
+                --depth;
                 SkipPast(">");
-            else if (CountAttributes() > maxAttributes)
-                return false;
+            } else {
+                bool empty = false;
+                const int attributes = ScanStartTag(&empty);
+                if (attributes > mLimits.miMaxAttributes)
+                    return QStringLiteral("an element has more than %1 attributes").arg(mLimits.miMaxAttributes);
+                nodes += attributes;
+                if (!empty && ++depth > mLimits.miMaxDepth)
+                    return QStringLiteral("elements nest deeper than %1 levels").arg(mLimits.miMaxDepth);
+            }
+            if (nodes > mLimits.miMaxNodes)
+                return QStringLiteral("the document has more than %1 nodes").arg(mLimits.miMaxNodes);
         }
-        return true;
+        return QString();
     }
 
 private:
-    bool SkipTo(char c)
-    {
-        while (mpAt < mpEnd && *mpAt != T(c))
-            ++mpAt;
-        return mpAt < mpEnd;
-    }
-
     bool StartsWith(const char* text) const
     {
         const T* at = mpAt;
@@ -60,10 +75,8 @@ private:
     {
         while (mpAt < mpEnd && !StartsWith(text))
             ++mpAt;
-        while (*text && mpAt < mpEnd) {
-            ++text;
+        for (; *text && mpAt < mpEnd; ++text)
             ++mpAt;
-        }
     }
 
     void SkipQuoted()
@@ -85,57 +98,58 @@ private:
                 SkipQuoted();
             } else if (StartsWith("<!--")) {
                 SkipPast("-->");
-            } else if (*mpAt == T('[')) {
-                ++brackets;
-                ++mpAt;
-            } else if (*mpAt == T(']')) {
-                --brackets;
-                ++mpAt;
             } else if (*mpAt == T('>') && brackets <= 0) {
                 ++mpAt;
                 return;
             } else {
+                brackets += *mpAt == T('[') ? 1 : *mpAt == T(']') ? -1 : 0;
                 ++mpAt;
             }
         }
     }
 
-    // Each attribute has one "=" outside the quoted values.
-    int CountAttributes()
+    // The attributes of a start tag: one "=" each outside the quoted values.
+    int ScanStartTag(bool* empty)
     {
         int count = 0;
+        T previous = T(0);
         while (mpAt < mpEnd && *mpAt != T('>')) {
             if (*mpAt == T('"') || *mpAt == T('\'')) {
                 SkipQuoted();
+                previous = T(0);
                 continue;
             }
             if (*mpAt == T('='))
                 ++count;
-            ++mpAt;
+            previous = *mpAt++;
         }
+        if (mpAt < mpEnd)
+            ++mpAt;
+        *empty = previous == T('/');
         return count;
     }
 
     const T* mpAt;
     const T* const mpEnd;
+    const XmlLimits mLimits;
 };
 
 } // namespace
 
-bool AttributesWithinLimit(QStringView text, int maxAttributes)
+QString XmlLimitReached(QStringView text, const XmlLimits& limits)
 {
     const auto* begin = reinterpret_cast<const char16_t*>(text.utf16());
-    return TagScanner<char16_t>(begin, begin + text.size()).WithinLimit(maxAttributes);
+    return MarkupScanner<char16_t>(begin, begin + text.size(), limits).LimitReached();
 }
 
-bool AttributesWithinLimit(const QByteArray& bytes, int maxAttributes)
+QString XmlLimitReached(const QByteArray& bytes, const XmlLimits& limits)
 {
     // Wide encodings put a zero byte into the first four of an XML document;
-    // every encoding an XML parser takes otherwise keeps ASCII as ASCII.
-    const QByteArray head = bytes.left(4);
+    // every other encoding an XML parser takes keeps ASCII as ASCII.
     std::optional<QStringConverter::Encoding> wide = QStringConverter::encodingForData(bytes, u'<');
     if (wide && (*wide == QStringConverter::Utf8 || *wide == QStringConverter::Latin1))
         wide.reset();
+    const QByteArray head = bytes.left(4);
     if (!wide && head.contains('\0')) {
         if (head.size() == 4 && head.at(0) == 0 && head.at(1) == 0)
             wide = QStringConverter::Utf32BE;
@@ -147,9 +161,9 @@ bool AttributesWithinLimit(const QByteArray& bytes, int maxAttributes)
     if (wide) {
         QStringDecoder decoder(*wide);
         const QString text = decoder.decode(bytes);
-        return AttributesWithinLimit(QStringView(text), maxAttributes);
+        return XmlLimitReached(QStringView(text), limits);
     }
-    return TagScanner<char>(bytes.constData(), bytes.constData() + bytes.size()).WithinLimit(maxAttributes);
+    return MarkupScanner<char>(bytes.constData(), bytes.constData() + bytes.size(), limits).LimitReached();
 }
 
 } // namespace Kavrel::UICore::Internal
