@@ -16,8 +16,11 @@
 
 #include <limits>
 
+#include <cstdlib>
+
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 using namespace Kavrel::UICore;
@@ -100,6 +103,7 @@ QString versionedDocument(int version)
 }
 
 const char* const kSaveChildVariable = "KVUICORE_XMLFILER_SAVE_CHILD";
+const char* const kUnprivilegedVariable = "KVUICORE_XMLFILER_UNPRIVILEGED";
 
 // The document as reading sees it: nodes in order, attributes sorted.
 QString canonical(const QDomNode& node)
@@ -183,6 +187,7 @@ private Q_SLOTS:
 
     void openOrCreateAndSave();
     void killedSaveNeverTruncatesFile();
+    void readOnlyFolderFailsInsteadOfWritingInPlace();
     void hostileFiles_data();
     void hostileFiles();
     void saveRefusesWhatWouldNotReadBack_data();
@@ -205,6 +210,19 @@ void tst_XmlFiler::initTestCase()
         for (int i = 0;; ++i)
             (i % 2 ? second : first).Save(QString::fromLocal8Bit(target));
     }
+#ifdef Q_OS_UNIX
+    // Child mode of readOnlyFolderFailsInsteadOfWritingInPlace: save without
+    // root's rights; the exit code tells whether the save was refused.
+    const QString unprivileged = qEnvironmentVariable(kUnprivilegedVariable);
+    if (!unprivileged.isEmpty()) {
+        if (::setgid(65534) != 0 || ::setuid(65534) != 0)
+            std::exit(2);
+        XmlFiler filer;
+        const bool saved = filer.OpenOrCreate(unprivileged) && filer.WriteInt(QStringLiteral("changed"), 1)
+            && filer.Save();
+        std::exit(saved ? 1 : 0);
+    }
+#endif
     QVERIFY(mDir.isValid());
 }
 
@@ -751,6 +769,43 @@ void tst_XmlFiler::killedSaveNeverTruncatesFile()
         QVERIFY(version == 1 || version == 2);
         QCOMPARE(filer.GetChildElementCount(), filer.ReadInt(QStringLiteral("count")));
     }
+}
+
+void tst_XmlFiler::readOnlyFolderFailsInsteadOfWritingInPlace()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("Folder permissions are tested on Unix only.");
+#else
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("readonly"));
+    QVERIFY(QDir().mkpath(folder));
+    const QString path = folder + QStringLiteral("/settings.xml");
+    const QByteArray original = "<Root keep=\"1\"/>";
+    QVERIFY(writeFile(path, original));
+    // The file may be written, the folder not: no temporary file beside it.
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0666), 0);
+    QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
+    QCOMPARE(::chmod(QFile::encodeName(dir.path()).constData(), 0755), 0);
+    const auto unlock = qScopeGuard([&] { ::chmod(QFile::encodeName(folder).constData(), 0755); });
+    if (::geteuid() == 0) {
+        // Root writes into any folder: the save runs in a child without its rights.
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(kUnprivilegedVariable), path);
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("openAndParseFailures")});
+        QVERIFY(child.waitForFinished(60000));
+        QCOMPARE(child.exitCode(), 0);
+    } else {
+        XmlFiler filer;
+        QVERIFY(filer.OpenOrCreate(path));
+        QVERIFY(filer.WriteInt(QStringLiteral("changed"), 1));
+        QVERIFY(!filer.Save());
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), original);
+#endif
 }
 
 void tst_XmlFiler::hostileFiles_data()
