@@ -57,7 +57,6 @@ private Q_SLOTS:
     void cleanup();
 
     void readsUnitsOfBothVersions();
-    void malformedFileLeavesTableEmpty();
     void renamingEmptiesTable();
     void hostileFiles_data();
     void hostileFiles();
@@ -122,25 +121,6 @@ void tst_TranslationTable::readsUnitsOfBothVersions()
     QCOMPARE(table.GetText(QStringLiteral("Greeting")), QStringLiteral("Hallo. Tschüss."));
 }
 
-void tst_TranslationTable::malformedFileLeavesTableEmpty()
-{
-    const QString path = mDir.filePath(QStringLiteral("broken.xlf"));
-    QVERIFY(writeFile(path, QStringLiteral("<xliff><file><body><trans-unit id=\"a\"><target>x</target>")));
-    QStringList messages;
-    Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
-    TranslationTable table;
-    table.Insert(QStringLiteral("a"), QStringLiteral("old"));
-    QVERIFY(!table.LoadFile(path));
-    QCOMPARE(table.GetCount(), 0);
-    QCOMPARE(table.GetText(QStringLiteral("a")), QStringLiteral("a"));
-    QCOMPARE(messages.size(), 1);
-    QVERIFY(messages.first().contains(path));
-
-    messages.clear();
-    QVERIFY(!table.LoadFile(mDir.filePath(QStringLiteral("absent.xlf"))));
-    QVERIFY(messages.isEmpty());
-}
-
 void tst_TranslationTable::renamingEmptiesTable()
 {
     TranslationTable table(QStringLiteral("Pages"));
@@ -159,6 +139,10 @@ void tst_TranslationTable::hostileFiles_data()
     QTest::addColumn<QString>("special");
     QTest::addColumn<QString>("diagnostic");
 
+    QTest::newRow("malformed") << QByteArray("<xliff><file><body><trans-unit id=\"a\"><target>x</target>") << ""
+                               << "Failed to read file";
+    QTest::newRow("missing") << QByteArray() << "missing"
+                             << "";
     const QByteArray deep = QByteArray("<g>").repeated(300) + QByteArray("</g>").repeated(300);
     QTest::newRow("nesting beyond the limit") << xliff(QString::fromLatin1(deep)).toUtf8() << ""
                                               << "deeper than 256 levels";
@@ -209,7 +193,7 @@ void tst_TranslationTable::hostileFiles()
     else if (special == QLatin1String("fifo"))
         QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
 #endif
-    else
+    else if (special.isEmpty())
         QVERIFY(writeFile(path, content));
     QStringList messages;
     Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
@@ -217,8 +201,11 @@ void tst_TranslationTable::hostileFiles()
     table.Insert(QStringLiteral("a"), QStringLiteral("old"));
     QVERIFY(!table.LoadFile(path));
     QCOMPARE(table.GetCount(), 0);
-    QCOMPARE(messages.size(), 1);
-    QVERIFY2(messages.first().contains(path) && messages.first().contains(diagnostic), qPrintable(messages.first()));
+    // A missing file is no error; every other failure is reported once.
+    QCOMPARE(messages.size(), diagnostic.isEmpty() ? 0 : 1);
+    if (!diagnostic.isEmpty())
+        QVERIFY2(messages.first().contains(path) && messages.first().contains(diagnostic),
+                 qPrintable(messages.first()));
 }
 
 void tst_TranslationTable::fileFoundByNameAndLocale_data()

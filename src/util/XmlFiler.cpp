@@ -547,9 +547,10 @@ public:
             if (remembered.isNull())
                 remembered = theirs.documentElement();
         }
+        // The changes stay until a save commits: should this one fail, the
+        // next replays them all onto whatever the file holds by then.
         mDocument = theirs;
         mCurrentNode = current;
-        mChanges.clear();
         return true;
     }
 
@@ -601,7 +602,7 @@ public:
     }
 
     // The bytes of the document, provided they read back as the same
-    // document; `action` and `fileName` word the diagnostic otherwise.
+    // document; otherwise false, with a diagnostic naming the file.
     static bool SerializeVerified(const XmlFilerImp& imp, const QString& fileName, QByteArray* bytes)
     {
         // Writing recurses once per level: the depth is checked first.
