@@ -3,9 +3,14 @@
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Kavrel::UICore;
 
@@ -25,13 +30,15 @@ QString unit(const QString& id, const QString& target)
     return QStringLiteral("<trans-unit id=\"%1\"><source>%1</source><target>%2</target></trans-unit>").arg(id, target);
 }
 
-bool writeFile(const QString& path, const QString& text)
+bool writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(text.toUtf8());
-    return true;
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+bool writeFile(const QString& path, const QString& text)
+{
+    return writeFile(path, text.toUtf8());
 }
 
 void setLocale(const QString& locale)
@@ -50,8 +57,9 @@ private Q_SLOTS:
     void cleanup();
 
     void readsUnitsOfBothVersions();
-    void malformedFileLeavesTableEmpty();
     void renamingEmptiesTable();
+    void hostileFiles_data();
+    void hostileFiles();
     void fileFoundByNameAndLocale_data();
     void fileFoundByNameAndLocale();
     void cacheIsKeyedByLowerCaseNameAndFollowsLocale();
@@ -77,17 +85,16 @@ void tst_TranslationTable::readsUnitsOfBothVersions()
 {
     const QString path = mDir.filePath(QStringLiteral("units.xlf"));
     QVERIFY(writeFile(
-        path, xliff(unit(QStringLiteral("General"), QStringLiteral("Allgemein"))
-                    + QStringLiteral("<group id=\"g\">") + unit(QStringLiteral("Width"), QStringLiteral("Breite"))
-                    + QStringLiteral("</group>")
-                    + QStringLiteral("<trans-unit id=\"Untranslated\"><source>Untranslated</source></trans-unit>")
-                    + QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>")
-                    + QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
-                                     "<target>Fest</target></trans-unit>")
-                    + QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
-                                     "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>")
-                    + QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
-                                     "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
+        path, xliff(unit(QStringLiteral("General"), QStringLiteral("Allgemein")) + QStringLiteral("<group id=\"g\">") +
+                    unit(QStringLiteral("Width"), QStringLiteral("Breite")) + QStringLiteral("</group>") +
+                    QStringLiteral("<trans-unit id=\"Untranslated\"><source>Untranslated</source></trans-unit>") +
+                    QStringLiteral("<trans-unit id=\"Empty\"><source>Empty</source><target/></trans-unit>") +
+                    QStringLiteral("<trans-unit id=\"Fixed\" translate=\"no\"><source>Fixed</source>"
+                                   "<target>Fest</target></trans-unit>") +
+                    QStringLiteral("<trans-unit id=\"Height\"><source>Height</source><target>Höhe</target>"
+                                   "<alt-trans><target>Höhenmaß</target></alt-trans></trans-unit>") +
+                    QStringLiteral("<trans-unit id=\"u7\" resname=\"Zoom\"><source>Zoom</source>"
+                                   "<target>Ver<g id=\"1\">größerung</g></target></trans-unit>"))));
     TranslationTable table(QStringLiteral("units"));
     QVERIFY(table.LoadFile(path));
     QCOMPARE(table.GetText(QStringLiteral("General")), QStringLiteral("Allgemein"));
@@ -114,34 +121,91 @@ void tst_TranslationTable::readsUnitsOfBothVersions()
     QCOMPARE(table.GetText(QStringLiteral("Greeting")), QStringLiteral("Hallo. Tschüss."));
 }
 
-void tst_TranslationTable::malformedFileLeavesTableEmpty()
+void tst_TranslationTable::renamingEmptiesTable()
 {
-    const QString path = mDir.filePath(QStringLiteral("broken.xlf"));
-    QVERIFY(writeFile(path, QStringLiteral("<xliff><file><body><trans-unit id=\"a\"><target>x</target>")));
+    TranslationTable table(QStringLiteral("Pages"));
+    table.Insert(QStringLiteral("a"), QStringLiteral("b"));
+    table.SetName(QStringLiteral("Pages"));
+    QCOMPARE(table.GetCount(), 1);
+    // A name in other case is another name.
+    table.SetName(QStringLiteral("PAGES"));
+    QCOMPARE(table.GetCount(), 0);
+    QCOMPARE(table.GetName(), QStringLiteral("PAGES"));
+}
+
+void tst_TranslationTable::hostileFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("special");
+    QTest::addColumn<QString>("diagnostic");
+
+    QTest::newRow("malformed") << QByteArray("<xliff><file><body><trans-unit id=\"a\"><target>x</target>") << ""
+                               << "Failed to read file";
+    QTest::newRow("missing") << QByteArray() << "missing"
+                             << "";
+    const QByteArray deep = QByteArray("<g>").repeated(300) + QByteArray("</g>").repeated(300);
+    QTest::newRow("nesting beyond the limit") << xliff(QString::fromLatin1(deep)).toUtf8() << ""
+                                              << "deeper than 256 levels";
+    QTest::newRow("nesting inside a target")
+        << xliff(QStringLiteral("<trans-unit id=\"a\"><target>%1</target></trans-unit>").arg(QString::fromLatin1(deep)))
+               .toUtf8()
+        << ""
+        << "deeper than 256 levels";
+    QByteArray attributes = "<xliff";
+    for (int i = 0; i < 200000; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    QTest::newRow("200000 attributes") << attributes + "/>"
+                                       << ""
+                                       << "more than 256 attributes";
+    QTest::newRow("larger than the limit")
+        << xliff(QString()).toUtf8() + QByteArray(int(TranslationTable::kMaxFileSize), ' ') << ""
+        << "larger than";
+    QTest::newRow("entity expansion")
+        << QByteArray("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+                      "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
+                      "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;'>]><xliff><file><body><trans-unit id='a'>"
+                      "<target>&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;</target></trans-unit></body></file></xliff>")
+        << ""
+        << "Failed to read file";
+    QTest::newRow("folder") << QByteArray() << "folder"
+                            << "Not a regular file";
+#ifdef Q_OS_UNIX
+    QTest::newRow("pipe") << QByteArray() << "fifo"
+                          << "Not a regular file";
+    QTest::newRow("device") << QByteArray() << "device"
+                            << "Not a regular file";
+#endif
+}
+
+void tst_TranslationTable::hostileFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, special);
+    QFETCH(QString, diagnostic);
+
+    QTemporaryDir dir;
+    QString path = dir.filePath(QStringLiteral("hostile.xlf"));
+    if (special == QLatin1String("folder"))
+        QVERIFY(QDir().mkpath(path));
+    else if (special == QLatin1String("device"))
+        path = QStringLiteral("/dev/zero");
+#ifdef Q_OS_UNIX
+    else if (special == QLatin1String("fifo"))
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+#endif
+    else if (special.isEmpty())
+        QVERIFY(writeFile(path, content));
     QStringList messages;
     Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
     TranslationTable table;
     table.Insert(QStringLiteral("a"), QStringLiteral("old"));
     QVERIFY(!table.LoadFile(path));
     QCOMPARE(table.GetCount(), 0);
-    QCOMPARE(table.GetText(QStringLiteral("a")), QStringLiteral("a"));
-    QCOMPARE(messages.size(), 1);
-    QVERIFY(messages.first().contains(path));
-
-    messages.clear();
-    QVERIFY(!table.LoadFile(mDir.filePath(QStringLiteral("absent.xlf"))));
-    QVERIFY(messages.isEmpty());
-}
-
-void tst_TranslationTable::renamingEmptiesTable()
-{
-    TranslationTable table(QStringLiteral("Pages"));
-    table.Insert(QStringLiteral("a"), QStringLiteral("b"));
-    table.SetName(QStringLiteral("PAGES"));
-    QCOMPARE(table.GetCount(), 1);
-    QCOMPARE(table.GetName(), QStringLiteral("PAGES"));
-    table.SetName(QStringLiteral("Other"));
-    QCOMPARE(table.GetCount(), 0);
+    // A missing file is no error; every other failure is reported once.
+    QCOMPARE(messages.size(), diagnostic.isEmpty() ? 0 : 1);
+    if (!diagnostic.isEmpty())
+        QVERIFY2(messages.first().contains(path) && messages.first().contains(diagnostic),
+                 qPrintable(messages.first()));
 }
 
 void tst_TranslationTable::fileFoundByNameAndLocale_data()
@@ -152,12 +216,16 @@ void tst_TranslationTable::fileFoundByNameAndLocale_data()
 
     const QStringList all = {QStringLiteral("Find_de-DE.xlf"), QStringLiteral("Find_de.xlf"),
                              QStringLiteral("Find.xlf")};
-    QTest::newRow("full locale") << all << "de-DE" << "Find_de-DE.xlf";
-    QTest::newRow("language") << all << "de-AT" << "Find_de.xlf";
-    QTest::newRow("neutral") << all << "fr-FR" << "Find.xlf";
+    QTest::newRow("full locale") << all << "de-DE"
+                                 << "Find_de-DE.xlf";
+    QTest::newRow("language") << all << "de-AT"
+                              << "Find_de.xlf";
+    QTest::newRow("neutral") << all << "fr-FR"
+                             << "Find.xlf";
     QTest::newRow("underscore form") << QStringList{QStringLiteral("Find_pt_BR.xliff")} << "pt-BR"
                                      << "Find_pt_BR.xliff";
-    QTest::newRow("none") << QStringList{QStringLiteral("Other_de.xlf")} << "de-DE" << "";
+    QTest::newRow("none") << QStringList{QStringLiteral("Other_de.xlf")} << "de-DE"
+                          << "";
 }
 
 void tst_TranslationTable::fileFoundByNameAndLocale()

@@ -8,11 +8,20 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QScopeGuard>
+#include <QStringEncoder>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
 
 #include <limits>
+
+#include <cstdlib>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 using namespace Kavrel::UICore;
 
@@ -94,6 +103,57 @@ QString versionedDocument(int version)
 }
 
 const char* const kSaveChildVariable = "KVUICORE_XMLFILER_SAVE_CHILD";
+const char* const kUnprivilegedVariable = "KVUICORE_XMLFILER_UNPRIVILEGED";
+
+// The document as reading sees it: nodes in order, attributes sorted.
+QString canonical(const QDomNode& node)
+{
+    QString out;
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isProcessingInstruction() && child.nodeName() == QLatin1String("xml"))
+            continue;
+        out += QString::number(child.nodeType()) + child.nodeName() + QLatin1Char('|') + child.nodeValue();
+        QStringList attributes;
+        const QDomNamedNodeMap map = child.attributes();
+        for (int i = 0; i < map.count(); ++i)
+            attributes.append(map.item(i).nodeName() + QLatin1Char('=') + map.item(i).nodeValue());
+        attributes.sort();
+        out += attributes.join(QLatin1Char(' ')) + QLatin1Char('{') + canonical(child) + QLatin1Char('}');
+    }
+    return out;
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+QByteArray withAttributes(int count)
+{
+    QByteArray xml = "<Root";
+    for (int i = 0; i < count; ++i)
+        xml += " a" + QByteArray::number(i) + "=''";
+    return xml + "/>";
+}
+
+// Collects the diagnostics written while it lives.
+struct Diagnostics
+{
+    QStringList texts;
+    Diagnostics()
+    {
+        Internal::SetDiagnosticHook([this](const QString& text) { texts.append(text); });
+    }
+    ~Diagnostics() { Internal::SetDiagnosticHook({}); }
+    bool Contains(const QString& a, const QString& b) const
+    {
+        for (const QString& text : texts) {
+            if (text.contains(a) && text.contains(b))
+                return true;
+        }
+        return false;
+    }
+};
 
 } // namespace
 
@@ -127,6 +187,12 @@ private Q_SLOTS:
 
     void openOrCreateAndSave();
     void killedSaveNeverTruncatesFile();
+    void readOnlyFolderFailsInsteadOfWritingInPlace();
+    void hostileFiles_data();
+    void hostileFiles();
+    void saveRefusesWhatWouldNotReadBack_data();
+    void saveRefusesWhatWouldNotReadBack();
+    void twoFilersKeepEachOthersChanges();
 
 private:
     QTemporaryDir mDir;
@@ -144,35 +210,30 @@ void tst_XmlFiler::initTestCase()
         for (int i = 0;; ++i)
             (i % 2 ? second : first).Save(QString::fromLocal8Bit(target));
     }
+#ifdef Q_OS_UNIX
+    // Child mode of readOnlyFolderFailsInsteadOfWritingInPlace: save without
+    // root's rights; the exit code tells whether the save was refused.
+    const QString unprivileged = qEnvironmentVariable(kUnprivilegedVariable);
+    if (!unprivileged.isEmpty()) {
+        if (::setgid(65534) != 0 || ::setuid(65534) != 0)
+            std::exit(2);
+        XmlFiler filer;
+        const bool saved =
+            filer.OpenOrCreate(unprivileged) && filer.WriteInt(QStringLiteral("changed"), 1) && filer.Save();
+        std::exit(saved ? 1 : 0);
+    }
+#endif
     QVERIFY(mDir.isValid());
 }
 
 void tst_XmlFiler::openAndParseFailures()
 {
-    QStringList messages;
-    Internal::SetDiagnosticHook([&messages](const QString& text) { messages.append(text); });
-    const auto unhook = qScopeGuard([] { Internal::SetDiagnosticHook({}); });
+    Diagnostics diagnostics;
     XmlFiler filer;
     // A missing file fails silently.
     QVERIFY(!filer.Open(mDir.filePath(QStringLiteral("missing.xml"))));
     QVERIFY(filer.GetFileName().isEmpty());
-    QVERIFY(messages.isEmpty());
-
-    // A folder exists but can't be opened as a file: that is worth a message.
-    const QString folder = mDir.filePath(QStringLiteral("folder.xml"));
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(!filer.Open(folder));
-    QCOMPARE(messages.size(), 1);
-    QVERIFY2(messages.first().startsWith(QStringLiteral("XmlFiler: Failed to open file %1. ").arg(folder)),
-             qPrintable(messages.first()));
-    QVERIFY(messages.first().contains(QRegularExpression(QStringLiteral("\\(Error code: \\d+\\)$"))));
-
-    const QString malformed = mDir.filePath(QStringLiteral("malformed.xml"));
-    QVERIFY(writeFile(malformed, "<Root><Open></Root>"));
-    QVERIFY(!filer.Open(malformed));
-    QVERIFY(filer.ToString().isEmpty());
-    QVERIFY(!filer.GoToDocumentElement());
-
+    QVERIFY(diagnostics.texts.isEmpty());
     QVERIFY(!filer.Parse(QStringLiteral("not xml")));
     QVERIFY(filer.Parse(QString::fromLatin1(kNavigationDocument)));
     QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("root"));
@@ -185,22 +246,38 @@ void tst_XmlFiler::goToPath_data()
     QTest::addColumn<bool>("found");
     QTest::addColumn<QString>("expectedId");
 
-    QTest::newRow("empty path stays") << "/Root/A" << "" << true << "a";
-    QTest::newRow("blank path stays") << "/Root/A" << "   " << true << "a";
-    QTest::newRow("absolute root") << "/Root/A" << "/Root" << true << "root";
-    QTest::newRow("slash alone is the root") << "/Root/A" << "/" << true << "root";
-    QTest::newRow("absolute takes first of a name") << "" << "/Root/A/B" << true << "b1";
-    QTest::newRow("absolute with wrong root fails") << "/Root/A" << "/Other/X" << false << "a";
-    QTest::newRow("missing below first of a name fails") << "/Root/A" << "/Root/A/B/C" << false << "a";
-    QTest::newRow("backslashes") << "" << "\\Root\\Other" << true << "o";
-    QTest::newRow("relative") << "" << "A/B" << true << "b1";
-    QTest::newRow("empty components skipped") << "" << "A//B/" << true << "b1";
-    QTest::newRow("relative from cursor") << "/Root/A" << "B" << true << "b1";
-    QTest::newRow("relative missing fails") << "/Root/A" << "Other" << false << "a";
-    QTest::newRow("parent component") << "/Root/A" << "../Other" << true << "o";
-    QTest::newRow("dot component") << "/Root/A" << "./B" << true << "b1";
-    QTest::newRow("trimmed") << "" << "  A/B  " << true << "b1";
-    QTest::newRow("case matters") << "" << "a/b" << false << "root";
+    QTest::newRow("empty path stays") << "/Root/A"
+                                      << "" << true << "a";
+    QTest::newRow("blank path stays") << "/Root/A"
+                                      << "   " << true << "a";
+    QTest::newRow("absolute root") << "/Root/A"
+                                   << "/Root" << true << "root";
+    QTest::newRow("slash alone is the root") << "/Root/A"
+                                             << "/" << true << "root";
+    QTest::newRow("absolute takes first of a name") << ""
+                                                    << "/Root/A/B" << true << "b1";
+    QTest::newRow("absolute with wrong root fails") << "/Root/A"
+                                                    << "/Other/X" << false << "a";
+    QTest::newRow("missing below first of a name fails") << "/Root/A"
+                                                         << "/Root/A/B/C" << false << "a";
+    QTest::newRow("backslashes") << ""
+                                 << "\\Root\\Other" << true << "o";
+    QTest::newRow("relative") << ""
+                              << "A/B" << true << "b1";
+    QTest::newRow("empty components skipped") << ""
+                                              << "A//B/" << true << "b1";
+    QTest::newRow("relative from cursor") << "/Root/A"
+                                          << "B" << true << "b1";
+    QTest::newRow("relative missing fails") << "/Root/A"
+                                            << "Other" << false << "a";
+    QTest::newRow("parent component") << "/Root/A"
+                                      << "../Other" << true << "o";
+    QTest::newRow("dot component") << "/Root/A"
+                                   << "./B" << true << "b1";
+    QTest::newRow("trimmed") << ""
+                             << "  A/B  " << true << "b1";
+    QTest::newRow("case matters") << ""
+                                  << "a/b" << false << "root";
 }
 
 void tst_XmlFiler::goToPath()
@@ -645,17 +722,6 @@ void tst_XmlFiler::openOrCreateAndSave()
     QVERIFY(fromEmpty.OpenOrCreate(emptyPath));
     QCOMPARE(fromEmpty.GetElementName(), QStringLiteral("Root"));
     QCOMPARE(fromEmpty.GetFileName(), emptyPath);
-
-    // A malformed file is refused and never overwritten.
-    const QString brokenPath = mDir.filePath(QStringLiteral("broken-settings.xml"));
-    const QByteArray content = "<Root><Unclosed></Root>";
-    QVERIFY(writeFile(brokenPath, content));
-    XmlFiler broken;
-    QVERIFY(!broken.OpenOrCreate(brokenPath));
-    QVERIFY(broken.SaveIfModified());
-    QFile file(brokenPath);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
 }
 
 void tst_XmlFiler::killedSaveNeverTruncatesFile()
@@ -683,6 +749,243 @@ void tst_XmlFiler::killedSaveNeverTruncatesFile()
         QVERIFY(version == 1 || version == 2);
         QCOMPARE(filer.GetChildElementCount(), filer.ReadInt(QStringLiteral("count")));
     }
+}
+
+void tst_XmlFiler::readOnlyFolderFailsInsteadOfWritingInPlace()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("Folder permissions are tested on Unix only.");
+#else
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("readonly"));
+    QVERIFY(QDir().mkpath(folder));
+    const QString path = folder + QStringLiteral("/settings.xml");
+    const QByteArray original = "<Root keep=\"1\"/>";
+    QVERIFY(writeFile(path, original));
+    // The file may be written, the folder not: no temporary file beside it.
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0666), 0);
+    QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
+    QCOMPARE(::chmod(QFile::encodeName(dir.path()).constData(), 0755), 0);
+    const auto unlock = qScopeGuard([&] { ::chmod(QFile::encodeName(folder).constData(), 0755); });
+    if (::geteuid() == 0) {
+        // Root writes into any folder: the save runs in a child without its rights.
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(kUnprivilegedVariable), path);
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("openAndParseFailures")});
+        QVERIFY(child.waitForFinished(60000));
+        QCOMPARE(child.exitCode(), 0);
+    } else {
+        XmlFiler filer;
+        QVERIFY(filer.OpenOrCreate(path));
+        QVERIFY(filer.WriteInt(QStringLiteral("changed"), 1));
+        QVERIFY(!filer.Save());
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), original);
+#endif
+}
+
+void tst_XmlFiler::hostileFiles_data()
+{
+    // Each input is written to a file; "special" makes the path something
+    // that is no regular file instead.
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("special");
+    QTest::addColumn<bool>("opens");
+    QTest::addColumn<bool>("updatable");
+    QTest::addColumn<QString>("diagnostic");
+
+    QTest::newRow("malformed") << QByteArray("<Root><Open></Root>") << "" << false << false << "";
+    QTest::newRow("nesting at the limit") << nested(XmlFiler::kMaxDepth) << "" << true << true << "";
+    QTest::newRow("nesting one level beyond")
+        << nested(XmlFiler::kMaxDepth + 1) << "" << false << false << "deeper than 256 levels";
+    QTest::newRow("nesting 100000 levels") << nested(100000) << "" << false << false << "deeper than 256 levels";
+    QTest::newRow("attributes at the limit") << withAttributes(XmlFiler::kMaxAttributes) << "" << true << true << "";
+    QTest::newRow("attributes one beyond")
+        << withAttributes(XmlFiler::kMaxAttributes + 1) << "" << false << false << "more than 256 attributes";
+    QTest::newRow("200000 attributes") << withAttributes(200000) << "" << false << false << "more than 256 attributes";
+    QStringEncoder utf16(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom);
+    QTest::newRow("attributes beyond, in UTF-16") << QByteArray(utf16.encode(QString::fromLatin1(withAttributes(300))))
+                                                  << "" << false << false << "more than 256 attributes";
+    QTest::newRow("too many nodes") << "<R>" + QByteArray("<a/>").repeated(XmlFiler::kMaxNodes) + "</R>"
+                                    << "" << false << false << "more than 500000 nodes";
+    QTest::newRow("larger than the limit")
+        << "<Root/>" + QByteArray(int(XmlFiler::kMaxFileSize) - 6, ' ') << "" << false << false << "larger than";
+    QTest::newRow("entity expansion")
+        << QByteArray("<!DOCTYPE R [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+                      "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
+                      "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;'><!ENTITY f '&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;'>"
+                      "]><R>&f;&f;&f;&f;&f;&f;&f;&f;&f;&f;</R>")
+        << "" << false << false << "";
+    QTest::newRow("instruction whose target is no name")
+        << QByteArray("<?$?><Root/>") << "" << true << false << "would not be saved back";
+    QTest::newRow("instruction before text")
+        << QByteArray("<Root><?pi?>x</Root>") << "" << true << false << "would not be saved back";
+    QTest::newRow("comments and instructions")
+        << QByteArray("<?xml version=\"1.0\"?><!--c--><?style a?><Root><!-- in --><A/><?pi d?></Root><!--end-->") << ""
+        << true << true << "";
+    QTest::newRow("cdata and mixed content")
+        << QByteArray("<Root>a<![CDATA[ <b> ]]>c<B>d</B> tail <![CDATA[]]></Root>") << "" << true << true << "";
+    QTest::newRow("doctype") << QByteArray("<!DOCTYPE Root SYSTEM \"root.dtd\"><Root/>") << "" << true << true << "";
+    QTest::newRow("odd whitespace")
+        << QByteArray("<Root a=\"x&#10;&#9;y&#13;\" >\n\t <A> t&#13;ext </A>\r\n<B\n/></Root >\n\n") << "" << true
+        << true << "";
+    QTest::newRow("latin-1") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><Root a='\xe9'/>") << "" << true
+                             << true << "";
+    QTest::newRow("folder") << QByteArray() << "folder" << false << false << "Not a regular file";
+#ifdef Q_OS_UNIX
+    QTest::newRow("pipe") << QByteArray() << "fifo" << false << false << "Not a regular file";
+    QTest::newRow("device") << QByteArray() << "device" << false << false << "Not a regular file";
+#endif
+}
+
+void tst_XmlFiler::hostileFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, special);
+    QFETCH(bool, opens);
+    QFETCH(bool, updatable);
+    QFETCH(QString, diagnostic);
+
+    QTemporaryDir dir;
+    QString path = dir.filePath(QStringLiteral("hostile.xml"));
+    if (special == QLatin1String("folder"))
+        QVERIFY(QDir().mkpath(path));
+    else if (special == QLatin1String("device"))
+        path = QStringLiteral("/dev/zero");
+#ifdef Q_OS_UNIX
+    else if (special == QLatin1String("fifo"))
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+#endif
+    else
+        QVERIFY(writeFile(path, content));
+
+    Diagnostics diagnostics;
+    XmlFiler reader;
+    QCOMPARE(reader.Open(path), opens);
+    QCOMPARE(reader.GoToDocumentElement(), opens);
+    XmlFiler updater;
+    QCOMPARE(updater.OpenOrCreate(path), updatable);
+    if (!diagnostic.isEmpty())
+        QVERIFY2(diagnostics.Contains(path, diagnostic), qPrintable(diagnostics.texts.join(QLatin1Char('\n'))));
+    if (!special.isEmpty())
+        return;
+    if (!updatable) {
+        // Refused files are never written over.
+        QVERIFY(updater.SaveIfModified());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll() == content);
+        return;
+    }
+    // What opens saves, and reads back as it was.
+    QVERIFY(updater.CreateElement(QStringLiteral("Probe")));
+    const QString expected = canonical(updater.GetDocument());
+    QVERIFY(updater.Save());
+    XmlFiler reopened;
+    QVERIFY(reopened.Open(path));
+    QCOMPARE(canonical(reopened.GetDocument()), expected);
+}
+
+void tst_XmlFiler::saveRefusesWhatWouldNotReadBack_data()
+{
+    QTest::addColumn<int>("fault");
+    QTest::newRow("control character") << 0;
+    QTest::newRow("comment holding two dashes") << 1;
+    QTest::newRow("tag that is no name") << 2;
+    QTest::newRow("nesting beyond the limit") << 3;
+}
+
+void tst_XmlFiler::saveRefusesWhatWouldNotReadBack()
+{
+    QFETCH(int, fault);
+    const QString path = mDir.filePath(QStringLiteral("refused.xml"));
+    const QByteArray original = "<Root keep=\"1\"/>";
+    QVERIFY(writeFile(path, original));
+    XmlFiler filer;
+    QVERIFY(filer.OpenOrCreate(path));
+    QDomDocument document = filer.GetDocument();
+    switch (fault) {
+    case 0:
+        QVERIFY(filer.WriteString(QStringLiteral("v"), QString(QChar(1))));
+        break;
+    case 1:
+        document.documentElement().appendChild(document.createComment(QStringLiteral("a--b")));
+        break;
+    case 2:
+        document.documentElement().appendChild(document.createElement(QStringLiteral("Bad Name")));
+        break;
+    case 3:
+        QVERIFY(filer.CreatePath(QStringLiteral("A/").repeated(XmlFiler::kMaxDepth)));
+        QVERIFY(filer.ToString().isEmpty());
+        break;
+    }
+    Diagnostics diagnostics;
+    QVERIFY(!filer.Save());
+    QVERIFY(diagnostics.Contains(path, QStringLiteral("Failed to save")));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), original);
+}
+
+void tst_XmlFiler::twoFilersKeepEachOthersChanges()
+{
+    const QString path = mDir.filePath(QStringLiteral("shared.xml"));
+    QVERIFY(writeFile(path, "<Root><Recent><File name=\"old.txt\"/></Recent><Gone/></Root>"));
+    XmlFiler first;
+    XmlFiler second;
+    QVERIFY(first.OpenOrCreate(path));
+    QVERIFY(second.OpenOrCreate(path));
+
+    QVERIFY(first.CreatePath(QStringLiteral("Window")));
+    QVERIFY(first.WriteInt(QStringLiteral("x"), 1));
+    QVERIFY(first.GoToPath(QStringLiteral("/Root/Recent")));
+    QVERIFY(first.CreateElement(QStringLiteral("File")));
+    QVERIFY(first.WriteString(QStringLiteral("name"), QStringLiteral("first.txt")));
+    QVERIFY(first.GoToPath(QStringLiteral("/Root/Gone")));
+    QVERIFY(first.RemoveCurrentElement());
+
+    QVERIFY(second.CreatePath(QStringLiteral("Window")));
+    QVERIFY(second.WriteInt(QStringLiteral("y"), 2));
+    QVERIFY(second.GoToPath(QStringLiteral("/Root/Recent")));
+    QVERIFY(second.CreateElement(QStringLiteral("File")));
+    QVERIFY(second.WriteString(QStringLiteral("name"), QStringLiteral("second.txt")));
+    QVERIFY(second.InsertFragment(QStringLiteral("<Size value=\"3\"/>")));
+
+    QVERIFY(first.Save());
+    // A lock left behind by a process that is gone does not stop the save.
+    QVERIFY(writeFile(path + QStringLiteral(".lock"), "2147483646\nghost\n" + QSysInfo::machineHostName().toUtf8() +
+                                                          '\n' + QSysInfo::machineUniqueId() + '\n' +
+                                                          QSysInfo::bootUniqueId() + '\n'));
+    QVERIFY(second.Save());
+    QVERIFY(!QFile::exists(path + QStringLiteral(".lock")));
+    // The cursor followed its element into the merged document.
+    QCOMPARE(second.ReadString(QStringLiteral("name")), QStringLiteral("second.txt"));
+    QVERIFY(second.WriteBool(QStringLiteral("open"), true));
+    QVERIFY(second.Save());
+    QVERIFY(first.GoToPath(QStringLiteral("/Root/Window")));
+    QVERIFY(first.WriteInt(QStringLiteral("x"), 5));
+    QVERIFY(first.Save());
+
+    XmlFiler result;
+    QVERIFY(result.Open(path));
+    QVERIFY(result.GoToPath(QStringLiteral("Window")));
+    QCOMPARE(result.ReadInt(QStringLiteral("x")), 5);
+    QCOMPARE(result.ReadInt(QStringLiteral("y")), 2);
+    QVERIFY(!result.GoToPath(QStringLiteral("/Root/Gone")));
+    QVERIFY(result.GoToPath(QStringLiteral("/Root/Recent/File")));
+    QStringList names;
+    do {
+        names.append(result.ReadString(QStringLiteral("name")));
+    } while (result.GoToNextSibling(QStringLiteral("File")));
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("old.txt"), QStringLiteral("first.txt"), QStringLiteral("second.txt")}));
+    QVERIFY(result.ReadBool(QStringLiteral("open")));
+    QVERIFY(result.GoToFirstChild(QStringLiteral("Size")));
+    QCOMPARE(result.ReadInt(QStringLiteral("value")), 3);
 }
 
 QTEST_MAIN(tst_XmlFiler)

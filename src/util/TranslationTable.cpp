@@ -1,7 +1,9 @@
 #include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
+#include <KvUICore/util/XmlLimits_p.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,6 +11,7 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
+#include <limits>
 #include <map>
 
 namespace Kavrel::UICore {
@@ -132,10 +135,8 @@ QString TranslationTable::GetName() const
 
 void TranslationTable::SetName(const QString& name)
 {
-    if (name.compare(mpImp->msName, Qt::CaseInsensitive) == 0) {
-        mpImp->msName = name;
+    if (name == mpImp->msName)
         return;
-    }
     mpImp->msName = name;
     Clear();
 }
@@ -193,6 +194,21 @@ bool TranslationTable::Load()
 bool TranslationTable::LoadFile(const QString& fileName)
 {
     mpImp->mTexts.clear();
+    const QFileInfo info(fileName);
+    if (!info.exists())
+        return false;
+    // A pipe would block the reading and a device never end.
+    if (!info.isFile()) {
+        Internal::WriteDiagnostic(
+            QStringLiteral("TranslationTable: Failed to open file %1. Not a regular file").arg(fileName));
+        return false;
+    }
+    if (info.size() > kMaxFileSize) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+                                      .arg(fileName)
+                                      .arg(kMaxFileSize));
+        return false;
+    }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         if (file.exists())
@@ -200,9 +216,25 @@ bool TranslationTable::LoadFile(const QString& fileName)
                                           .arg(fileName, file.errorString(), QString::number(int(file.error()))));
         return false;
     }
+    // Read from memory, so a file that grew since it was looked at stops at the limit.
+    QByteArray bytes = file.read(kMaxFileSize + 1);
+    if (bytes.size() > kMaxFileSize) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+                                      .arg(fileName)
+                                      .arg(kMaxFileSize));
+        return false;
+    }
+    static constexpr Internal::XmlLimits limits{kMaxDepth, kMaxAttributes, std::numeric_limits<qint64>::max()};
+    const QString limit = Internal::XmlLimitReached(bytes, limits);
+    if (!limit.isEmpty()) {
+        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: %2.").arg(fileName, limit));
+        return false;
+    }
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
     QHash<QString, QString> texts;
     QString error;
-    if (!TranslationTableImp::ReadXliff(&file, &texts, &error)) {
+    if (!TranslationTableImp::ReadXliff(&buffer, &texts, &error)) {
         Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Failed to read file %1. %2").arg(fileName, error));
         return false;
     }

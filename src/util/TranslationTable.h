@@ -29,14 +29,26 @@ class TranslationTableImp;
 // segments joined.
 //
 // An id without a translation reads as the id itself.
+//
+// Limits: a translation file must be a regular file (no folder, pipe or
+// device) of at most kMaxFileSize bytes, with elements nested at most
+// kMaxDepth levels and at most kMaxAttributes attributes per element. A file
+// beyond a limit is refused as the reading reaches it, like a malformed one:
+// the table stays empty, the load returns false and a diagnostic names the
+// file and the limit.
 class KVUICORE_EXPORT TranslationTable
 {
 public:
+    static constexpr qint64 kMaxFileSize = 16 * 1024 * 1024;
+    static constexpr int kMaxDepth = 256;
+    static constexpr int kMaxAttributes = 256;
+
     explicit TranslationTable(const QString& name = QString());
     ~TranslationTable();
 
     QString GetName() const;
-    // A different name (compared without regard to case) empties the table.
+    // A different name empties the table; names that differ only in case
+    // are different names (the cache, not the table, ignores case).
     void SetName(const QString& name);
 
     // The translation of the id, or the id itself.

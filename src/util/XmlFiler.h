@@ -12,6 +12,7 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace Kavrel::UICore {
@@ -43,22 +44,53 @@ using XmlWordTable = QList<QPair<int, QString>>;
 // malformed values read as the default.
 //
 // Saving is atomic: the document goes to a temporary file that replaces the
-// target only once it is complete, so a failed save leaves the old file whole.
-// The document is written in the encoding its XML declaration names; when
-// that encoding is unknown or can't hold the text, it is written as UTF-8 and
-// the declaration is changed to say so, rather than losing characters.
+// target only once it is complete, so a failed save leaves the old file whole;
+// where no temporary file can be made (a read-only folder), the save fails
+// rather than writing the file in place. The document is written in the
+// encoding its XML declaration names; when that encoding is unknown or can't
+// hold the text, it is written as UTF-8 and the declaration is changed to say
+// so, rather than losing characters. A save writes only what reads back as
+// the same document: one that would not (a name that is no XML name, a
+// comment holding "--", nesting beyond the limit below, ...) is refused with
+// a diagnostic and the file is left as it was.
+//
+// Shared files: a save holds a lock file beside the target ("<file>.lock";
+// one left behind by a process that died is taken over). When the file was
+// changed by someone else since this filer read or last saved it, the
+// filer's own changes (its writes, created and removed elements, texts,
+// fragments) are replayed onto the file's new content instead of replacing
+// it, so neither writer's updates are lost. Elements are matched by their
+// path of names, an element by its position among siblings of the same name;
+// elements this filer created are matched as the ones it created. Changes
+// made directly through the DOM handles (GetDocument, GetCurrentElement) are
+// not replayed: use Update for those.
+//
+// Limits: everything the filer reads, files and text alike, is checked before
+// a document is built. A file must be a regular file (no folder, pipe or
+// device) of at most kMaxFileSize bytes; elements nest at most kMaxDepth
+// levels, carry at most kMaxAttributes attributes each, and a document holds
+// at most kMaxNodes nodes (attributes included). Beyond a limit the read
+// fails as for a malformed document, and a diagnostic names the file and the
+// limit. OpenOrCreate and Update, which read a file in order to write it
+// back, also refuse a file that the DOM can't write back as it was read.
 //
 // Not thread-safe; use it on one thread.
 class KVUICORE_EXPORT XmlFiler
 {
 public:
+    static constexpr qint64 kMaxFileSize = 8 * 1024 * 1024;
+    static constexpr int kMaxDepth = 256;
+    static constexpr int kMaxAttributes = 256;
+    static constexpr int kMaxNodes = 500000;
+
     XmlFiler();
     ~XmlFiler();
 
     // ---- File and document ------------------------------------------------
 
     // Opens and parses an existing file; false when it does not exist, can't
-    // be read or isn't well-formed XML (the document is then empty). On
+    // be read, is beyond a limit or isn't well-formed XML (the document is
+    // then empty). On
     // success the cursor is the document element and the name is remembered.
     bool Open(const QString& fileName);
     // Parses XML text; on success the cursor is the document element and the
@@ -67,10 +99,12 @@ public:
     // Opens the file, or starts a new document for it when it doesn't exist
     // or is empty. A document without a document element gets a "Root"
     // element and an XML declaration. A file that exists but isn't
-    // well-formed is left alone and false is returned.
+    // well-formed, is beyond a limit or wouldn't save back as it was read is
+    // left alone and false is returned.
     bool OpenOrCreate(const QString& fileName);
     // Writes the document with an indentation of 4; false for a document
-    // without a document element or when the file can't be written.
+    // without a document element, one that wouldn't read back the same, or
+    // when the file can't be written or locked.
     bool Save(const QString& fileName);
     // Writes to the remembered file name.
     bool Save();
@@ -78,7 +112,16 @@ public:
     // Returns true when nothing needed saving or the save succeeded; a failed
     // save keeps the document marked as modified.
     bool SaveIfModified();
-    // The document with an indentation of 1; empty without a document element.
+    // Read-modify-write of a file that other processes may write too: under
+    // the file's lock, reads it afresh (a missing or empty file gives a new
+    // document with a "Root" element), calls `change` with the cursor on the
+    // document element, and saves when it returns true. False, with the file
+    // untouched, when the lock can't be had, the file can't be read (also
+    // when it exists but isn't well-formed), `change` returns false or the
+    // save fails. `change` may edit the DOM directly; it must not save.
+    bool Update(const QString& fileName, const std::function<bool(XmlFiler&)>& change);
+    // The document with an indentation of 1; empty without a document element
+    // or when it is nested deeper than kMaxDepth.
     QString ToString() const;
 
     QString GetFileName() const;
@@ -186,6 +229,8 @@ public:
     bool WriteFlags(const QString& name, const XmlWordTable& table, int value);
 
     // Replaces the element's text content with a text node or CDATA sections.
+    // Text of blanks only is kept as CDATA: a text node of blanks alone would
+    // not survive reading the file again.
     bool WriteElementText(const QString& text, bool asCData = false);
     bool WriteBinary(const QByteArray& data);
 

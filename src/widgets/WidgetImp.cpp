@@ -1,12 +1,10 @@
+#include <KvUICore/util/XmlFiler.h>
 #include <KvUICore/widgets/WidgetImp.h>
 #include <KvUICore/widgets/WinWidgetImp.h>
 
 #include <QDomDocument>
 #include <QDomNamedNodeMap>
-#include <QFile>
 #include <QHBoxLayout>
-#include <QSaveFile>
-#include <QTextStream>
 
 #include <cmath>
 
@@ -28,15 +26,13 @@ WidgetImp::WidgetImp(HWND parentWindow)
         mpHostWidget = this;
     } else if (QWidget* owner = QWidget::find(Kavrel::UICore::Platform::WIdFromHandle(parentWindow))) {
         mpHostWidget = this;
-        if (owner->layout()) {
-            // The owner's own layout is kept, and a widget has room for one
-            // layout only: the widget becomes a plain child the host places.
-            setParent(owner);
-        } else {
-            QHBoxLayout* layout = newFillLayout();
-            layout->addWidget(this);
-            owner->setLayout(layout);
-        }
+        QHBoxLayout* layout = newFillLayout();
+        layout->addWidget(this);
+        // A widget takes no second layout: the new one would be left without
+        // an owner and this widget without a place. The owner's layout has to
+        // go for it; the widgets it managed stay children of the owner.
+        delete owner->layout();
+        owner->setLayout(layout);
     } else {
         auto* wrapper = new WinWidgetImp(parentWindow);
         wrapper->setWindowTitle(QStringLiteral("WinWidget"));
@@ -195,22 +191,16 @@ void WidgetImp::ShowBorder(bool show)
 
 // ---- Subclass hooks ----------------------------------------------------------
 
-void WidgetImp::LoadState(QDomElement&)
-{
-}
+void WidgetImp::LoadState(QDomElement&) {}
 
-void WidgetImp::SaveState(QDomElement&) const
-{
-}
+void WidgetImp::SaveState(QDomElement&) const {}
 
 QString WidgetImp::StateNodeId() const
 {
     return QString();
 }
 
-void WidgetImp::BorderVisibleChanged()
-{
-}
+void WidgetImp::BorderVisibleChanged() {}
 
 // ---- Attribute helpers -------------------------------------------------------
 
@@ -299,64 +289,34 @@ void WidgetImp::RemoveAllChildNodes(QDomNode node)
 
 bool WidgetImp::LoadState(const QString& filePath, const QString& nodePath)
 {
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly))
+    // A file that can't be read, or isn't XML, holds no element at any path.
+    Kavrel::UICore::XmlFiler filer;
+    if (!filer.Open(filePath))
         return false;
-    QDomDocument document;
-    // A broken file reads as an empty document, not as the part before the error.
-    if (!document.setContent(&file))
-        document.clear();
-    QDomElement element = GetElement(document.documentElement(), nodePath);
+    QDomElement element = GetElement(filer.GetCurrentElement(), nodePath);
     if (element.isNull())
         return false;
     LoadState(element);
-    file.close();
     return true;
 }
 
 bool WidgetImp::SaveState(const QString& filePath, const QString& nodePath) const
 {
-    QDomDocument document;
-    {
-        // A missing or broken file counts as empty.
-        QFile file(filePath);
-        if (file.open(QIODevice::ReadOnly) && !document.setContent(&file))
-            document.clear();
-    }
-    QDomElement element;
-    QDomElement root = document.documentElement();
-    if (root.isNull()) {
-        root = document.createElement(QStringLiteral("Root"));
-        document.appendChild(root);
-        element = CreateElementIfNotExists(root, nodePath);
-    } else {
-        element = CreateElementIfNotExists(root, nodePath);
-        if (!element.isNull()) {
-            // Nothing of an earlier write may mix with the new state.
-            RemoveAllAttributes(element);
-            RemoveAllChildNodes(element);
-        }
-    }
-    if (element.isNull())
+    if (nodePath.split(QLatin1Char('/'), Qt::SkipEmptyParts).isEmpty())
         return false;
-    SaveState(element);
-
-    // Written beside the old file and swapped in at the end, so a crash or a
-    // full disk never costs the states of the other widgets.
-    QSaveFile file(filePath);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return false;
-    {
-        QTextStream stream(&file);
-        document.save(stream, 4, QDomNode::EncodingFromTextStream);
-        stream.flush();
-        if (stream.status() != QTextStream::Ok) {
-            file.cancelWriting();
+    // The filer reads the file afresh under its lock, so the states other
+    // widgets or processes saved meanwhile are kept.
+    Kavrel::UICore::XmlFiler filer;
+    return filer.Update(filePath, [&](Kavrel::UICore::XmlFiler& file) {
+        QDomElement element = CreateElementIfNotExists(file.GetCurrentElement(), nodePath);
+        if (element.isNull())
             return false;
-        }
-    }
-    return file.commit();
+        // Nothing of an earlier write may mix with the new state.
+        RemoveAllAttributes(element);
+        RemoveAllChildNodes(element);
+        SaveState(element);
+        return true;
+    });
 }
 
 QString WidgetImp::SaveState()
@@ -373,12 +333,10 @@ QString WidgetImp::SaveState()
 
 bool WidgetImp::LoadState(const QString& xml)
 {
-    QDomDocument document;
-    QString errorMessage;
-    document.setContent(xml, &errorMessage);
-    if (!errorMessage.isEmpty())
+    Kavrel::UICore::XmlFiler filer;
+    if (!filer.Parse(xml))
         return false;
-    QDomElement element = document.documentElement();
+    QDomElement element = filer.GetCurrentElement();
     LoadState(element);
     return true;
 }

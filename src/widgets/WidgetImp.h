@@ -25,7 +25,11 @@ class KVUICORE_EXPORT WidgetImp : public QWidget
 
 public:
     // Inside a native window; a null handle gives a top-level widget, the
-    // handle of a Qt widget of this process fills that widget.
+    // handle of a Qt widget of this process fills that widget through a
+    // margin-less layout. A Qt widget holds one layout only, so a layout the
+    // widget had is deleted to make room (its widgets stay its children);
+    // keeping it would leave the new layout uninstalled and this widget
+    // floating unplaced.
     explicit WidgetImp(HWND parentWindow);
     // Fills `parent` through a margin-less layout that replaces its old one.
     explicit WidgetImp(QWidget* parent = nullptr);
@@ -57,6 +61,14 @@ public:
     // True when the widget sits in a native window through a wrapper.
     bool IsParentWindowsNativeWindow();
 
+    // State files are read and written through XmlFiler and share its limits
+    // (a regular file of at most XmlFiler::kMaxFileSize bytes, elements
+    // nested at most XmlFiler::kMaxDepth levels, at most
+    // XmlFiler::kMaxAttributes attributes per element and XmlFiler::kMaxNodes
+    // nodes); a file beyond them reads as one without the element, and a
+    // diagnostic names the file and the limit. The string form has the same
+    // limits.
+
     // Reads the element at `nodePath` of a state file.
     bool LoadState(const QString& filePath, const QString& nodePath);
     // Reads the string form written by SaveState().
@@ -64,7 +76,14 @@ public:
     // The string form, or a null string when StateNodeId() is empty.
     QString SaveState();
     // Replaces the element at `nodePath` of a state file; the rest of the file
-    // is kept. The file is replaced as a whole, never left half written.
+    // is kept. The file is replaced as a whole, never left half written, and
+    // never written in place. The save holds the file's lock and reads the
+    // file afresh under it, so processes saving into one file keep each
+    // other's states. A missing or empty file is created with a "Root"
+    // element; a file that exists but can't be read, isn't XML or is beyond a
+    // limit is not replaced: false, and the file keeps the states it holds.
+    // So is a state that would not read back as written (a tag that is no
+    // XML name, for one).
     bool SaveState(const QString& filePath, const QString& nodePath) const;
 
 public Q_SLOTS:
