@@ -15,9 +15,7 @@ class ButtonElementImp : public PropertyEditorElementImp
 public:
     ButtonElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {
