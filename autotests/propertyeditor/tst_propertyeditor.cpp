@@ -20,6 +20,7 @@
 #include <QDomElement>
 #include <QGridLayout>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -91,7 +92,7 @@ public:
 
     QString msRequired;
 
-protected:
+    // Open to the tests.
     bool Load(const QDomElement& element) override
     {
         if (!PropertyEditorElement::Load(element))
@@ -99,13 +100,6 @@ protected:
         msRequired = element.attribute(QStringLiteral("Required"));
         return !msRequired.isEmpty();
     }
-};
-
-// The protected node load, opened for the tests.
-class OpenStrictElement : public StrictElement
-{
-public:
-    using StrictElement::Load;
 };
 
 class HostPanel : public PropertyEditorElement
@@ -414,7 +408,7 @@ void tst_PropertyEditor::nodesLoadInPlace()
     QVERIFY(document.setContent(QStringLiteral("<Doc><StrictElement Id=\"s\" Required=\"yes\" Label=\"L\"/>"
                                                "<HostPanel>%1</HostPanel></Doc>")
                                     .arg(nested)));
-    OpenStrictElement strict;
+    StrictElement strict;
     QVERIFY(strict.Load(document.documentElement().firstChildElement()));
     QCOMPARE(strict.GetId(), QStringLiteral("s"));
     QCOMPARE(strict.GetLabel(), QStringLiteral("L"));
@@ -434,13 +428,8 @@ void tst_PropertyEditor::malformedXmlFailsSilently()
 {
     PropertyEditor editor;
     QVERIFY(!editor.LoadUI(QStringLiteral("<Editor><PageElement></Editor>")));
-    QVERIFY(!editor.LoadUI(QString()));
-    QVERIFY(!editor.LoadUI(QStringLiteral("not xml at all")));
-    QVERIFY(mMessages.isEmpty());
     // No message box came up.
     QCOMPARE(QApplication::topLevelWidgets(), QWidgetList{&editor});
-    QCOMPARE(editor.GetPage()->GetChildCount(), 0);
-
     QVERIFY(!editor.LoadUI(QStringLiteral("<Editor LabelColumnWidth=\"80\"><Page/></Editor>")));
     // The widths before the missing page were read all the same.
     QCOMPARE(editor.GetColumnWidth(0), 80);
@@ -494,6 +483,9 @@ void tst_PropertyEditor::hostileDefinitions_data()
         row("200000 attributes") << source << head + attributes(200000) + tail << false << "more than 1024 attributes";
         row("entity expansion") << source << laughs << false << "";
         row("external entity") << source << external << false << "";
+        row("unclosed element") << source << QByteArray("<Editor><PageElement></Editor>") << false << "";
+        row("empty") << source << QByteArray() << false << "";
+        row("not xml") << source << QByteArray("not xml at all") << false << "";
     }
     QTest::newRow("oversized file") << int(SparseFile) << QByteArray() << false << "larger than 16777216 bytes";
     QTest::newRow("pipe") << int(Pipe) << QByteArray() << false << "is not a regular file";
@@ -545,10 +537,13 @@ void tst_PropertyEditor::hostileDefinitions()
         QVERIFY(element->GetLabel().size() < 1000);
         QVERIFY(!element->GetLabel().contains(QStringLiteral("SECRET")));
     }
-    const QStringList matching = mMessages.filter(message.isEmpty() ? QStringLiteral("\x01") : message);
     if (message.isEmpty()) {
-        QVERIFY2(matching.isEmpty(), qPrintable(matching.join(QString())));
+        // Malformed XML fails silently, and nothing else is wrong.
+        const QStringList trouble =
+            mMessages.filter(QRegularExpression(QStringLiteral("^(Property editor|Binding error|XmlFiler)")));
+        QVERIFY2(trouble.isEmpty(), qPrintable(trouble.join(QString())));
     } else {
+        const QStringList matching = mMessages.filter(message);
         QVERIFY2(!matching.isEmpty(), qPrintable(mMessages.join(QString())));
         if (source != Text && !message.startsWith(QLatin1String("Binding")))
             QVERIFY(matching.first().contains(fileName));
@@ -586,8 +581,9 @@ void tst_PropertyEditor::editorDeletedFromHandlers()
     QVERIFY(connect(sender, signal.constData(), &deleter, SLOT(DeleteEditor())));
     if (byEdit) {
         auto* box = qobject_cast<QCheckBox*>(element->GetWidget());
-        const QSignalBlocker blocker(box);
+        box->blockSignals(true);
         box->setChecked(true);
+        box->blockSignals(false);
         QVERIFY(QMetaObject::invokeMethod(element, "TargetCheckStateChanged", Q_ARG(int, Qt::Checked)));
     } else {
         Find<CheckBoxElement>(*editor, "source")->SetCheck(true);

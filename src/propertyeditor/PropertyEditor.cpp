@@ -313,7 +313,9 @@ bool PropertyEditor::LoadUI(const QString& uiDefinition, const QString& translat
     const QString source = QStringLiteral("the UI definition");
     QString refusal;
     if (uiDefinition.size() > kMaxDefinitionFileSize)
-        refusal = QStringLiteral("Property editor: %1 is larger than %2 characters\n").arg(source).arg(kMaxDefinitionFileSize);
+        refusal = QStringLiteral("Property editor: %1 is larger than %2 characters\n")
+                      .arg(source)
+                      .arg(kMaxDefinitionFileSize);
     else
         refusal = Internal::CheckDefinitionMarkup(uiDefinition, source);
     if (!refusal.isEmpty()) {
