@@ -515,7 +515,7 @@ void tst_Elements::settersWithoutEditor()
     CheckBoxElement check;
     check.SetCheck(true);
     QVERIFY(check.IsChecked());
-    QCOMPARE(check.GetBinding(QStringLiteral("IsChecked"))->GetValueType(), QMetaType::Bool);
+    QCOMPARE(check.GetBinding(QStringLiteral("IsChecked"))->GetValueMetaType(), QMetaType::Bool);
 
     ComboBoxElement combo;
     combo.SetItems(QList<QString>{QStringLiteral("a"), QStringLiteral("b")});

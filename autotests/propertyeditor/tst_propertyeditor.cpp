@@ -15,12 +15,20 @@
 #include <KvUICore/widgets/RolloutContainer.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QDir>
 #include <QDomElement>
 #include <QGridLayout>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Kavrel::UICore;
 
@@ -84,7 +92,7 @@ public:
 
     QString msRequired;
 
-protected:
+    // Open to the tests.
     bool Load(const QDomElement& element) override
     {
         if (!PropertyEditorElement::Load(element))
@@ -92,6 +100,41 @@ protected:
         msRequired = element.attribute(QStringLiteral("Required"));
         return !msRequired.isEmpty();
     }
+};
+
+class HostPanel : public PropertyEditorElement
+{
+public:
+    HostPanel()
+        : PropertyEditorElement(Container)
+    {}
+    using PropertyEditorElement::Load;
+};
+
+enum DefinitionSource
+{
+    Text,
+    File,
+    SparseFile,
+    Pipe,
+    Folder,
+};
+
+// Deletes the editor from whatever signal it is connected to.
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Deleter(QPointer<PropertyEditor> editor)
+        : mpEditor(editor)
+    {}
+
+public Q_SLOTS:
+    void DeleteEditor() { delete mpEditor.data(); }
+
+private:
+    QPointer<PropertyEditor> mpEditor;
 };
 
 } // namespace
@@ -115,7 +158,12 @@ private Q_SLOTS:
     void commonAttributesBecomeBindings();
     void loadedChildren_data();
     void loadedChildren();
+    void nodesLoadInPlace();
     void malformedXmlFailsSilently();
+    void hostileDefinitions_data();
+    void hostileDefinitions();
+    void editorDeletedFromHandlers_data();
+    void editorDeletedFromHandlers();
     void translatedTexts();
 
     void gridPlacement_data();
@@ -296,7 +344,7 @@ void tst_PropertyEditor::commonAttributesBecomeBindings()
     QVERIFY(!check->IsEnabled());
     QVERIFY(check->IsVisible());
     QVERIFY(check->GetBinding(QStringLiteral("IsEnabled")));
-    QCOMPARE(check->GetBinding(QStringLiteral("IsVisible"))->GetValueType(), QMetaType::Bool);
+    QCOMPARE(check->GetBinding(QStringLiteral("IsVisible"))->GetValueMetaType(), QMetaType::Bool);
     QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetExpression(), QStringLiteral("Binding(Hint)"));
     QCOMPARE(check->GetBinding(QStringLiteral("Tooltip"))->GetContext(), editor.GetContext());
 
@@ -320,12 +368,10 @@ void tst_PropertyEditor::loadedChildren_data()
     QTest::newRow("unknown, list and page tags are skipped")
         << "<ListElement Id=\"list\"/><Spinner Id=\"s\"/><TextBoxElement Id=\"t\"/><PageElement Id=\"p\"/>" << true
         << "TextBoxElement:t:";
-    // What loaded before the failure stays.
-    QTest::newRow("failing child stops the load")
-        << "<LabelElement Id=\"before\"/><StrictElement Id=\"strict\"/><LabelElement Id=\"after\"/>" << false
-        << "LabelElement:before: StrictElement:strict:";
-    QTest::newRow("foreign element reads its own attribute")
-        << "<StrictElement Id=\"strict\" Required=\"yes\" Label=\"S\"/>" << true << "StrictElement:strict:S";
+    // Without a namespace a host's kind takes the common load, not its own.
+    QTest::newRow("host kind without namespace")
+        << "<StrictElement Id=\"strict\" Label=\"S\"/><LabelElement Id=\"after\"/>" << true
+        << "StrictElement:strict:S LabelElement:after:";
 }
 
 void tst_PropertyEditor::loadedChildren()
@@ -348,23 +394,201 @@ void tst_PropertyEditor::loadedChildren()
     }
     QCOMPARE(actual.join(QLatin1Char(' ')), shape);
     QVERIFY(!editor.FindElement(QStringLiteral("list")));
-    QVERIFY(!editor.FindElement(QStringLiteral("after")));
+    if (auto* strict = Find<StrictElement>(editor, "strict"))
+        QVERIFY(strict->msRequired.isEmpty());
+}
+
+void tst_PropertyEditor::nodesLoadInPlace()
+{
+    // The node of any document loads straight from it, with the nesting limit.
+    QDomDocument document;
+    QString nested;
+    for (int i = 0; i < PropertyEditor::kMaxDefinitionDepth + 10; ++i)
+        nested = QStringLiteral("<PanelElement Id=\"p%1\">%2</PanelElement>").arg(i).arg(nested);
+    QVERIFY(document.setContent(QStringLiteral("<Doc><StrictElement Id=\"s\" Required=\"yes\" Label=\"L\"/>"
+                                               "<HostPanel>%1</HostPanel></Doc>")
+                                    .arg(nested)));
+    StrictElement strict;
+    QVERIFY(strict.Load(document.documentElement().firstChildElement()));
+    QCOMPARE(strict.GetId(), QStringLiteral("s"));
+    QCOMPARE(strict.GetLabel(), QStringLiteral("L"));
+    QCOMPARE(strict.msRequired, QStringLiteral("yes"));
+
+    HostPanel host;
+    QVERIFY(!host.Load(document.documentElement().lastChildElement()));
+    QCOMPARE(mMessages.filter(QStringLiteral("deeper than 256 levels")).size(), 1);
+    // What loaded before the failure stays.
+    int depth = 0;
+    for (PropertyEditorElement* element = &host; element->GetChildCount() == 1; element = element->GetChild(0))
+        ++depth;
+    QCOMPARE(depth, PropertyEditor::kMaxDefinitionDepth);
 }
 
 void tst_PropertyEditor::malformedXmlFailsSilently()
 {
     PropertyEditor editor;
     QVERIFY(!editor.LoadUI(QStringLiteral("<Editor><PageElement></Editor>")));
-    QVERIFY(!editor.LoadUI(QString()));
-    QVERIFY(!editor.LoadUI(QStringLiteral("not xml at all")));
-    QVERIFY(mMessages.isEmpty());
     // No message box came up.
     QCOMPARE(QApplication::topLevelWidgets(), QWidgetList{&editor});
-    QCOMPARE(editor.GetPage()->GetChildCount(), 0);
-
     QVERIFY(!editor.LoadUI(QStringLiteral("<Editor LabelColumnWidth=\"80\"><Page/></Editor>")));
     // The widths before the missing page were read all the same.
     QCOMPARE(editor.GetColumnWidth(0), 80);
+}
+
+void tst_PropertyEditor::hostileDefinitions_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("loads");
+    // A text that one diagnostic contains; empty when none may mention trouble.
+    QTest::addColumn<QString>("message");
+
+    const QByteArray head = "<E><PageElement><GroupElement Id=\"g\">";
+    const QByteArray tail = "</GroupElement></PageElement></E>";
+    const QByteArray loop = head +
+                            "<CheckBoxElement Id=\"a\" IsEnabled=\"Binding(b.IsChecked)\"/>"
+                            "<CheckBoxElement Id=\"b\" IsVisible=\"Binding(a.IsChecked)\"/>" +
+                            tail;
+    const QByteArray self = head + "<CheckBoxElement Id=\"a\" IsEnabled=\"Binding(a.IsChecked)\"/>" + tail;
+    const auto attributes = [](int count) {
+        QByteArray text = "<LabelElement Id=\"a\"";
+        for (int i = 0; i < count; ++i)
+            text += " x" + QByteArray::number(i) + "=\"1\"";
+        return text + "/>";
+    };
+    const QByteArray deepUnknown = QByteArray("<x>").repeated(5000) + QByteArray("</x>").repeated(5000);
+    const int tooDeep = PropertyEditor::kMaxDefinitionDepth;
+    const QByteArray deepPanels =
+        QByteArray("<PanelElement>").repeated(tooDeep) + QByteArray("</PanelElement>").repeated(tooDeep);
+    const QByteArray laughs = "<!DOCTYPE E [<!ENTITY a \"aaaaaaaaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">"
+                              "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">"
+                              "<!ENTITY e \"&d;&d;&d;&d;&d;&d;&d;&d;\"><!ENTITY f \"&e;&e;&e;&e;&e;&e;&e;&e;\">]>" +
+                              head + "<LabelElement Id=\"a\" Label=\"&f;\"/>" + tail;
+    // SECRET is replaced by the URL of a file the test writes.
+    const QByteArray external =
+        "<!DOCTYPE E [<!ENTITY x SYSTEM \"SECRET\">]>" + head + "<LabelElement Id=\"a\" Label=\"[&x;]\"/>" + tail;
+
+    for (const int source : {Text, File}) {
+        const char* via = source == Text ? "text: " : "file: ";
+        const auto row = [via](const char* name) -> QTestData& {
+            return QTest::newRow(qPrintable(QString::fromLatin1(via) + QString::fromLatin1(name)));
+        };
+        row("binding loop") << source << loop << true << "Binding loop";
+        row("element bound to itself") << source << self << true << "Binding loop";
+        row("deep unknown nesting") << source << head + deepUnknown + tail << false << "deeper than 256 levels";
+        row("deep panels") << source << head + deepPanels + tail << false << "deeper than 256 levels";
+        row("attributes at the limit") << source
+                                       << head + attributes(PropertyEditor::kMaxAttributesPerElement - 1) + tail << true
+                                       << "";
+        row("200000 attributes") << source << head + attributes(200000) + tail << false << "more than 1024 attributes";
+        row("entity expansion") << source << laughs << false << "";
+        row("external entity") << source << external << false << "";
+        row("unclosed element") << source << QByteArray("<Editor><PageElement></Editor>") << false << "";
+        row("empty") << source << QByteArray() << false << "";
+        row("not xml") << source << QByteArray("not xml at all") << false << "";
+    }
+    QTest::newRow("oversized file") << int(SparseFile) << QByteArray() << false << "larger than 16777216 bytes";
+    QTest::newRow("pipe") << int(Pipe) << QByteArray() << false << "is not a regular file";
+    QTest::newRow("folder") << int(Folder) << QByteArray() << false << "is not a regular file";
+}
+
+void tst_PropertyEditor::hostileDefinitions()
+{
+    QFETCH(int, source);
+    QFETCH(QByteArray, content);
+    QFETCH(bool, loads);
+    QFETCH(QString, message);
+
+    QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("hostile.xml"));
+    const QString secret = WriteFile(folder, "secret.txt", "SECRET TEXT");
+    content.replace("SECRET", QUrl::fromLocalFile(secret).toEncoded());
+    if (source == File) {
+        QVERIFY(!WriteFile(folder, "hostile.xml", content).isEmpty());
+    } else if (source == SparseFile) {
+        QFile file(fileName);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(PropertyEditor::kMaxDefinitionFileSize + 1));
+    } else if (source == Pipe) {
+#ifdef Q_OS_UNIX
+        QCOMPARE(::mkfifo(QFile::encodeName(fileName).constData(), 0600), 0);
+#else
+        QSKIP("Named pipes are made this way on Unix only");
+#endif
+    } else if (source == Folder) {
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("hostile.xml")));
+    }
+
+    PropertyEditor editor;
+    editor.resize(400, 400);
+    const bool loaded =
+        source == Text ? editor.LoadUI(QString::fromUtf8(content)) : editor.LoadUIFile(fileName, QString(), QString());
+    QCOMPARE(loaded, loads);
+    if (auto* a = Find<CheckBoxElement>(editor, "a")) {
+        // The loop goes round once on every change, and settles.
+        Build(editor);
+        auto* b = Find<CheckBoxElement>(editor, "b");
+        for (int i = 0; i < 2; ++i) {
+            a->SetCheck(!a->IsChecked());
+            QCOMPARE(a->IsEnabled(), (b ? b : a)->IsChecked());
+        }
+    }
+    if (auto* element = Find(editor, "a")) {
+        QVERIFY(element->GetLabel().size() < 1000);
+        QVERIFY(!element->GetLabel().contains(QStringLiteral("SECRET")));
+    }
+    if (message.isEmpty()) {
+        // Malformed XML fails silently, and nothing else is wrong.
+        const QStringList trouble =
+            mMessages.filter(QRegularExpression(QStringLiteral("^(Property editor|Binding error|XmlFiler)")));
+        QVERIFY2(trouble.isEmpty(), qPrintable(trouble.join(QString())));
+    } else {
+        const QStringList matching = mMessages.filter(message);
+        QVERIFY2(!matching.isEmpty(), qPrintable(mMessages.join(QString())));
+        if (source != Text && !message.startsWith(QLatin1String("Binding")))
+            QVERIFY(matching.first().contains(fileName));
+    }
+    if (!loads)
+        QCOMPARE(editor.GetPage()->GetChildCount(), 0);
+}
+
+void tst_PropertyEditor::editorDeletedFromHandlers_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("byEdit");
+
+    QTest::newRow("BindingModified, source change") << QByteArray(SIGNAL(BindingModified())) << false;
+    QTest::newRow("AttributeChanged, source change") << QByteArray(SIGNAL(AttributeChanged(QString))) << false;
+    QTest::newRow("AttributesChanged, source change") << QByteArray(SIGNAL(AttributesChanged())) << false;
+    QTest::newRow("AttributeChanged, edit") << QByteArray(SIGNAL(AttributeChanged(QString))) << true;
+    QTest::newRow("ValueChanged, edit") << QByteArray(SIGNAL(ValueChanged())) << true;
+    QTest::newRow("PropertyModified, edit")
+        << QByteArray(SIGNAL(PropertyModified(PropertyEditorElement*, QString))) << true;
+}
+
+void tst_PropertyEditor::editorDeletedFromHandlers()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(bool, byEdit);
+
+    QPointer<PropertyEditor> editor = new PropertyEditor();
+    QVERIFY(editor->LoadUI(GroupDocument(QStringLiteral(
+        "<CheckBoxElement Id=\"source\"/><CheckBoxElement Id=\"c\" IsChecked=\"Binding(source.IsChecked)\"/>"))));
+    Build(*editor);
+    auto* element = Find<CheckBoxElement>(*editor, "c");
+    QObject* sender = signal.contains("PropertyModified") ? static_cast<QObject*>(editor.data()) : element;
+    Deleter deleter(editor);
+    QVERIFY(connect(sender, signal.constData(), &deleter, SLOT(DeleteEditor())));
+    if (byEdit) {
+        auto* box = qobject_cast<QCheckBox*>(element->GetWidget());
+        box->blockSignals(true);
+        box->setChecked(true);
+        box->blockSignals(false);
+        QVERIFY(QMetaObject::invokeMethod(element, "TargetCheckStateChanged", Q_ARG(int, Qt::Checked)));
+    } else {
+        Find<CheckBoxElement>(*editor, "source")->SetCheck(true);
+    }
+    QVERIFY(editor.isNull());
 }
 
 void tst_PropertyEditor::translatedTexts()

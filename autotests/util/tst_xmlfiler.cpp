@@ -169,6 +169,7 @@ private Q_SLOTS:
     void goToPath_data();
     void goToPath();
     void siblingsParentsAndRememberedPositions();
+    void rootScopes();
 
     void typedReaders_data();
     void typedReaders();
@@ -324,6 +325,43 @@ void tst_XmlFiler::siblingsParentsAndRememberedPositions()
     QVERIFY(filer.RestorePosition());
     QCOMPARE(filer.ReadString(QStringLiteral("id")), QStringLiteral("root"));
     QVERIFY(!filer.RestorePosition());
+}
+
+void tst_XmlFiler::rootScopes()
+{
+    XmlFiler filer;
+    QVERIFY(filer.Parse(QStringLiteral("<Root><Page n=\"1\"><Group><Item/></Group></Page></Root>")));
+    QVERIFY(filer.GoToPath(QStringLiteral("Page/Group")));
+    filer.RememberPosition();
+    QDomDocument other;
+    QVERIFY(other.setContent(QStringLiteral("<Doc><Node n=\"2\"><Child/></Node></Doc>")));
+    {
+        const XmlFiler::RootScope page(filer, filer.GetDocument().documentElement().firstChildElement());
+        QCOMPARE(filer.GetElementName(), QStringLiteral("Page"));
+        QVERIFY(!filer.GoToParent());
+        QVERIFY(!filer.GoToPath(QStringLiteral("..")));
+        QVERIFY(!filer.GoToPath(QStringLiteral("/Root/Page")));
+        QVERIFY(filer.GoToPath(QStringLiteral("/Page/Group/Item")));
+        QVERIFY(filer.GoToDocumentElement());
+        QCOMPARE(filer.ReadInt(QStringLiteral("n")), 1);
+        QVERIFY(!filer.RestorePosition());
+        {
+            // A node of another document is read in place.
+            const XmlFiler::RootScope node(filer, other.documentElement().firstChildElement());
+            QCOMPARE(filer.GetRootElement(), other.documentElement().firstChildElement());
+            QCOMPARE(filer.ReadInt(QStringLiteral("n")), 2);
+            QVERIFY(filer.GoToFirstChild(QStringLiteral("Child")));
+            QVERIFY(filer.WriteInt(QStringLiteral("m"), 3));
+        }
+        QCOMPARE(filer.GetElementName(), QStringLiteral("Page"));
+    }
+    QCOMPARE(other.documentElement().firstChildElement().firstChildElement().attribute(QStringLiteral("m")),
+             QStringLiteral("3"));
+    QCOMPARE(filer.GetElementName(), QStringLiteral("Group"));
+    QCOMPARE(filer.GetRootElement(), filer.GetDocument().documentElement());
+    QVERIFY(filer.RestorePosition());
+    const XmlFiler::RootScope none(filer, QDomElement());
+    QVERIFY(filer.GoToParent());
 }
 
 void tst_XmlFiler::typedReaders_data()

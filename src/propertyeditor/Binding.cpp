@@ -27,8 +27,7 @@ bool isBindingName(const QString& name)
 
 BindingImp::BindingImp(Binding* owner)
     : mpOwner(owner)
-{
-}
+{}
 
 BindingImp::~BindingImp()
 {
@@ -41,17 +40,12 @@ bool BindingImp::ParseCallForm(const QString& text, QString* name, QStringList* 
     const qsizetype open = text.indexOf(QLatin1Char('('));
     if (open < 0)
         return false;
+    // Any ")" after the "(" makes a call; the arguments end at the last one.
     const qsizetype close = text.lastIndexOf(QLatin1Char(')'));
     if (close < open)
         return false;
-    // A call ends at its parenthesis and has a name.
-    if (!QStringView(text).mid(close + 1).trimmed().isEmpty())
-        return false;
-    const QString callName = text.left(open).trimmed();
-    if (callName.isEmpty())
-        return false;
     if (name)
-        *name = callName;
+        *name = text.left(open).trimmed();
     if (arguments) {
         *arguments = text.mid(open + 1, close - open - 1).split(QLatin1Char(','), Qt::KeepEmptyParts);
         for (QString& argument : *arguments)
@@ -64,7 +58,8 @@ bool BindingImp::Resolve()
 {
     if (msExpression.isEmpty() || mpSource || !mpContext)
         return true;
-    Internal::WriteDiagnostic(QStringLiteral("Resolving binding expression: %1\n").arg(msExpression));
+    Internal::WriteDiagnostic(
+        [this] { return QStringLiteral("Resolving binding expression: %1\n").arg(msExpression); });
     QString name;
     QStringList arguments;
     if (!ParseCallForm(msExpression, &name, &arguments) || !isBindingName(name) || arguments.size() != 1)
@@ -88,8 +83,10 @@ bool BindingImp::Bind(QObject* source, const QString& property)
     const QMetaObject* metaObject = source->metaObject();
     const int index = metaObject->indexOfProperty(property.toLatin1().constData());
     if (index < 0 || !metaObject->property(index).isReadable()) {
-        Internal::WriteDiagnostic(QStringLiteral("Binding error: Property %1 is not found in object %2\n")
-                                      .arg(property, className(source)));
+        Internal::WriteDiagnostic([&] {
+            return QStringLiteral("Binding error: Property %1 is not found in object %2\n")
+                .arg(property, className(source));
+        });
         return false;
     }
     // Rebinding lets go of the previous source first.
@@ -102,7 +99,6 @@ bool BindingImp::Bind(QObject* source, const QString& property)
     mbReadInPlace = mPropertyType.isValid() && mPropertyType != QMetaType::fromType<QVariant>();
     miValueTypeId = mProperty.metaType().id();
     mValueType = miValueTypeId < QMetaType::User ? QMetaType::Type(miValueTypeId) : QMetaType::User;
-    msSourceChangedText = QStringLiteral("Source value changed: %1::%2\n").arg(className(source), property);
     if (mProperty.hasNotifySignal()) {
         static const QMetaMethod slot =
             staticMetaObject.method(staticMetaObject.indexOfSlot("SourceValueChangedSlot()"));
@@ -120,7 +116,6 @@ void BindingImp::Unbind(bool clearProperty)
     mDestroyedConnection = {};
     mpSource = nullptr;
     mProperty = QMetaProperty();
-    msSourceChangedText.clear();
     if (clearProperty)
         msSourceProperty.clear();
 }
@@ -132,6 +127,8 @@ bool BindingImp::NotifyRebound()
     bool deleted = false;
     bool* outer = mpDeletedFlag;
     mpDeletedFlag = &deleted;
+    const bool wasNotifying = mbNotifying;
+    mbNotifying = true;
     emit mpOwner->ValueChanged();
     if (!deleted)
         emit mpOwner->BindingModified();
@@ -140,6 +137,7 @@ bool BindingImp::NotifyRebound()
             *outer = true;
         return false;
     }
+    mbNotifying = wasNotifying;
     mpDeletedFlag = outer;
     return true;
 }
@@ -215,7 +213,20 @@ QVariant BindingImp::ConvertLiteral(const QVariant& value, QMetaType::Type type)
 
 void BindingImp::SourceValueChangedSlot()
 {
-    Internal::WriteDiagnostic(msSourceChangedText);
+    QObject* source = mpSource.data();
+    if (!source)
+        return;
+    if (mbNotifying) {
+        // The change came back round to where it started: bindings that form
+        // a loop settle after one round instead of recursing without end.
+        Internal::WriteDiagnostic([&] {
+            return QStringLiteral("Binding error: Binding loop stopped at %1::%2, expr: %3\n")
+                .arg(className(source), msSourceProperty, msExpression);
+        });
+        return;
+    }
+    Internal::WriteDiagnostic(
+        [&] { return QStringLiteral("Source value changed: %1::%2\n").arg(className(source), msSourceProperty); });
     NotifyRebound();
 }
 
@@ -235,14 +246,20 @@ void BindingImp::SourceDestroyed()
 Binding::Binding(QObject* parent)
     : QObject(parent)
     , mpImp(std::make_unique<BindingImp>(this))
-{
-}
+{}
 
 Binding::Binding(QObject* source, const QString& property, QObject* parent)
     : Binding(parent)
 {
     SetSource(source, property);
 }
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+Binding::Binding(const QVariant& value, QVariant::Type type, QObject* parent)
+    : Binding(value, QMetaType::Type(type), parent)
+{}
+QT_WARNING_POP
 
 Binding::Binding(const QVariant& value, QMetaType::Type type, QObject* parent)
     : Binding(parent)
@@ -269,7 +286,8 @@ bool Binding::SetExpression(const QString& expression)
     mpImp->msExpression = expression;
     mpImp->Unbind(true);
     if (isBindingName(name) && arguments.size() != 1)
-        Internal::WriteDiagnostic(QStringLiteral("Binding error: Invalid binding expression %1\n").arg(expression));
+        Internal::WriteDiagnostic(
+            [&] { return QStringLiteral("Binding error: Invalid binding expression %1\n").arg(expression); });
     mpImp->Resolve();
     if (wasBound || mpImp->mpSource)
         mpImp->NotifyRebound();
@@ -327,10 +345,9 @@ bool Binding::SetValue(const QVariant& value)
             return true;
     }
     if (!mpImp->mpSource) {
-        const QVariant stored =
-            value.metaType().id() == QMetaType::QString && mpImp->mValueType != QMetaType::QString
-                ? BindingImp::ConvertLiteral(value, mpImp->mValueType)
-                : value;
+        const QVariant stored = value.metaType().id() == QMetaType::QString && mpImp->mValueType != QMetaType::QString
+                                    ? BindingImp::ConvertLiteral(value, mpImp->mValueType)
+                                    : value;
         if (stored != mpImp->mValue || stored.metaType() != mpImp->mValue.metaType()) {
             mpImp->mValue = stored;
             emit ValueChanged();
@@ -338,20 +355,30 @@ bool Binding::SetValue(const QVariant& value)
         return true;
     }
     QObject* source = mpImp->mpSource;
-    Internal::WriteDiagnostic(
-        QStringLiteral("Updating binding source property: %1::%2\n").arg(className(source), mpImp->msSourceProperty));
+    Internal::WriteDiagnostic([&] {
+        return QStringLiteral("Updating binding source property: %1::%2\n")
+            .arg(className(source), mpImp->msSourceProperty);
+    });
     source->setProperty(mpImp->msSourceProperty.toLatin1().constData(), value);
     return true;
 }
 
-QMetaType::Type Binding::GetValueType() const
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+QVariant::Type Binding::GetValueType() const
 {
-    return mpImp->mValueType;
+    return QVariant::Type(mpImp->mValueType);
 }
 
-QMetaType::Type Binding::GetValueType(int& typeId) const
+QVariant::Type Binding::GetValueType(int& typeId) const
 {
     typeId = mpImp->miValueTypeId;
+    return QVariant::Type(mpImp->mValueType);
+}
+QT_WARNING_POP
+
+QMetaType::Type Binding::GetValueMetaType() const
+{
     return mpImp->mValueType;
 }
 
@@ -359,9 +386,10 @@ void Binding::SetContext(BindingContext* context)
 {
     if (context == mpImp->mpContext)
         return;
-    Internal::WriteDiagnostic(QStringLiteral("Setting binding context in 0x%1: context: 0x%2, expr: %3, property: %4\n")
-                                  .arg(hexAddress(this), hexAddress(context), mpImp->msExpression,
-                                       mpImp->msSourceProperty));
+    Internal::WriteDiagnostic([&] {
+        return QStringLiteral("Setting binding context in 0x%1: context: 0x%2, expr: %3, property: %4\n")
+            .arg(hexAddress(this), hexAddress(context), mpImp->msExpression, mpImp->msSourceProperty);
+    });
     disconnect(mpImp->mContextConnection);
     disconnect(mpImp->mContextDestroyedConnection);
     mpImp->mpContext = context;

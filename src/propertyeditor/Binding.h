@@ -27,7 +27,11 @@ class BindingImp;
 //
 // A bound binding follows the source property's notify signal and emits
 // ValueChanged() and then BindingModified() when it fires; binding to another
-// source, or losing the source, emits both as well. Diagnostics go to
+// source, or losing the source, emits both as well. A binding never re-enters
+// its own notification: when bindings form a loop (two elements bound to each
+// other, or an element bound to its own attribute, whose attributes share one
+// notify signal), the change goes round once, stops where it started and a
+// diagnostic names the loop. Diagnostics go to
 // CoreUIUtil::OutputDebugQString. The binding does not own its source or its
 // context; when either is destroyed the binding lets go of it.
 class KVUICORE_EXPORT Binding : public QObject
@@ -43,6 +47,12 @@ public:
     // doesn't convert, or an empty text for a non-string type, holds an
     // invalid value of that type.
     Binding(const QVariant& value, QMetaType::Type type, QObject* parent = nullptr);
+    // The same with the type as a QVariant type number (1 bool, 6 double,
+    // 10 string), for code written against the variant's type enumeration.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    Binding(const QVariant& value, QVariant::Type type, QObject* parent = nullptr);
+    QT_WARNING_POP
     ~Binding() override;
 
     // Sets the expression; false when the text doesn't have the call form.
@@ -62,10 +72,16 @@ public:
     // literal; nothing happens when it equals the current value.
     bool SetValue(const QVariant& value);
 
-    // The type of the value; for a bound binding the property's type. The
-    // second form also gives the full meta-type id (for types above User).
-    QMetaType::Type GetValueType() const;
-    QMetaType::Type GetValueType(int& typeId) const;
+    // The type of the value; for a bound binding the property's type, with
+    // UserType standing for every type above it. The second form also gives
+    // the full meta-type id.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QVariant::Type GetValueType() const;
+    QVariant::Type GetValueType(int& typeId) const;
+    QT_WARNING_POP
+    // The same type as a meta-type.
+    QMetaType::Type GetValueMetaType() const;
 
     // The context that expressions are resolved against; not owned.
     void SetContext(BindingContext* context);

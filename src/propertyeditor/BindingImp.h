@@ -17,8 +17,9 @@ public:
     explicit BindingImp(Binding* owner);
     ~BindingImp() override;
 
-    // The parts of a text in call form: the name before the first "(", the
-    // arguments between it and the last ")", split at "," and trimmed.
+    // The parts of a text in call form, a "(" followed by a ")": the name
+    // before the first "(" (may be empty), the arguments between it and the
+    // last ")", split at "," and trimmed.
     static bool ParseCallForm(const QString& text, QString* name, QStringList* arguments);
 
     bool Resolve();
@@ -48,13 +49,15 @@ public:
     int miPropertyIndex = -1;
     QMetaType mPropertyType;
     bool mbReadInPlace = false;
-    QString msSourceChangedText;
     QMetaObject::Connection mNotifyConnection;
     QMetaObject::Connection mDestroyedConnection;
     QMetaObject::Connection mContextConnection;
     QMetaObject::Connection mContextDestroyedConnection;
     // Set while signals are emitted; tells the emitter that the binding died.
     bool* mpDeletedFlag = nullptr;
+    // Set while ValueChanged() and BindingModified() go out; a source change
+    // that arrives meanwhile has come round a loop of bindings.
+    bool mbNotifying = false;
 
 public Q_SLOTS:
     void SourceValueChangedSlot();

@@ -15,9 +15,7 @@ class ButtonElementImp : public PropertyEditorElementImp
 public:
     ButtonElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {
@@ -129,8 +127,13 @@ QString ButtonElement::GetCheckedImage() const
 
 void ButtonElement::TargetButtonClicked()
 {
-    if (IsCheckable())
+    if (IsCheckable()) {
+        // A handler of the write-back may delete the editor and this element.
+        const QPointer<ButtonElement> self(this);
         UpdateSourceValue(AttributeName::IsChecked);
+        if (!self)
+            return;
+    }
     emit ButtonClicked();
 }
 

@@ -13,9 +13,7 @@ class CheckBoxElementImp : public PropertyEditorElementImp
 public:
     CheckBoxElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {

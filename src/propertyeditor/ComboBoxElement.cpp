@@ -53,8 +53,11 @@ QWidget* ComboBoxElement::CreateWidgetOverride(QWidget* parent)
     // Sized to its items when first shown. Every other policy makes the combo
     // box build its popup list at once, which dominates building long pages.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
-    // Written with blanks before the parentheses; Qt normalises both.
-    connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(ComboBoxCurrentIndexChanged(int)));
+    // Connected by signature text, written with blanks before the
+    // parentheses: Qt normalises both signatures.
+    // clang-format off
+    connect(combo, SIGNAL(currentIndexChanged (int)), this, SLOT(ComboBoxCurrentIndexChanged (int)));
+    // clang-format on
     // Items given without a binding reach the new combo box too.
     GetImp()->mpWidget = combo;
     UpdateWidget(AttributeName::Items);

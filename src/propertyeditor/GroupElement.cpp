@@ -136,9 +136,7 @@ void GroupGrid::leaveEvent(QEvent* event)
 
 GroupElementImp::GroupElementImp()
     : PropertyEditorElementImp(PropertyEditorElement::Container)
-{
-    mbLibraryKind = true;
-}
+{}
 
 GroupElementImp::~GroupElementImp() = default;
 

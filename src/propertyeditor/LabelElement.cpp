@@ -1,32 +1,17 @@
 #include <KvUICore/propertyeditor/LabelElement.h>
 
 #include <KvUICore/propertyeditor/Binding.h>
-#include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
+#include <KvUICore/propertyeditor/TextElement_p.h>
 #include <KvUICore/widgets/Label.h>
 
 namespace Kavrel::UICore {
 
 namespace {
-
-class LabelElementImp : public PropertyEditorElementImp
-{
-public:
-    LabelElementImp()
-        : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
-
-    void LoadAttributes(XmlFiler& filer) override
-    {
-        BindAttributeText(AttributeName::Text, filer.ReadString(AttributeName::Text), QMetaType::QString);
-    }
-};
-
+using LabelText = Internal::TextWidget<QLabel, &QLabel::text, &QLabel::setText>;
 } // namespace
 
 LabelElement::LabelElement(QObject* parent)
-    : PropertyEditorElement(std::make_unique<LabelElementImp>(), parent)
+    : PropertyEditorElement(std::make_unique<Internal::TextElementImp>(), parent)
 {}
 
 LabelElement::~LabelElement() = default;
@@ -55,22 +40,14 @@ QWidget* LabelElement::CreateWidgetOverride(QWidget* parent)
 
 void LabelElement::UpdateWidgetOverride(const QString& attribute)
 {
-    auto* label = qobject_cast<Label*>(GetWidget());
-    if (label && attribute == AttributeName::Text) {
-        const QString text = GetText();
-        if (label->text() != text)
-            label->setText(text);
-        return;
-    }
-    PropertyEditorElement::UpdateWidgetOverride(attribute);
+    if (!LabelText::Update(*this, attribute))
+        PropertyEditorElement::UpdateWidgetOverride(attribute);
 }
 
 QVariant LabelElement::GetWidgetValueOverride(const QString& attribute) const
 {
-    auto* label = qobject_cast<Label*>(GetWidget());
-    if (label && attribute == AttributeName::Text)
-        return label->text();
-    return PropertyEditorElement::GetWidgetValueOverride(attribute);
+    const QVariant value = LabelText::Value(*this, attribute);
+    return value.isValid() ? value : PropertyEditorElement::GetWidgetValueOverride(attribute);
 }
 
 } // namespace Kavrel::UICore

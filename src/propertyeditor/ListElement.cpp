@@ -46,9 +46,7 @@ bool ValuesMatch(const QVariant& data, const QVariant& value)
 
 ListElementImp::ListElementImp()
     : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-{
-    mbLibraryKind = true;
-}
+{}
 
 ListElementImp::~ListElementImp() = default;
 

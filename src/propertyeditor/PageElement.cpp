@@ -14,9 +14,7 @@ class PageElementImp : public PropertyEditorElementImp
 public:
     PageElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Container)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {

@@ -14,9 +14,7 @@ class PanelElementImp : public PropertyEditorElementImp
 public:
     PanelElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Container)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 };
 
 } // namespace

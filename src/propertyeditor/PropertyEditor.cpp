@@ -5,6 +5,8 @@
 #include <KvUICore/propertyeditor/PageElement.h>
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>
 #include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
+#include <KvUICore/propertyeditor/UIDefinitionCheck_p.h>
+#include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
 
@@ -55,11 +57,14 @@ PropertyEditorImp::~PropertyEditorImp()
     mpContext = nullptr;
 }
 
-bool PropertyEditorImp::Load(XmlFiler& filer, const QString& translationFile)
+bool PropertyEditorImp::Load(XmlFiler& filer, const QString& translationFile, const QString& sourceName)
 {
     TranslationTable* table = translationFile.isEmpty() ? nullptr : TranslationTable::GetCached(translationFile);
     filer.SetTranslationTable(table);
     mpLoadTable = table;
+    msLoadSource = sourceName;
+    // Handlers of the signals sent while loading may delete the editor.
+    const QPointer<PropertyEditor> host(mpHost);
 
     filer.GoToDocumentElement();
     SetColumnWidth(0, filer.ReadInt(QStringLiteral("LabelColumnWidth"), mColumnWidths[0]));
@@ -81,15 +86,25 @@ bool PropertyEditorImp::Load(XmlFiler& filer, const QString& translationFile)
     if (filer.GoToFirstChild(QStringLiteral("PageElement"))) {
         ++miLoadDepth;
         result = PropertyEditorElementImp::Of(mpPage)->Load(filer);
+        if (!host)
+            return false;
         --miLoadDepth;
     }
     filer.RestorePosition();
     mpLoadTable = nullptr;
+    msLoadSource.clear();
 
     // Bindings that name elements defined further down resolve now.
     mpContext->NotifyContextChanged();
+    if (!host)
+        return false;
     ApplyColumnWidthsToGroups();
     return result;
+}
+
+QString PropertyEditorImp::LoadSourceName() const
+{
+    return msLoadSource;
 }
 
 int PropertyEditorImp::GetColumnWidth(int column) const
@@ -295,26 +310,46 @@ PropertyEditor::~PropertyEditor() = default;
 
 bool PropertyEditor::LoadUI(const QString& uiDefinition, const QString& translationFile)
 {
+    const QString source = QStringLiteral("the UI definition");
+    QString refusal;
+    if (uiDefinition.size() > kMaxDefinitionFileSize)
+        refusal = QStringLiteral("Property editor: %1 is larger than %2 characters\n")
+                      .arg(source)
+                      .arg(kMaxDefinitionFileSize);
+    else
+        refusal = Internal::CheckDefinitionMarkup(uiDefinition, source);
+    if (!refusal.isEmpty()) {
+        Internal::WriteDiagnostic(refusal);
+        return false;
+    }
     XmlFiler filer;
     if (!filer.Parse(uiDefinition))
         return false;
-    return mpImp->Load(filer, translationFile);
+    return mpImp->Load(filer, translationFile, QString());
 }
 
 bool PropertyEditor::LoadUIFile(const QString& fileName, const QString& elementPath, const QString& translationFile)
 {
-    XmlFiler file;
-    if (!file.Open(fileName))
+    if (fileName.isEmpty() || !QFileInfo::exists(fileName))
+        return false;
+    const QString refusal = Internal::CheckDefinitionFile(fileName);
+    if (!refusal.isEmpty()) {
+        Internal::WriteDiagnostic(refusal);
+        return false;
+    }
+    XmlFiler filer;
+    if (!filer.Open(fileName))
         return false;
     mpImp->msUIFile = QFileInfo(fileName).absoluteFilePath();
-    if (!file.GoToPath(elementPath))
+    if (!filer.GoToPath(elementPath))
         return false;
-    // The element found plays the part of the document element.
-    XmlFiler filer;
-    if (!filer.Parse(file.ReadOuterXml()))
-        return false;
+    // The element found plays the part of the document element, read in place.
+    const XmlFiler::RootScope scope(filer, filer.GetCurrentElement());
     mpImp->msDefinitionKey = DefinitionKey(mpImp->msUIFile, elementPath);
-    const bool result = mpImp->Load(filer, translationFile);
+    const QPointer<PropertyEditor> self(this);
+    const bool result = mpImp->Load(filer, translationFile, fileName);
+    if (!self)
+        return false;
     const auto remembered = Internal::RememberedColumnWidths().constFind(mpImp->msDefinitionKey);
     if (remembered != Internal::RememberedColumnWidths().constEnd()) {
         mpImp->mColumnWidths = *remembered;

@@ -28,6 +28,15 @@ class PropertyEditorImp;
 //
 // Loading adds to the page; the widgets are built at the next paint.
 //
+// Limits: a definition file larger than kMaxDefinitionFileSize bytes (a text
+// given to LoadUI longer than as many characters), or that is no regular file
+// (a pipe or a device would block the read), elements nested deeper than
+// kMaxDefinitionDepth levels, or an element with more than
+// kMaxAttributesPerElement attributes are refused before the definition is
+// parsed: the load writes a diagnostic naming the definition and the limit,
+// and fails without adding anything. The nesting limit holds for the element
+// walk of every load, also of nodes handed to an element's Load.
+//
 // Column widths: -1 leaves a column unset, 0 makes it stretch (only one column
 // may), a positive width is the column's minimum width in pixels. The user can
 // drag the right edge of the label column; the width the user chose is kept
@@ -38,12 +47,18 @@ class KVUICORE_EXPORT PropertyEditor : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr qint64 kMaxDefinitionFileSize = 16 * 1024 * 1024;
+    static constexpr int kMaxDefinitionDepth = 256;
+    static constexpr int kMaxAttributesPerElement = 1024;
+
     explicit PropertyEditor(QWidget* parent = nullptr);
     ~PropertyEditor() override;
 
     // Loads a whole definition document given as text; translationFile names
     // the translation table for tr(id) texts (may be empty). False for text
-    // that is not well-formed XML, or when the load fails.
+    // that is not well-formed XML, beyond the limits above, or when the load
+    // fails. A handler that deletes the editor during the load ends it with
+    // false.
     bool LoadUI(const QString& uiDefinition, const QString& translationFile = QString());
     // Loads from a file; elementPath selects the element that plays the part
     // of the document element (empty: the document element itself).

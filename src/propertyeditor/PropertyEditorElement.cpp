@@ -9,7 +9,6 @@
 #include <KvUICore/widgets/Label.h>
 
 #include <QDomElement>
-#include <QTextStream>
 #include <QWidget>
 
 #include <algorithm>
@@ -57,6 +56,17 @@ bool BoolOr(const QVariant& value, bool fallback)
     return value.isValid() ? value.toBool() : fallback;
 }
 
+// How deep element loads are nested right now, over every editor: the walk
+// recurses once per container level and refuses to go deeper than the limit.
+int sElementLoadDepth = 0;
+
+struct LoadDepthScope
+{
+    LoadDepthScope() { ++sElementLoadDepth; }
+    ~LoadDepthScope() { --sElementLoadDepth; }
+    Q_DISABLE_COPY_MOVE(LoadDepthScope)
+};
+
 } // namespace
 
 // ---- PropertyEditorElementImp ------------------------------------------------
@@ -74,6 +84,20 @@ QString PropertyEditorElementImp::KindName() const
 
 bool PropertyEditorElementImp::Load(XmlFiler& filer)
 {
+    const LoadDepthScope depth;
+    if (sElementLoadDepth > PropertyEditor::kMaxDefinitionDepth) {
+        PropertyEditorImp* editor = GetEditorImp();
+        const QString source = editor ? editor->LoadSourceName() : QString();
+        Internal::WriteDiagnostic([&] {
+            return QStringLiteral("Property editor: %1 nests elements deeper than %2 levels\n")
+                .arg(source.isEmpty() ? QStringLiteral("the UI definition") : source)
+                .arg(PropertyEditor::kMaxDefinitionDepth);
+        });
+        return false;
+    }
+    // A handler of the signals sent while loading may delete the editor and
+    // this element with it; the load then stops without touching either.
+    const QPointer<PropertyEditorElement> self(mpOwner);
     const QString id = filer.ReadString(QStringLiteral("Id"));
     const QString label = filer.ReadString(AttributeName::Label);
     const QString isEnabled = filer.ReadString(AttributeName::IsEnabled, QStringLiteral("True"));
@@ -106,13 +130,21 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
             mpOwner->SetId(id);
     }
 
+    if (!self)
+        return false;
     mpOwner->SetLabel(label);
+    if (!self)
+        return false;
 
     BindAttributeText(AttributeName::IsEnabled, isEnabled, QMetaType::Bool);
     BindAttributeText(AttributeName::IsVisible, isVisible, QMetaType::Bool);
     BindAttributeText(AttributeName::Tooltip, tooltip, QMetaType::QString);
+    if (!self)
+        return false;
 
     LoadAttributes(filer);
+    if (!self)
+        return false;
 
     if (!IsContainer())
         return true;
@@ -127,17 +159,27 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
         if (!child)
             continue;
         const bool accepted = mpOwner->AddChild(child);
+        if (!self) {
+            if (!accepted)
+                delete child;
+            return false;
+        }
 
-        PropertyEditorElementImp* childImp = Of(child);
-        bool ownLoad = childImp->IsLibraryKind();
-        if (ownLoad && !namespaceUri.isEmpty()) {
+        // Elements without a namespace, as every element of a document read
+        // without namespace processing, take the library's own load, whatever
+        // module their type comes from.
+        bool ownLoad = namespaceUri.isEmpty();
+        if (!ownLoad) {
             Internal::ElementNamespace ns;
             ownLoad = Internal::ElementTypeRegistry::ParseNamespaceUri(namespaceUri, &ns) &&
                       Internal::ElementTypeRegistry::IsLibraryNamespace(ns);
         }
-        const bool loaded = ownLoad ? childImp->Load(filer) : child->Load(node);
+        const QPointer<PropertyEditorElement> guardedChild(child);
+        const bool loaded = ownLoad ? Of(child)->Load(filer) : child->Load(node);
         if (!accepted)
-            delete child;
+            delete guardedChild.data();
+        if (!self)
+            return false;
         if (!loaded) {
             result = false;
             break;
@@ -151,13 +193,9 @@ bool PropertyEditorElementImp::LoadFromDomElement(const QDomElement& element)
 {
     if (element.isNull())
         return false;
-    // The node may belong to any document: it is read through a copy.
-    QString text;
-    QTextStream stream(&text);
-    element.save(stream, 4);
+    // The node may belong to any document: the filer reads it in place.
     XmlFiler filer;
-    if (!filer.Parse(text))
-        return false;
+    const XmlFiler::RootScope scope(filer, element);
     if (PropertyEditorImp* editor = GetEditorImp())
         filer.SetTranslationTable(editor->mpLoadTable);
     return Load(filer);
@@ -329,6 +367,19 @@ PropertyEditorElement::PropertyEditorElement(std::unique_ptr<PropertyEditorEleme
 
 PropertyEditorElement::~PropertyEditorElement()
 {
+    // The subtree goes quietly: a handler reached from its teardown would
+    // find elements and an editor half destroyed.
+    if (!mpImp->mbTearingDown) {
+        QList<PropertyEditorElement*> pending{this};
+        while (!pending.isEmpty()) {
+            PropertyEditorElementImp* imp = pending.takeLast()->mpImp.get();
+            imp->mbTearingDown = true;
+            imp->mpOwner->blockSignals(true);
+            for (Binding* binding : std::as_const(imp->mBindings))
+                binding->blockSignals(true);
+            pending.append(imp->mChildren);
+        }
+    }
     // Bindings go first, so that nothing reaches this element while its
     // children and widgets are torn down.
     const QList<Binding*> bindings = mpImp->mBindings.values();
@@ -538,8 +589,13 @@ bool PropertyEditorElement::SetBinding(const QString& attribute, Binding* bindin
     mpImp->mBindings.insert(attribute, binding);
     binding->setParent(this);
     connect(binding, &Binding::BindingModified, this, &PropertyEditorElement::BindingModifiedSlot);
-    if (PropertyEditorImp* editor = mpImp->GetEditorImp())
+    if (PropertyEditorImp* editor = mpImp->GetEditorImp()) {
+        // Resolving notifies, and a handler may delete the editor and this element.
+        const QPointer<PropertyEditorElement> self(this);
         binding->SetContext(editor->mpContext);
+        if (!self)
+            return true;
+    }
     UpdateWidget(attribute);
     NotifyAttributeChanged(attribute);
     return true;
@@ -625,7 +681,11 @@ void PropertyEditorElement::BindingModifiedSlot()
     const QString attribute = mpImp->mBindings.key(binding);
     if (attribute.isEmpty())
         return;
+    // Handlers may delete the editor, and this element with it.
+    const QPointer<PropertyEditorElement> self(this);
     emit BindingModified();
+    if (!self)
+        return;
     UpdateWidget(attribute);
     NotifyAttributeChanged(attribute);
 }
@@ -722,12 +782,18 @@ void PropertyEditorElement::UpdateSourceValue(const QString& attribute)
 {
     if (mpImp->mbUpdatingWidget)
         return;
+    // Handlers of the signals below, and of the source's notify signal, may
+    // delete the editor and this element with it.
+    const QPointer<PropertyEditorElement> self(this);
     const QVariant value = GetWidgetValueOverride(attribute);
     bool modified = false;
     if (Binding* binding = mpImp->FindBinding(attribute)) {
         const bool bound = binding->IsBound();
         const QVariant before = binding->GetValue();
+        const QPointer<Binding> guardedBinding(binding);
         binding->SetValue(value);
+        if (!self || !guardedBinding)
+            return;
         const QVariant after = binding->GetValue();
         modified = bound && after != before;
         // A source that refused or adjusted the value shows what it holds.
@@ -743,19 +809,23 @@ void PropertyEditorElement::UpdateSourceValue(const QString& attribute)
             literal->SetContext(editor->mpContext);
     }
     emit ValueChanged();
+    if (!self)
+        return;
     NotifyAttributeChanged(attribute);
-    if (modified) {
-        if (PropertyEditorImp* editor = mpImp->GetEditorImp())
-            editor->ReportPropertyModified(this, attribute);
-    }
+    if (!self || !modified)
+        return;
+    if (PropertyEditorImp* editor = mpImp->GetEditorImp())
+        editor->ReportPropertyModified(this, attribute);
 }
 
 void PropertyEditorElement::UpdateWidget(const QString& attribute)
 {
     if (!mpImp->mpWidget)
         return;
-    Internal::WriteDiagnostic(
-        QStringLiteral("Updating widget property for element: %1, target property:%2\n").arg(mpImp->msId, attribute));
+    Internal::WriteDiagnostic([&] {
+        return QStringLiteral("Updating widget property for element: %1, target property:%2\n")
+            .arg(mpImp->msId, attribute);
+    });
     const bool wasUpdating = mpImp->mbUpdatingWidget;
     mpImp->mbUpdatingWidget = true;
     UpdateWidgetOverride(attribute);
@@ -764,8 +834,10 @@ void PropertyEditorElement::UpdateWidget(const QString& attribute)
 
 void PropertyEditorElement::NotifyAttributeChanged(const QString& attribute)
 {
+    const QPointer<PropertyEditorElement> self(this);
     emit AttributeChanged(attribute);
-    emit AttributesChanged();
+    if (self)
+        emit AttributesChanged();
 }
 
 bool PropertyEditorElement::IsUpdatingWidget() const
@@ -781,7 +853,12 @@ void PropertyEditorElement::SetAttributeValue(const QString& attribute, const QV
         return;
     }
     const QVariant before = binding->GetValue();
+    const QPointer<Binding> guardedBinding(binding);
     binding->SetValue(value);
+    // The source's notify signal may have reached a handler that deleted the
+    // editor, and this element with it.
+    if (!guardedBinding)
+        return;
     // A bound source with a notify signal has updated the widget already;
     // pushing again is harmless and covers sources without one.
     if (binding->GetValue() != before) {

@@ -175,8 +175,11 @@ protected:
 
     virtual bool CanAddChild(PropertyEditorElement* child) const;
     virtual bool CanBindProperty(const QString& attribute) const;
-    // Loads an element from its node. Called for element types that come from
-    // other modules; the default reads what every element reads.
+    // Loads an element from its node, read in place. A definition calls it
+    // for nodes whose namespace URI names another module; nodes without a
+    // namespace (every node of a document read without namespace processing)
+    // take the library's own load, whatever type they create. The default
+    // reads what every element reads, and its children.
     virtual bool Load(const QDomElement& element);
     virtual QWidget* CreateWidgetOverride(QWidget* parent);
     virtual void AddChildWidgetsOverride();

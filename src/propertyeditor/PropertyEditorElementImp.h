@@ -46,12 +46,9 @@ public:
     // The element load on the filer's current node: common attributes, the
     // kind's own (LoadAttributes), then the children of a container.
     bool Load(XmlFiler& filer);
-    // Loads from a node of any document, through a filer of its own.
+    // Loads from a node of any document, read in place through a filer of its own.
     bool LoadFromDomElement(const QDomElement& element);
     virtual void LoadAttributes(XmlFiler& filer);
-    // The library's own kinds load through Load; element types from elsewhere
-    // load themselves through PropertyEditorElement::Load(QDomElement).
-    virtual bool IsLibraryKind() const { return mbLibraryKind; }
     // The kind's name for debug texts.
     virtual QString KindName() const;
 
@@ -99,7 +96,8 @@ public:
     // How many leading children BuildWidgetTree builds; -1 for all.
     int miChildBuildLimit = -1;
     bool mbUpdatingWidget = false;
-    bool mbLibraryKind = false;
+    // Set on the whole subtree when an element is destroyed.
+    bool mbTearingDown = false;
 };
 
 } // namespace Kavrel::UICore

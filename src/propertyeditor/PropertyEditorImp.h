@@ -32,8 +32,11 @@ public:
     explicit PropertyEditorImp(PropertyEditor* host);
     ~PropertyEditorImp() override;
 
-    // The load shared by LoadUI and LoadUIFile, on a filer positioned on a document.
-    bool Load(XmlFiler& filer, const QString& translationFile);
+    // The load shared by LoadUI and LoadUIFile, on a filer positioned on a
+    // document; sourceName names the definition in diagnostics.
+    bool Load(XmlFiler& filer, const QString& translationFile, const QString& sourceName);
+    // The definition being loaded, for diagnostics.
+    QString LoadSourceName() const;
 
     int GetColumnWidth(int column) const;
     // A non-zero width is stored; 0 only when no other column is 0.
@@ -75,6 +78,7 @@ public:
     // The translation table of the load in progress, for elements that load
     // themselves from their node.
     TranslationTable* mpLoadTable = nullptr;
+    QString msLoadSource;
     int miLoadDepth = 0;
     QHash<QString, QList<PropertyEditorElement*>> mNameIndex;
 };

@@ -15,9 +15,7 @@ class SliderElementImp : public PropertyEditorElementImp
 public:
     SliderElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {

@@ -1,32 +1,17 @@
 #include <KvUICore/propertyeditor/TextBoxElement.h>
 
 #include <KvUICore/propertyeditor/Binding.h>
-#include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
+#include <KvUICore/propertyeditor/TextElement_p.h>
 #include <KvUICore/widgets/TextBox.h>
 
 namespace Kavrel::UICore {
 
 namespace {
-
-class TextBoxElementImp : public PropertyEditorElementImp
-{
-public:
-    TextBoxElementImp()
-        : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
-
-    void LoadAttributes(XmlFiler& filer) override
-    {
-        BindAttributeText(AttributeName::Text, filer.ReadString(AttributeName::Text), QMetaType::QString);
-    }
-};
-
+using BoxText = Internal::TextWidget<TextBox, &TextBox::GetText, &TextBox::SetText>;
 } // namespace
 
 TextBoxElement::TextBoxElement(QObject* parent)
-    : PropertyEditorElement(std::make_unique<TextBoxElementImp>(), parent)
+    : PropertyEditorElement(std::make_unique<Internal::TextElementImp>(), parent)
 {}
 
 TextBoxElement::~TextBoxElement() = default;
@@ -60,23 +45,14 @@ QWidget* TextBoxElement::CreateWidgetOverride(QWidget* parent)
 
 void TextBoxElement::UpdateWidgetOverride(const QString& attribute)
 {
-    auto* box = qobject_cast<TextBox*>(GetWidget());
-    if (box && attribute == AttributeName::Text) {
-        // Text the box shows already is left alone, so typing keeps its cursor.
-        const QString text = GetText();
-        if (box->GetText() != text)
-            box->SetText(text);
-        return;
-    }
-    PropertyEditorElement::UpdateWidgetOverride(attribute);
+    if (!BoxText::Update(*this, attribute))
+        PropertyEditorElement::UpdateWidgetOverride(attribute);
 }
 
 QVariant TextBoxElement::GetWidgetValueOverride(const QString& attribute) const
 {
-    auto* box = qobject_cast<TextBox*>(GetWidget());
-    if (box && attribute == AttributeName::Text)
-        return box->GetText();
-    return PropertyEditorElement::GetWidgetValueOverride(attribute);
+    const QVariant value = BoxText::Value(*this, attribute);
+    return value.isValid() ? value : PropertyEditorElement::GetWidgetValueOverride(attribute);
 }
 
 } // namespace Kavrel::UICore

@@ -23,4 +23,9 @@ void WriteDiagnostic(const QString& text)
         hook(text);
 }
 
+bool IsDiagnosticListened()
+{
+    return bool(diagnosticHook());
+}
+
 } // namespace Kavrel::UICore::Internal

@@ -335,8 +335,22 @@ public:
     bool mbBaseMissing = true;
     size_t mBaseFingerprint = 0;
     QList<Change> mChanges;
+    // The root of the innermost RootScope; null without one.
+    QDomElement mScopedRoot;
+
+    // What a RootScope replaced, put back when it ends.
+    struct SavedScope
+    {
+        QDomDocument mDocument;
+        QDomElement mScopedRoot;
+        QDomNode mCurrentNode;
+        QList<QDomNode> mRememberedNodes;
+    };
+    QList<SavedScope> mSavedScopes;
 
     QDomElement Current() const { return mCurrentNode.toElement(); }
+
+    QDomElement Root() const { return mScopedRoot.isNull() ? mDocument.documentElement() : mScopedRoot; }
 
     // The raw attribute value; present tells whether the attribute exists.
     QString Attribute(const QString& name, bool* present = nullptr) const
@@ -362,6 +376,7 @@ public:
     void Reset()
     {
         mDocument = QDomDocument();
+        mScopedRoot = QDomElement();
         mCurrentNode = QDomNode();
         mRememberedNodes.clear();
         mbModified = false;
@@ -372,6 +387,7 @@ public:
     {
         Reset();
         mDocument = document;
+        mScopedRoot = QDomElement();
         mCurrentNode = mDocument.documentElement();
         msFileName = fileName;
         mbBaseMissing = bytes == nullptr;
@@ -755,7 +771,13 @@ public:
         return name.isEmpty() ? node.firstChildElement() : node.firstChildElement(name);
     }
 
-    static QDomElement Parent(const QDomNode& node) { return node.parentNode().toElement(); }
+    // The parent element; none above a scoped root.
+    QDomElement Parent(const QDomNode& node) const
+    {
+        if (!mScopedRoot.isNull() && node == mScopedRoot)
+            return QDomElement();
+        return node.parentNode().toElement();
+    }
 
     // Walks a path; creates missing components when create is set.
     bool WalkPath(const QString& path, bool create)
@@ -773,7 +795,7 @@ public:
         QDomElement element;
         int first = 0;
         if (absolute) {
-            element = mDocument.documentElement();
+            element = Root();
             if (!components.isEmpty()) {
                 if (IsNavigation(components.first()))
                     return false;
@@ -1031,7 +1053,7 @@ bool XmlFiler::IsTranslate() const
 
 bool XmlFiler::GoToDocumentElement()
 {
-    const QDomElement root = mpImp->mDocument.documentElement();
+    const QDomElement root = mpImp->Root();
     if (root.isNull())
         return false;
     mpImp->mCurrentNode = root;
@@ -1073,7 +1095,7 @@ bool XmlFiler::GoToNextSibling(const QString& name)
 
 bool XmlFiler::GoToParent()
 {
-    const QDomElement parent = XmlFilerImp::Parent(mpImp->mCurrentNode);
+    const QDomElement parent = mpImp->Parent(mpImp->mCurrentNode);
     if (parent.isNull())
         return false;
     mpImp->mCurrentNode = parent;
@@ -1083,6 +1105,38 @@ bool XmlFiler::GoToParent()
 bool XmlFiler::GoToPath(const QString& path)
 {
     return mpImp->WalkPath(path, false);
+}
+
+QDomElement XmlFiler::GetRootElement() const
+{
+    return mpImp->Root();
+}
+
+XmlFiler::RootScope::RootScope(XmlFiler& filer, const QDomElement& root)
+    : mFiler(filer)
+    , mbActive(!root.isNull())
+{
+    if (!mbActive)
+        return;
+    XmlFilerImp& imp = *filer.mpImp;
+    imp.mSavedScopes.append({imp.mDocument, imp.mScopedRoot, imp.mCurrentNode, imp.mRememberedNodes});
+    // The node's own document is shared, not copied: reads see it as it is.
+    imp.mDocument = root.ownerDocument();
+    imp.mScopedRoot = root;
+    imp.mCurrentNode = root;
+    imp.mRememberedNodes.clear();
+}
+
+XmlFiler::RootScope::~RootScope()
+{
+    if (!mbActive)
+        return;
+    XmlFilerImp& imp = *mFiler.mpImp;
+    const XmlFilerImp::SavedScope saved = imp.mSavedScopes.takeLast();
+    imp.mDocument = saved.mDocument;
+    imp.mScopedRoot = saved.mScopedRoot;
+    imp.mCurrentNode = saved.mCurrentNode;
+    imp.mRememberedNodes = saved.mRememberedNodes;
 }
 
 void XmlFiler::RememberPosition()

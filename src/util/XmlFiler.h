@@ -154,6 +154,29 @@ public:
     bool GoToNextSibling(const QString& name);
     bool GoToParent();
     bool GoToPath(const QString& path);
+    // The element that plays the part of the document element: the root of
+    // the innermost RootScope, or the document element.
+    QDomElement GetRootElement() const;
+
+    // While a RootScope lives, an element plays the part of the document
+    // element: the cursor starts on it, GoToDocumentElement and absolute
+    // paths start at it, and GoToParent and ".." stop at it. The element may
+    // belong to another document, which the filer then reads in place
+    // (documents are shared, not copied). Scopes nest; when one ends, the
+    // document, root, cursor and remembered positions before it come back.
+    // A null element makes a scope that changes nothing.
+    class KVUICORE_EXPORT RootScope
+    {
+    public:
+        RootScope(XmlFiler& filer, const QDomElement& root);
+        ~RootScope();
+
+    private:
+        Q_DISABLE_COPY_MOVE(RootScope)
+        XmlFiler& mFiler;
+        const bool mbActive;
+    };
+
     // Pushes the cursor; RestorePosition pops it (false when nothing was pushed).
     void RememberPosition();
     bool RestorePosition();
