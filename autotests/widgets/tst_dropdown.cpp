@@ -1,4 +1,4 @@
-// test-options: SCALES 1.25 1.5 2
+// test-options: SCALES 1.25 1.5 2 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>

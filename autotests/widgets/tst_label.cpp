@@ -1,3 +1,4 @@
+// test-options: LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>

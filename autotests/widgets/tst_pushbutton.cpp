@@ -1,4 +1,4 @@
-// test-options: SCALES 1.5
+// test-options: SCALES 1.5 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
