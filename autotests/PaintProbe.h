@@ -8,8 +8,10 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QImage>
+#include <QLineEdit>
 #include <QList>
 #include <QPainter>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <QtTest>
 
@@ -93,8 +95,7 @@ inline QColor Reference(const QImage& like, const QColor& background, const QBru
 }
 
 // How many pixels of an image pass a test of their colour.
-template <class Test>
-int Count(const QImage& image, Test test)
+template <class Test> int Count(const QImage& image, Test test)
 {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -109,6 +110,28 @@ inline bool Shown(QWidget* widget)
 {
     widget->show();
     return QTest::qWaitForWindowExposed(widget);
+}
+
+// Builds a control in an active window of the given size, above a line edit
+// named "other" that holds the focus, so a test can move the focus in and out.
+// The window goes into owned (the test deletes it); null when it never became active.
+template <class Control, class... Args> Control* ShownWithOther(QList<QWidget*>& owned, QSize size, Args&&... args)
+{
+    auto* window = new QWidget;
+    owned << window;
+    auto* layout = new QVBoxLayout(window);
+    auto* control = new Control(std::forward<Args>(args)..., window);
+    layout->addWidget(control);
+    auto* other = new QLineEdit(window);
+    other->setObjectName(QStringLiteral("other"));
+    layout->addWidget(other);
+    window->resize(size);
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window))
+        return nullptr;
+    other->setFocus(Qt::OtherFocusReason);
+    return control;
 }
 
 inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)

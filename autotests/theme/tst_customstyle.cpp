@@ -1,4 +1,4 @@
-// test-options: SCALES 1.25 1.5 2
+// test-options: SCALES 1.25 1.5 2 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/core/CoreUIUtil_p.h>
@@ -30,14 +30,21 @@ public:
     using QMenu::initStyleOption;
 };
 
-enum class Look { Normal, Hovered, Sunken, Focused, Disabled, Checked };
+enum class Look
+{
+    Normal,
+    Hovered,
+    Sunken,
+    Focused,
+    Disabled,
+    Checked
+};
 
 // Widgets whose style options the probes need.
-template <class Widget>
-struct Probed : Widget
+template <class Widget> struct Probed : Widget
 {
-    using Widget::Widget;
     using Widget::initStyleOption;
+    using Widget::Widget;
 };
 using ProbeCheckBox = Probed<CheckBox>;
 using ProbeSlider = Probed<QSlider>;
@@ -145,10 +152,7 @@ class tst_CustomStyle : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Probe::UseRepositoryThemes();
-    }
+    void initTestCase() { Probe::UseRepositoryThemes(); }
 
     void focusRectIsNeverPainted_data()
     {
@@ -190,8 +194,7 @@ private Q_SLOTS:
         QStyleOptionToolButton option;
         option.initFrom(&button);
         option.iconSize = QSize(64, 64);
-        QCOMPARE(Style()->sizeFromContents(QStyle::CT_ToolButton, &option, QSize(200, 90), &button),
-                 QSize(28, 24));
+        QCOMPARE(Style()->sizeFromContents(QStyle::CT_ToolButton, &option, QSize(200, 90), &button), QSize(28, 24));
         QCOMPARE(button.sizeHint(), QSize(28, 24));
     }
 
@@ -267,15 +270,34 @@ private Q_SLOTS:
         QTest::addColumn<QString>("theme");
         QTest::addColumn<Look>("look");
         QTest::addColumn<bool>("checked");
+        QTest::addColumn<QString>("outlineKey");
+        QTest::addColumn<QString>("fillKey");
+        QTest::addColumn<QString>("ringKey");
+        using K = ThemeFileKey;
         // HIGLight defines the optional ring colours, Light does not.
-        for (const char* theme : {"Light", "HIGLight"}) {
-            for (const bool checked : {false, true}) {
-                for (const auto& [name, look] : {std::pair{"normal", Look::Normal}, {"hovered", Look::Hovered},
-                                                 {"sunken", Look::Sunken}, {"focused", Look::Focused},
-                                                 {"disabled", Look::Disabled}})
-                    QTest::addRow("%s %s, %s", name, checked ? "checked" : "unchecked", theme)
-                        << QString::fromLatin1(theme) << look << checked;
-            }
+        for (const QString& theme : {QStringLiteral("Light"), QStringLiteral("HIGLight")}) {
+            const bool rings = theme == QStringLiteral("HIGLight");
+            const auto row = [&theme](const char* name) -> QTestData& {
+                return QTest::addRow("%s, %s", name, qPrintable(theme)) << theme;
+            };
+            row("normal unchecked") << Look::Normal << false << K::WidgetOutline9 << K::WidgetContainer9 << QString();
+            row("normal checked") << Look::Normal << true << K::WidgetOutline10 << K::WidgetContainer11 << QString();
+            row("hovered unchecked") << Look::Hovered << false << K::HoverOutline7 << K::HoverContainer4
+                                     << (rings ? K::FocusOutline3 : QString());
+            row("hovered checked") << Look::Hovered << true << K::HoverOutline7 << K::HoverContainer5
+                                   << (rings ? K::FocusOutline7 : QString());
+            row("sunken unchecked") << Look::Sunken << false << K::ClickOutline1 << K::ClickContainer1
+                                    << (rings ? K::FocusOutline4 : QString());
+            row("sunken checked") << Look::Sunken << true << K::ClickOutline2 << K::ClickContainer2
+                                  << (rings ? K::FocusOutline2 : QString());
+            row("focused unchecked") << Look::Focused << false << K::FocusOutline1 << K::HoverContainer4
+                                     << K::WidgetOutline6;
+            row("focused checked") << Look::Focused << true << K::FocusOutline1 << K::HoverContainer5
+                                   << K::WidgetContainer11;
+            row("disabled unchecked") << Look::Disabled << false << K::WidgetOutline9 << K::WidgetContainer9
+                                      << QString();
+            row("disabled checked") << Look::Disabled << true << K::WidgetOutline10 << K::WidgetContainer11
+                                    << QString();
         }
     }
 
@@ -284,6 +306,9 @@ private Q_SLOTS:
         QFETCH(QString, theme);
         QFETCH(Look, look);
         QFETCH(bool, checked);
+        QFETCH(QString, outlineKey);
+        QFETCH(QString, fillKey);
+        QFETCH(QString, ringKey);
         QVERIFY(Themes()->SetCurrentTheme(theme));
         const auto restore = qScopeGuard([] { Themes()->SetCurrentTheme(QStringLiteral("Light")); });
         ProbeCheckBox box(QStringLiteral("Probe"));
@@ -293,30 +318,6 @@ private Q_SLOTS:
         if (look == Look::Sunken)
             box.setDown(true);
 
-        QString outlineKey = checked ? ThemeFileKey::WidgetOutline10 : ThemeFileKey::WidgetOutline9;
-        QString fillKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetContainer9;
-        QString ringKey;
-        switch (look) {
-        case Look::Focused:
-            outlineKey = ThemeFileKey::FocusOutline1;
-            fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
-            ringKey = checked ? ThemeFileKey::WidgetContainer11 : ThemeFileKey::WidgetOutline6;
-            break;
-        case Look::Sunken:
-            outlineKey = checked ? ThemeFileKey::ClickOutline2 : ThemeFileKey::ClickOutline1;
-            fillKey = checked ? ThemeFileKey::ClickContainer2 : ThemeFileKey::ClickContainer1;
-            if (Themes()->Exists(ThemeFileKey::FocusOutline4))
-                ringKey = checked ? ThemeFileKey::FocusOutline2 : ThemeFileKey::FocusOutline4;
-            break;
-        case Look::Hovered:
-            outlineKey = ThemeFileKey::HoverOutline7;
-            fillKey = checked ? ThemeFileKey::HoverContainer5 : ThemeFileKey::HoverContainer4;
-            if (Themes()->Exists(ThemeFileKey::FocusOutline3) && Themes()->Exists(ThemeFileKey::FocusOutline7))
-                ringKey = checked ? ThemeFileKey::FocusOutline7 : ThemeFileKey::FocusOutline3;
-            break;
-        default:
-            break;
-        }
         const QColor outline = ThemeColor(outlineKey);
         QVERIFY2(outline.isValid(), qPrintable(outlineKey));
         QVERIFY2(Themes()->GetBrush(fillKey, QRect(0, 0, 10, 10)).style() != Qt::NoBrush, qPrintable(fillKey));
@@ -503,7 +504,8 @@ private Q_SLOTS:
 
         QStyleOptionSlider option;
         slider.initStyleOption(&option);
-        const QRect groove = slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
+        const QRect groove =
+            slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
         const QImage image = Probe::Grab(&slider);
         const int b = Probe::Bucket(image);
         const int column = Probe::DeviceFloor(image, groove.right() - 10);
@@ -544,23 +546,31 @@ private Q_SLOTS:
                             Probe::Composite(spin.palette().color(QPalette::Window), fill));
     }
 
+    void dropDownMenuItemSizes_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QSize>("expected");
+        QTest::newRow("item") << 0 << QSize(148, 20);
+        QTest::newRow("separator") << 1 << QSize(148, 3);
+        QTest::newRow("separator with a text") << 2 << QSize(148, 3);
+    }
+
     void dropDownMenuItemSizes()
     {
+        QFETCH(int, kind);
+        QFETCH(QSize, expected);
         DropDownMenu menu;
         menu.setStyle(Style());
-        QAction* action = menu.addAction(QStringLiteral("Item"));
-        QAction* separator = menu.addSeparator();
+        QAction* action = kind == 0   ? menu.addAction(QStringLiteral("Item"))
+                          : kind == 1 ? menu.addSeparator()
+                                      : menu.addSection(QStringLiteral("Section"));
         QStyleOptionMenuItem option;
         menu.initStyleOption(&option, action);
         option.rect = QRect(0, 0, 150, 30);
-        CustomStyle* style = Style();
-        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 20));
-        menu.initStyleOption(&option, separator);
-        option.rect = QRect(0, 0, 150, 30);
-        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), QSize(148, 3));
+        QCOMPARE(Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), expected);
         // Without a menu-item option the contents size comes back unchanged.
         QStyleOption plain;
-        QCOMPARE(style->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(40, 10), &menu), QSize(40, 10));
+        QCOMPARE(Style()->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(40, 10), &menu), QSize(40, 10));
     }
 
     void dropDownMenuPaintsItsItems()
@@ -595,9 +605,8 @@ private Q_SLOTS:
         option.rect = QRect(0, 0, 150, 22);
         option.state |= QStyle::State_Selected;
         QCOMPARE(PaintMenuItem(Style(), option, &menu), PaintMenuItem(Style()->baseStyle(), option, &menu));
-        QCOMPARE(
-            Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
-            Style()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu));
+        QCOMPARE(Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu),
+                 Style()->baseStyle()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(60, 12), &menu));
     }
 
     void themeSwitchNeedsNoNotice()

@@ -1,4 +1,4 @@
-// test-options: SCALES 1.25 1.5 2
+// test-options: SCALES 1.25 1.5 2 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -460,8 +460,8 @@ void tst_DropDown::menuOpensAlignedToTheButton()
     QVERIFY(geometry.width() > dropDown->width());
     if (alignment == DropDown::AlignLeft)
         QCOMPARE(geometry.left(), bottomLeft.x());
-    else
-        QCOMPARE(geometry.right(), bottomLeft.x() + dropDown->width() - 1);
+    else // x is the button's right coordinate less the menu's width
+        QCOMPARE(geometry.left(), bottomLeft.x() + dropDown->width() - 1 - geometry.width());
 }
 
 void tst_DropDown::deletingFromTriggeredSlotWhileMenuOpen_data()

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void preventedContextMenuDoesNotOpen();
     void contextMenuFollowsTheThemeAndKeepsTheSelection_data();
     void contextMenuFollowsTheThemeAndKeepsTheSelection();
-    void textColourFollowsThemeAndEnabledState();
 
 private:
     LineEdit* shownLineEdit();
@@ -260,29 +259,6 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     // Opening the menu took the focus for a moment; the selection is still there.
     QTRY_VERIFY(edit->hasFocus());
     QCOMPARE(edit->selectedText(), QStringLiteral("keep me selected"));
-}
-
-void tst_LineEdit::textColourFollowsThemeAndEnabledState()
-{
-    LineEdit edit;
-    QVERIFY(edit.IsUseDefaultTextColor());
-    for (const char* theme : {"Dark", "HIGLight", "Light"}) {
-        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QString::fromLatin1(theme)));
-        const QColor normal = Probe::ThemeColor(ThemeFileKey::FontNormal1);
-        QVERIFY(normal.isValid());
-        QCOMPARE(edit.GetTextColor(), normal);
-        QCOMPARE(edit.palette().color(QPalette::Text), normal);
-    }
-    edit.setEnabled(false);
-    QVERIFY(Probe::ThemeColor(ThemeFileKey::FontColorDisabled).isValid());
-    QCOMPARE(edit.GetTextColor(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
-
-    // A colour set by hand stays.
-    edit.setEnabled(true);
-    edit.SetTextColor(Qt::red);
-    QVERIFY(!edit.IsUseDefaultTextColor());
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
-    QCOMPARE(edit.GetTextColor(), QColor(Qt::red));
 }
 
 QTEST_MAIN(tst_LineEdit)

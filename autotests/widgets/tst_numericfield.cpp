@@ -1,3 +1,4 @@
+// test-options: LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -26,7 +27,6 @@ private Q_SLOTS:
     void hoverStateFollowsThePointer();
     void frameIsPaintedFromTheTheme_data();
     void frameIsPaintedFromTheTheme();
-    void textColourFollowsEnabledStateAndTheme();
 
 private:
     // A shown window holding a field with "1234.5" and a second line edit that has the focus.
@@ -53,23 +53,15 @@ void tst_NumericField::cleanup()
 
 NumericField* tst_NumericField::shownField(bool focused)
 {
-    auto* window = new QWidget;
-    mWidgets << window;
-    auto* layout = new QVBoxLayout(window);
-    auto* field = new NumericField(window);
+    NumericField* field = Probe::ShownWithOther<NumericField>(mWidgets, QSize(200, 80));
+    if (!field)
+        return nullptr;
     field->setText(QStringLiteral("1234.5"));
-    layout->addWidget(field);
-    auto* other = new QLineEdit(window);
-    other->setObjectName(QStringLiteral("other"));
-    layout->addWidget(other);
-    window->resize(200, 80);
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
-        return nullptr;
-    (focused ? static_cast<QWidget*>(field) : other)->setFocus();
-    if (focused && !QTest::qWaitFor([field] { return field->hasFocus(); }))
-        return nullptr;
+    if (focused) {
+        field->setFocus();
+        if (!QTest::qWaitFor([field] { return field->hasFocus(); }))
+            return nullptr;
+    }
     return field;
 }
 
@@ -207,19 +199,6 @@ void tst_NumericField::frameIsPaintedFromTheTheme()
     QCOMPARE(at(0, middle), Probe::ThemeColor(outline).rgb());
     if (!inner.isEmpty())
         QCOMPARE(at(field->width() / 2, 1), Probe::ThemeColor(inner).rgb());
-}
-
-void tst_NumericField::textColourFollowsEnabledStateAndTheme()
-{
-    NumericField field;
-    const auto text = [&field] { return field.palette().color(QPalette::Text); };
-    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontNormal1));
-    field.setEnabled(false);
-    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("HIGLight")));
-    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontColorDisabled));
-    field.setEnabled(true);
-    QCOMPARE(text(), Probe::ThemeColor(ThemeFileKey::FontNormal1));
 }
 
 QTEST_MAIN(tst_NumericField)

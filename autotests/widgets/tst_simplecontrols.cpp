@@ -1,4 +1,4 @@
-// test-options: SCALES 1.25 1.5 2
+// test-options: SCALES 1.25 1.5 2 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -22,10 +22,7 @@ class tst_SimpleControls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Probe::UseRepositoryThemes();
-    }
+    void initTestCase() { Probe::UseRepositoryThemes(); }
 
     void toolButtonIconFollowsTheme()
     {
@@ -50,8 +47,8 @@ private Q_SLOTS:
         QTest::newRow("idle") << false << false << QString() << QString();
         QTest::newRow("hovered") << true << false << ThemeFileKey::HoverContainer1 << ThemeFileKey::HoverOutline1;
         QTest::newRow("checked") << false << true << ThemeFileKey::ActiveContainer1 << ThemeFileKey::ActiveOutline1;
-        QTest::newRow("hovered and checked") << true << true << ThemeFileKey::ActiveContainer1
-                                             << ThemeFileKey::ActiveOutline1;
+        QTest::newRow("hovered and checked")
+            << true << true << ThemeFileKey::ActiveContainer1 << ThemeFileKey::ActiveOutline1;
     }
 
     void radioTileFollowsState()
@@ -140,19 +137,16 @@ private Q_SLOTS:
         QVERIFY(label.pixmap().toImage() != enabled);
     }
 
-    void textLabelColourAndWeight()
+    void textLabelColourKeyAndWeight()
     {
         ThemeManager* themes = ThemeManager::GetInstance();
         TextLabel label(QStringLiteral("Header"));
-        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
         label.SetTextColorThemeKey(ThemeFileKey::FontGroupHeader);
         QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontGroupHeader));
         label.SetTextColorThemeKey(QStringLiteral("NoSuchColourKey"));
         QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontGroupHeader);
         label.SetBold(true);
         QCOMPARE(label.font().bold(), themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0);
-        label.setEnabled(false);
-        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontColorDisabled));
     }
 };
 

@@ -85,7 +85,6 @@ private Q_SLOTS:
     void deferredUpdatesWaitForUpdateForUnits();
     void unitSymbolLabelShowsTheDisplayName();
     void focusLossIsAnnounced();
-    void textColoursFollowThemeEnabledStateAndStyleSheetRepolish();
     void displayTextIsPaintedOnTheGroove();
 
 private:
@@ -102,21 +101,9 @@ void tst_Slider::cleanup()
 
 Slider* tst_Slider::shownSlider()
 {
-    auto* window = new QWidget;
-    mWidgets << window;
-    auto* layout = new QVBoxLayout(window);
-    auto* slider = new Slider(window);
-    slider->SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    layout->addWidget(slider);
-    auto* other = new QLineEdit(window);
-    other->setObjectName(QStringLiteral("other"));
-    layout->addWidget(other);
-    window->resize(320, 90);
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
-        return nullptr;
-    other->setFocus();
+    Slider* slider = Probe::ShownWithOther<Slider>(mWidgets, QSize(320, 90));
+    if (slider)
+        slider->SetSeparators(QStringLiteral("."), QStringLiteral(","));
     return slider;
 }
 
@@ -168,8 +155,8 @@ void tst_Slider::typedValuesEmitPressedChangedReleased_data()
     QTest::newRow("above the maximum") << none << plain << 100.0 << "500" << 100.0 << 10000 << false;
     QTest::newRow("below the minimum") << none << plain << 100.0 << "-3" << 0.0 << 0 << false;
     QTest::newRow("inches into millimetres") << mm << mmSymbol << 1000.0 << "2 in" << 50.8 << 5080 << false;
-    QTest::newRow("feet, inches and millimetres") << mm << mmSymbol << 1000.0 << "1ft 3in + 20mm" << 401.0 << 40100
-                                                  << false;
+    QTest::newRow("feet, inches and millimetres")
+        << mm << mmSymbol << 1000.0 << "1ft 3in + 20mm" << 401.0 << 40100 << false;
     QTest::newRow("shown in inches") << mm << int(units::kSymbolInch) << 1000.0 << "254mm" << 254.0 << 1000 << false;
     QTest::newRow("treated as float") << none << plain << 100.0 << "0.1" << double(0.1f) << 10 << true;
     // Nothing is announced for these: the value stays at 10.
@@ -225,32 +212,37 @@ void tst_Slider::typedValuesEmitPressedChangedReleased()
 
 void tst_Slider::arrowKeysStepTheValueFinely_data()
 {
-    QTest::addColumn<bool>("degrees");
+    QTest::addColumn<int>("angleUnit"); // 0 for a plain number
     QTest::addColumn<int>("precision");
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("presses");
     QTest::addColumn<double>("valueStep");
     QTest::addColumn<int>("positionMove");
 
-    QTest::newRow("2 decimals, right") << false << 2 << int(Qt::Key_Right) << 3 << 0.01 << 3;
-    QTest::newRow("2 decimals, page up") << false << 2 << int(Qt::Key_PageUp) << 2 << 0.1 << 20;
-    QTest::newRow("2 decimals, down") << false << 2 << int(Qt::Key_Down) << 4 << -0.01 << -4;
-    QTest::newRow("5 decimals, up") << false << 5 << int(Qt::Key_Up) << 100 << 0.00001 << 1;
-    QTest::newRow("5 decimals, 99 up") << false << 5 << int(Qt::Key_Up) << 99 << 0.00001 << 0;
-    QTest::newRow("5 decimals, page up") << false << 5 << int(Qt::Key_PageUp) << 10 << 0.0001 << 1;
+    QTest::newRow("2 decimals, right") << 0 << 2 << int(Qt::Key_Right) << 3 << 0.01 << 3;
+    QTest::newRow("2 decimals, page up") << 0 << 2 << int(Qt::Key_PageUp) << 2 << 0.1 << 20;
+    QTest::newRow("2 decimals, down") << 0 << 2 << int(Qt::Key_Down) << 4 << -0.01 << -4;
+    QTest::newRow("5 decimals, up") << 0 << 5 << int(Qt::Key_Up) << 100 << 0.00001 << 1;
+    QTest::newRow("5 decimals, 99 up") << 0 << 5 << int(Qt::Key_Up) << 99 << 0.00001 << 0;
+    QTest::newRow("5 decimals, page up") << 0 << 5 << int(Qt::Key_PageUp) << 10 << 0.0001 << 1;
     // Going down, the thumb moves on the first press and then every hundredth.
-    QTest::newRow("5 decimals, left") << false << 5 << int(Qt::Key_Left) << 101 << -0.00001 << -2;
-    QTest::newRow("5 decimals, page down") << false << 5 << int(Qt::Key_PageDown) << 3 << -0.0001 << -1;
+    QTest::newRow("5 decimals, left") << 0 << 5 << int(Qt::Key_Left) << 101 << -0.00001 << -2;
+    QTest::newRow("5 decimals, page down") << 0 << 5 << int(Qt::Key_PageDown) << 3 << -0.0001 << -1;
     // Degrees, minutes and seconds step by the shown part: seconds, or tenths of a second.
-    QTest::newRow("seconds, up") << true << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
-    QTest::newRow("seconds, page down") << true << 4 << int(Qt::Key_PageDown) << 1 << -10.0 / 3600 << -1;
-    QTest::newRow("tenths of a second, up") << true << 5 << int(Qt::Key_Up) << 2 << 1.0 / 36000 << -1;
-    QTest::newRow("tenths of a second, page down") << true << 5 << int(Qt::Key_PageDown) << 1 << -1.0 / 3600 << -1;
+    QTest::newRow("seconds, up") << int(Units::eDegree) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
+    QTest::newRow("seconds, page down") << int(Units::eDegree) << 4 << int(Qt::Key_PageDown) << 1 << -10.0 / 3600 << -1;
+    QTest::newRow("tenths of a second, up") << int(Units::eDegree) << 5 << int(Qt::Key_Up) << 2 << 1.0 / 36000 << -1;
+    QTest::newRow("tenths of a second, page down")
+        << int(Units::eDegree) << 5 << int(Qt::Key_PageDown) << 1 << -1.0 / 3600 << -1;
+    // The step is added to the value as it is, whatever unit the value is held in.
+    QTest::newRow("seconds on a value in radians")
+        << int(Units::eRadian) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
 }
 
 void tst_Slider::arrowKeysStepTheValueFinely()
 {
-    QFETCH(bool, degrees);
+    QFETCH(int, angleUnit);
+    const bool degrees = angleUnit != 0;
     QFETCH(int, precision);
     QFETCH(int, key);
     QFETCH(int, presses);
@@ -260,7 +252,7 @@ void tst_Slider::arrowKeysStepTheValueFinely()
     Slider* slider = shownSlider();
     QVERIFY(slider);
     if (degrees) {
-        slider->SetUnitType(Units::eDegree);
+        slider->SetUnitType(Units::teType(angleUnit));
         slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
         slider->SetRange(0.0, 360.0);
     }
@@ -469,6 +461,10 @@ void tst_Slider::deferredUpdatesWaitForUpdateForUnits()
     QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
 
     slider.SetDeferUpdateForUnits(true);
+    // The number format is not among the changes the slider follows.
+    slider.SetNumberFormatId(units::kNumberFormatFractional);
+    slider.SetNumberFormatId(units::kNumberFormatDecimal);
+    QVERIFY(!slider.HaveDeferredUpdatesForUnits());
     slider.SetDecimalPrecision(1);
     slider.SetUnitSymbolType(units::kSymbolInch);
     slider.SetDecimalSeparator(QStringLiteral(","));
@@ -525,26 +521,6 @@ void tst_Slider::focusLossIsAnnounced()
     QTRY_VERIFY(slider->GetNumericField()->hasFocus());
     other->setFocus();
     QTRY_COMPARE(focusOut.count(), 2);
-}
-
-void tst_Slider::textColoursFollowThemeEnabledStateAndStyleSheetRepolish()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    QLabel* label = slider->findChild<QLabel*>();
-    const auto check = [&](const QString& key) {
-        QCOMPARE(label->palette().color(QPalette::WindowText), Probe::ThemeColor(key));
-        QCOMPARE(slider->GetNumericField()->palette().color(QPalette::Text), Probe::ThemeColor(key));
-    };
-    check(ThemeFileKey::FontNormal1);
-    qApp->setStyleSheet(QStringLiteral("QToolTip { padding: 2px; }"));
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
-    // A host re-applies its style sheet after a theme switch: every widget is polished again.
-    qApp->setStyleSheet(qApp->styleSheet() + QLatin1Char(' '));
-    check(ThemeFileKey::FontNormal1);
-    qApp->setStyleSheet(QString());
-    slider->setEnabled(false);
-    check(ThemeFileKey::FontColorDisabled);
 }
 
 void tst_Slider::displayTextIsPaintedOnTheGroove()

@@ -1,4 +1,4 @@
-// test-options: SCALES 1.25 1.5 2
+// test-options: SCALES 1.25 1.5 2 LABELS visual
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -84,21 +84,7 @@ void tst_TextBox::cleanup()
 
 TextBox* tst_TextBox::shownBox(int width)
 {
-    auto* window = new QWidget;
-    mWidgets << window;
-    auto* layout = new QVBoxLayout(window);
-    auto* box = new TextBox(window);
-    layout->addWidget(box);
-    // Something else to take the focus away from the box.
-    auto* other = new QLineEdit(window);
-    layout->addWidget(other);
-    window->resize(width, 80);
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
-        return nullptr;
-    other->setFocus(Qt::OtherFocusReason);
-    return box;
+    return Probe::ShownWithOther<TextBox>(mWidgets, QSize(width, 80));
 }
 
 void tst_TextBox::validateText_data()
@@ -221,7 +207,6 @@ void tst_TextBox::setTextWithValidationTakesOnlyValidText()
     QCOMPARE(box.GetLineEdit()->cursorPosition(), 0);
     QCOMPARE(edited.count(), 0);
 }
-
 
 void tst_TextBox::cutTextBecomesTheEditorTooltip()
 {
@@ -506,7 +491,6 @@ void tst_TextBox::accessibleNamesAndSizeHints()
     QCOMPARE(box.GetLineEdit()->height(), 24);
     QCOMPARE(box.focusProxy(), box.GetLineEdit());
 }
-
 
 QTEST_MAIN(tst_TextBox)
 #include "tst_textbox.moc"

@@ -71,6 +71,7 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     body->setSpacing(0);
     layout->addLayout(body, 1);
 
+    setAttribute(Qt::WA_WindowPropagation);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &GalleryWindow::OnThemeChanged);
     OnThemeChanged();
     if (mpPageList->count() > 0)
@@ -150,12 +151,9 @@ void GalleryWindow::OnThemeChanged()
         palette.setColor(group, QPalette::Dark, themes->GetColor(ThemeFileKey::WidgetOutline3));
         palette.setColor(group, QPalette::Shadow, themes->GetColor(ThemeFileKey::HoverOutline4));
     }
-    // The gallery is the application here, so the palette is the application's.
-    // Widgets polished under the global style sheet keep the palette they had
-    // then; polishing them again after the change lets the new one reach them.
-    QApplication::setPalette(palette);
-    if (!qApp->styleSheet().isEmpty())
-        qApp->setStyleSheet(qApp->styleSheet());
+    // The palette belongs to this window and reaches its pop-ups too; the
+    // controls colour their own text, so no second restyle is needed.
+    setPalette(palette);
     QPalette rule = mpHeaderRule->palette();
     rule.setColor(QPalette::Window, themes->GetColor(ThemeFileKey::Separator1));
     mpHeaderRule->setPalette(rule);
@@ -169,8 +167,7 @@ void GalleryWindow::OnThemeChanged()
                        "QListWidget::item:selected { background: %5; color: %3; border-left: 3px solid %6;"
                        " padding-left: 7px; }")
             .arg(themes->GetColor(ThemeFileKey::Container2).name(), themes->GetColor(ThemeFileKey::Separator1).name(),
-                 text.name(), themes->GetColor(ThemeFileKey::HoverContainer1).name(), selection.name(),
-                 accent.name()));
+                 text.name(), themes->GetColor(ThemeFileKey::HoverContainer1).name(), selection.name(), accent.name()));
 
     const int index = kBuiltInThemes.indexOf(themes->GetCurrentTheme());
     if (index >= 0 && mpThemeBox->currentIndex() != index)

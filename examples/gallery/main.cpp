@@ -51,8 +51,8 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
             if (auto* area = qobject_cast<QScrollArea*>(window.PageWidget(page)); area && area->widget()) {
                 QWidget* contents = area->widget();
                 const int width = area->viewport()->width();
-                const int height = contents->hasHeightForWidth() ? contents->heightForWidth(width)
-                                                                 : contents->sizeHint().height();
+                const int height =
+                    contents->hasHeightForWidth() ? contents->heightForWidth(width) : contents->sizeHint().height();
                 if (height > area->viewport()->height()) {
                     // Out of the scroll area for the moment, so that nothing sizes it back.
                     area->takeWidget();
@@ -77,15 +77,19 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
 
 int main(int argc, char* argv[])
 {
+    // The window's palette reaches widgets polished under the global style
+    // sheet as it reaches any other.
+    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("KvUICore gallery"));
     CoreUIManager::Initialize();
 
     QCommandLineParser parser;
     parser.addHelpOption();
-    QCommandLineOption screenshots(QStringLiteral("screenshots"),
-                                   QStringLiteral("Write a screenshot of every page in every theme to <folder> and exit."),
-                                   QStringLiteral("folder"));
+    QCommandLineOption screenshots(
+        QStringLiteral("screenshots"),
+        QStringLiteral("Write a screenshot of every page in every theme to <folder> and exit."),
+        QStringLiteral("folder"));
     QCommandLineOption themes(QStringLiteral("themes"), QStringLiteral("Folder of the theme files."),
                               QStringLiteral("folder"));
     parser.addOption(screenshots);

@@ -6,13 +6,13 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
-#include <KvUICore/widgets/CheckBox.h>
 
 #include <QAction>
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QHash>
+#include <QHelpEvent>
 #include <QIcon>
 #include <QMenu>
 #include <QPainter>
@@ -22,6 +22,7 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QStyleOption>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -256,7 +257,7 @@ QSize CustomStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
         if (!item || item->version < 1)
             return contentsSize;
         const int width = item->rect.width() - 2;
-        if (item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty())
+        if (item->menuItemType == QStyleOptionMenuItem::Separator)
             return QSize(width, 3);
         if (item->menuItemType == QStyleOptionMenuItem::Scroller)
             break;
@@ -373,6 +374,65 @@ void CustomStyle::DrawCheckBoxIndicator(const QStyleOption* option, QPainter* pa
     painter->restore();
 }
 
+namespace {
+
+bool AlwaysShowsToolTip(const QWidget* widget)
+{
+    return widget && widget->property(CustomStyle::AlwaysShowTooltipProperty).toBool();
+}
+
+// The rectangle CE_CheckBox hands to CE_CheckBoxLabel.
+QRect CheckBoxLabelRect(const QCheckBox* checkBox)
+{
+    QStyleOptionButton option;
+    option.initFrom(checkBox);
+    option.text = checkBox->text();
+    option.icon = checkBox->icon();
+    option.iconSize = checkBox->iconSize();
+    return checkBox->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, checkBox);
+}
+
+} // namespace
+
+QString CustomStyle::CheckBoxLabelToolTip(const QCheckBox* checkBox)
+{
+    if (!checkBox)
+        return QString();
+    if (AlwaysShowsToolTip(checkBox))
+        return checkBox->toolTip();
+    const QString text = checkBox->text();
+    const int width = CheckBoxLabelRect(checkBox).width();
+    return checkBox->fontMetrics().elidedText(text, Qt::ElideRight, width) == text ? QString() : text;
+}
+
+void CustomStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // A check box that declares the property keeps its tool tip itself.
+    if (qobject_cast<QCheckBox*>(widget) && !widget->property(AlwaysShowTooltipProperty).isValid())
+        widget->installEventFilter(this);
+}
+
+void CustomStyle::unpolish(QWidget* widget)
+{
+    if (qobject_cast<QCheckBox*>(widget))
+        widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+bool CustomStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* checkBox = qobject_cast<QCheckBox*>(watched);
+    if (!checkBox || event->type() != QEvent::ToolTip)
+        return QProxyStyle::eventFilter(watched, event);
+    const QString tip = CheckBoxLabelToolTip(checkBox);
+    if (tip.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, checkBox);
+    return true;
+}
+
 void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painter, const QCheckBox* widget) const
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -381,18 +441,8 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
     painter->save();
     const int alignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
     QString text = button->text;
-    const auto* libraryCheckBox = qobject_cast<const CheckBox*>(widget);
-    const bool keepToolTip = libraryCheckBox && libraryCheckBox->IsAlwaysShowTooltip();
-    if (!keepToolTip) {
-        const QString elided = libraryCheckBox
-                                   ? libraryCheckBox->ElidedText(text, button->rect.width())
-                                   : widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
-        const QString tip = elided == text ? QString() : text;
-        // The label explains itself on hover when it is cut.
-        if (widget->toolTip() != tip)
-            const_cast<QCheckBox*>(widget)->setToolTip(tip);
-        text = elided;
-    }
+    if (!AlwaysShowsToolTip(widget))
+        text = widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
     proxy()->drawItemText(painter, button->rect, alignment, button->palette, bool(button->state & State_Enabled), text,
                           QPalette::WindowText);
     painter->restore();

@@ -32,6 +32,13 @@ namespace Kavrel::UICore {
 // StandardMenuPaintProperty to true, and CE_MenuItem then paints nothing. An
 // item is a group label when it is a separator with a text, or when its action
 // carries the dynamic property named by GroupLabelProperty set to true.
+//
+// A check box label that does not fit is cut at the right and explains itself
+// on hover with its full text; one that fits shows no tool tip. A check box
+// whose property named by AlwaysShowTooltipProperty is true is drawn whole and
+// keeps its own tool tip. The style never writes a tool tip: a check box that
+// declares that property keeps its tool tip itself (CheckBoxLabelToolTip tells
+// it which); for any other check box the style answers the hover event.
 class KVUICORE_EXPORT CustomStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -43,6 +50,12 @@ public:
     static constexpr const char* DropDownMenuProperty = "kvDropDownMenu";
     static constexpr const char* StandardMenuPaintProperty = "kvStandardMenuPaint";
     static constexpr const char* GroupLabelProperty = "kvGroupLabel";
+    static constexpr const char* AlwaysShowTooltipProperty = "alwaysShowTooltip";
+
+    // The tool tip the label rule gives a check box painted by this style: ""
+    // when its label fits, the full text when it is cut, and the box's own
+    // tool tip when it always shows it.
+    static QString CheckBoxLabelToolTip(const QCheckBox* checkBox);
 
     // The rectangle in which a pen of penWidth strokes inside rect: left and top
     // move in by penWidth / 2, right and bottom by (penWidth + 1) / 2.
@@ -64,6 +77,14 @@ public:
                            const QWidget* widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                   QStyleHintReturn* returnData = nullptr) const override;
+
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    void polish(QWidget* widget) override;
+    void unpolish(QWidget* widget) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     CustomStyle();

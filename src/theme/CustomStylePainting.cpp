@@ -188,17 +188,13 @@ QFont WithThemePixelSize(QFont font)
     return font;
 }
 
-void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey)
+void ApplyThemedIcon(QAbstractButton* button, const QString& iconKey)
 {
-    const QColor color = ThemeManager::GetInstance()->GetColor(textKey);
-    if (color.isValid())
-        SetTextColor(button, color);
-    if (!iconKey.isEmpty()) {
-        const QIcon icon = IconFromTheme(iconKey, button->iconSize());
-        if (!icon.isNull())
-            button->setIcon(icon);
-    }
-    button->update();
+    if (iconKey.isEmpty())
+        return;
+    const QIcon icon = IconFromTheme(iconKey, button->iconSize());
+    if (!icon.isNull())
+        button->setIcon(icon);
 }
 
 } // namespace Kavrel::UICore::Internal

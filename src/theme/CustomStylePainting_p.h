@@ -72,8 +72,8 @@ KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);
 // The font at the theme's pixel size, when the theme sets one.
 KVUICORE_EXPORT QFont WithThemePixelSize(QFont font);
 
-// Colours a button-like control's text with the theme colour of textKey and
-// gives it the icon of iconKey (when there is one at its icon size).
-KVUICORE_EXPORT void ApplyThemedTextAndIcon(QAbstractButton* button, const QString& textKey, const QString& iconKey);
+// Gives a button-like control the icon of iconKey, when the theme has one at
+// its icon size. (Its text colour belongs to its ThemedColor.)
+KVUICORE_EXPORT void ApplyThemedIcon(QAbstractButton* button, const QString& iconKey);
 
 } // namespace Kavrel::UICore::Internal

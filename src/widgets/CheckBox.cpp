@@ -2,9 +2,9 @@
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
-#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QEvent>
 
@@ -13,12 +13,8 @@ namespace Kavrel::UICore {
 class CheckBoxImp
 {
 public:
-    QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
+    Internal::ThemedColor* mpColor = nullptr;
     bool mbAlwaysShowTooltip = false;
-    QString msElidedSource;
-    QString msElided;
-    QFont mElidedFont;
-    int miElidedWidth = -1;
 };
 
 CheckBox::CheckBox(QWidget* parent)
@@ -43,22 +39,18 @@ void CheckBox::Initialize()
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);
-    SetTextColorThemeKey(ThemeFileKey::FontNormal1);
-    ApplyTextColor();
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &CheckBox::OnThemeChanged);
+    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
+    mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
 }
 
 QString CheckBox::GetTextColorThemeKey() const
 {
-    return mpImp->msTextColorThemeKey;
+    return mpImp->mpColor->GetKey();
 }
 
 void CheckBox::SetTextColorThemeKey(const QString& key)
 {
-    if (key == mpImp->msTextColorThemeKey)
-        return;
-    mpImp->msTextColorThemeKey = key;
-    ApplyTextColor();
+    mpImp->mpColor->SetKey(key);
 }
 
 bool CheckBox::IsAlwaysShowTooltip() const
@@ -74,45 +66,30 @@ void CheckBox::SetAlwaysShowTooltip(bool alwaysShow)
     update();
 }
 
-const QString& CheckBox::ElidedText(const QString& text, int width) const
-{
-    CheckBoxImp& d = *mpImp;
-    if (width != d.miElidedWidth || text != d.msElidedSource || font() != d.mElidedFont) {
-        d.msElidedSource = text;
-        d.miElidedWidth = width;
-        d.mElidedFont = font();
-        d.msElided = fontMetrics().elidedText(text, Qt::ElideRight, width);
-    }
-    return d.msElided;
-}
-
 void CheckBox::OnThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
-    ApplyTextColor();
+    mpImp->mpColor->SetKey(ThemeFileKey::FontNormal1);
+    mpImp->mpColor->Apply();
 }
 
-void CheckBox::ApplyTextColor()
+void CheckBox::UpdateLabelToolTip()
 {
-    const QString& key = isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled;
-    const QColor color = ThemeManager::GetInstance()->GetColor(key);
-    if (color.isValid())
-        Internal::SetTextColor(this, color);
+    if (mpImp->mbAlwaysShowTooltip)
+        return;
+    const QString tip = CustomStyle::CheckBoxLabelToolTip(this);
+    if (toolTip() != tip)
+        setToolTip(tip);
 }
 
 bool CheckBox::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTipChange)
         Q_EMIT ToolTipChanged();
+    // The label's tool tip is settled before each paint, where a new text,
+    // font or width first shows; the style that paints it leaves it alone.
+    else if (event->type() == QEvent::Paint)
+        UpdateLabelToolTip();
     return QCheckBox::event(event);
-}
-
-void CheckBox::changeEvent(QEvent* event)
-{
-    // A style sheet's polish replaces the palette: colour it again after it.
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
-        ApplyTextColor();
-    QCheckBox::changeEvent(event);
 }
 
 } // namespace Kavrel::UICore

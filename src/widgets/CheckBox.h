@@ -13,11 +13,13 @@ class CheckBoxImp;
 // A check box in the library's look (painted by CustomStyle), with its text
 // colour from the theme. A label that does not fit is cut and shows its full
 // text as a tool tip, unless the always-show-tool-tip flag keeps the tool tip
-// the host set.
+// the host set. A theme switch returns the text colour to "FontNormal1"
+// ("FontColorDisabled" while disabled), whatever key was set before.
 class KVUICORE_EXPORT CheckBox : public QCheckBox
 {
     Q_OBJECT
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
+    // Read by name by the style that paints the label.
     Q_PROPERTY(bool alwaysShowTooltip READ IsAlwaysShowTooltip WRITE SetAlwaysShowTooltip)
 
 public:
@@ -40,17 +42,11 @@ public Q_SLOTS:
 
 protected:
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     Q_DISABLE_COPY_MOVE(CheckBox)
     void Initialize();
-    void ApplyTextColor();
-
-    // The label cut to width, kept between paints: the style asks for it on
-    // every paint, and cutting means laying the text out.
-    friend class CustomStyle;
-    const QString& ElidedText(const QString& text, int width) const;
+    void UpdateLabelToolTip();
 
     std::unique_ptr<CheckBoxImp> const mpImp;
 };

@@ -4,7 +4,9 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/DeferredUnitsUpdate_p.h>
 #include <KvUICore/widgets/DoubleSpinBoxNumericField.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
@@ -42,12 +44,7 @@ public:
     // The deferrable update shared by the format notifications.
     void UpdateOrMark()
     {
-        if (mbDeferUpdateForUnits) {
-            mbHaveDeferredUpdatesForUnits = true;
-            return;
-        }
-        mpOwner->setValue(mpOwner->value());
-        mbHaveDeferredUpdatesForUnits = false;
+        mDeferred.MarkOrRun([this] { mpOwner->setValue(mpOwner->value()); });
     }
 
     DoubleSpinBox* const mpOwner;
@@ -56,8 +53,7 @@ public:
     double mdAcceptedValue = 0.0;
     const bool mbCompactSize;
     bool mbCanChangeQtDecimals = true;
-    bool mbDeferUpdateForUnits = false;
-    bool mbHaveDeferredUpdatesForUnits = false;
+    Internal::DeferredUnitsUpdate mDeferred;
 };
 
 DoubleSpinBox::DoubleSpinBox(QWidget* parent, bool compactSize)
@@ -69,13 +65,12 @@ DoubleSpinBox::DoubleSpinBox(QWidget* parent, bool compactSize)
     mpImp->mpNumericField = new DoubleSpinBoxNumericField(this);
     setLineEdit(mpImp->mpNumericField);
     setAlignment(Qt::AlignRight);
-    Internal::SetTextColor(mpImp->mpNumericField, ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1));
+    // The field colours its own text; the spin box adds the field's background.
+    Internal::ThemedColor::Of(mpImp->mpNumericField)->SetThemeChangedHandler([this] { OnThemeChanged(); });
     mpImp->mpValidator = new QRegularExpressionValidator(QRegularExpression(QStringLiteral(".*")), this);
     setDecimals(GetDecimalPrecision());
     setSingleStep(CalculateSingleStep(GetDecimalPrecision()));
-    connect(this, SIGNAL(editingFinished()), this, SLOT(SaveAcceptedValue()));
-    connect(ThemeManager::GetInstance(), SIGNAL(ThemeChanged(const QString&, const QString&)), this,
-            SLOT(OnThemeChanged()));
+    connect(this, &QAbstractSpinBox::editingFinished, this, &DoubleSpinBox::SaveAcceptedValue);
     // The text is formatted from the unit part, which learns the new value only
     // here; take it over first and write the text again, before any other
     // listener of valueChanged runs.
@@ -187,17 +182,17 @@ void DoubleSpinBox::ClearModified()
 
 void DoubleSpinBox::SetDeferUpdateForUnits(bool defer)
 {
-    mpImp->mbDeferUpdateForUnits = defer;
+    mpImp->mDeferred.SetDeferring(defer);
 }
 
 bool DoubleSpinBox::DeferUpdateForUnits() const
 {
-    return mpImp->mbDeferUpdateForUnits;
+    return mpImp->mDeferred.IsDeferring();
 }
 
 bool DoubleSpinBox::HaveDeferredUpdatesForUnits() const
 {
-    return mpImp->mbHaveDeferredUpdatesForUnits;
+    return mpImp->mDeferred.HasPending();
 }
 
 void DoubleSpinBox::SetCanChangeQtDecimals(bool canChange)
@@ -213,7 +208,7 @@ bool DoubleSpinBox::CanChangeQtDecimals() const
 void DoubleSpinBox::UpdateForUnits()
 {
     setValue(value());
-    mpImp->mbHaveDeferredUpdatesForUnits = false;
+    mpImp->mDeferred.Clear();
 }
 
 void DoubleSpinBox::UpdateForUnits(bool, bool)
@@ -267,25 +262,14 @@ void DoubleSpinBox::OnChanged_UnitSymbolDisplayEnabled(bool, bool)
 
 QSize DoubleSpinBox::sizeHint() const
 {
-    if (mpImp->mbCompactSize)
-        return kCompactSize;
-    // The custom style has no frame, which leaves the base hint too low for the
-    // field's text: never lower than the compact height.
-    return QDoubleSpinBox::sizeHint().expandedTo(QSize(0, kCompactSize.height()));
-}
-
-QSize DoubleSpinBox::minimumSizeHint() const
-{
-    return QDoubleSpinBox::minimumSizeHint().expandedTo(QSize(0, kCompactSize.height()));
+    return mpImp->mbCompactSize ? kCompactSize : QDoubleSpinBox::sizeHint();
 }
 
 void DoubleSpinBox::OnThemeChanged()
 {
-    if (QLineEdit* edit = lineEdit()) {
-        Internal::SetTextColor(edit, ThemeManager::GetInstance()->GetColor(
-                                         isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled));
-        mpImp->ApplyFieldBackground(hasFocus() ? ThemeFileKey::ActiveContainer1 : ThemeFileKey::WidgetContainer3);
-    }
+    if (Internal::ThemedColor* color = Internal::ThemedColor::Of(lineEdit()))
+        color->Apply();
+    mpImp->ApplyFieldBackground(hasFocus() ? ThemeFileKey::ActiveContainer1 : ThemeFileKey::WidgetContainer3);
 }
 
 bool DoubleSpinBox::event(QEvent* event)
@@ -317,9 +301,6 @@ bool DoubleSpinBox::event(QEvent* event)
         }
         break;
     }
-    case QEvent::EnabledChange:
-        OnThemeChanged();
-        break;
     default:
         break;
     }

@@ -63,9 +63,8 @@ public:
     void OnChanged_ExponentSign(bool oldShown, bool newShown) override;
     void OnChanged_UnitSymbolDisplayEnabled(bool oldEnabled, bool newEnabled) override;
 
-    // 56 × 24 when made compact; otherwise the spin box's own hint, at least 24 high.
+    // 56 × 24 when made compact; otherwise the spin box's own hint.
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     // Emitted for every successfully parsed text; a listener may adjust the

@@ -7,6 +7,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/DropDownMenu.h>
 #include <KvUICore/widgets/ItemGroup.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QAction>
 #include <QActionGroup>
@@ -307,8 +308,7 @@ void DropDownImp::DrawText(QPainter& painter) const
     const int left = mpOwner->icon().isNull() ? kTextLeft : kTextLeft + mpOwner->iconSize().width();
     const QRect textRect(left, r.top(), qMax(0, ArrowColumn().left() - left), r.height());
     painter.setFont(mpOwner->font());
-    painter.setPen(ThemeManager::GetInstance()->GetColor(mpOwner->isEnabled() ? ThemeFileKey::FontNormal1
-                                                                              : ThemeFileKey::FontColorDisabled));
+    painter.setPen(Internal::ThemedColor::Of(mpOwner)->GetColor());
     painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(mpOwner->text(), Qt::ElideRight, textRect.width()));
 }
@@ -346,10 +346,15 @@ DropDown::DropDown(QWidget* parent)
     setFixedHeight(ScalableIntY(kStandardControlHeight));
     setIconSize(QSize(16, 16));
     mpImp->mpMenu = new DropDownMenu(this);
-    connect(mpImp->mpMenu, SIGNAL(triggered(QAction*)), this, SLOT(ActionTriggered(QAction*)));
-    connect(mpImp->mpMenu, SIGNAL(aboutToShow()), this, SIGNAL(DropDownListAboutToShow()));
-    connect(mpImp->mpMenu, SIGNAL(MouseMoveOnMenu(QAction*)), this, SLOT(MouseMoveOnMenu(QAction*)));
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, qOverload<>(&QWidget::update));
+    connect(mpImp->mpMenu, &QMenu::triggered, this, &DropDown::ActionTriggered);
+    connect(mpImp->mpMenu, &QMenu::aboutToShow, this, &DropDown::DropDownListAboutToShow);
+    connect(mpImp->mpMenu, &DropDownMenu::MouseMoveOnMenu, this, &DropDown::MouseMoveOnMenu);
+    // The menu's items are measured in the theme's fonts: a switch settles its width again.
+    auto* color = new Internal::ThemedColor(this);
+    color->SetThemeChangedHandler([this] {
+        if (mpImp->mpMenu)
+            mpImp->mpMenu->UpdateWidth();
+    });
 }
 
 DropDown::~DropDown()
@@ -933,7 +938,7 @@ void DropDown::OpenDropDownMenu()
     if (mpImp->mAlignment == AlignLeft)
         position = mapToGlobal(QPoint(0, height()));
     else
-        position = mapToGlobal(QPoint(rect().right() + 1 - menu->sizeHint().width(), height()));
+        position = mapToGlobal(QPoint(rect().right() - menu->sizeHint().width(), height()));
     mpImp->mbMenuOpen = true;
     update();
     QPointer<DropDownMenu> guard(menu);

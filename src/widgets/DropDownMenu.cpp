@@ -339,7 +339,7 @@ void DropDownMenu::showEvent(QShowEvent* event)
 void DropDownMenu::changeEvent(QEvent* event)
 {
     QMenu::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange)
         UpdateWidth();
 }
 

@@ -1,9 +1,9 @@
 #include <KvUICore/widgets/Label.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
-#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QBitmap>
 #include <QHelpEvent>
@@ -55,13 +55,6 @@ public:
         return format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(text));
     }
 
-    void ApplyColor()
-    {
-        const QColor color = ThemeManager::GetInstance()->GetColor(msTextColorThemeKey);
-        if (color.isValid())
-            Internal::SetTextColor(mpOwner, color);
-    }
-
     // The right pixmap at the size it is drawn, with white made transparent.
     const QPixmap& PreparedRightPixmap(const QSize& size)
     {
@@ -101,7 +94,9 @@ public:
     }
 
     Label* mpOwner;
-    QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
+    // The label switches its key itself when it is disabled, so the colour
+    // object has no disabled key of its own.
+    Internal::ThemedColor* mpColor = nullptr;
     QString msReservedToolTip;
     QPixmap mRightPixmap;
     QPixmap mPreparedPixmap;
@@ -133,27 +128,23 @@ Label::~Label() = default;
 void Label::Initialize()
 {
     setFont(Internal::ItemViewFont());
-    if (ThemeManager::GetInstance()->Exists(ThemeFileKey::FontNormal1)) {
-        mpImp->msTextColorThemeKey = ThemeFileKey::FontNormal1;
-        mpImp->ApplyColor();
-    }
+    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1, QString());
     setMinimumHeight(kStandardControlHeight);
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &Label::OnThemeChanged);
 }
 
 QString Label::GetTextColorThemeKey() const
 {
-    return mpImp->msTextColorThemeKey;
+    return mpImp->mpColor->GetKey();
 }
 
 void Label::SetTextColorThemeKey(const QString& key, bool force)
 {
     if (!ThemeManager::GetInstance()->Exists(key))
         return;
-    if (key == mpImp->msTextColorThemeKey && !force)
+    if (key == mpImp->mpColor->GetKey() && !force)
         return;
-    mpImp->msTextColorThemeKey = key;
-    mpImp->ApplyColor();
+    mpImp->mpColor->SetKey(key);
+    mpImp->mpColor->Apply();
     update();
 }
 
@@ -215,8 +206,7 @@ int Label::getTextWidth() const
 
 void Label::OnThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
-    mpImp->ApplyColor();
+    mpImp->mpColor->Apply();
 }
 
 bool Label::event(QEvent* event)
@@ -244,15 +234,10 @@ void Label::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange) {
         const QString& key = isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled;
-        if (key != mpImp->msTextColorThemeKey && ThemeManager::GetInstance()->Exists(key)) {
-            mpImp->msTextColorThemeKey = key;
-            mpImp->ApplyColor();
-        }
+        if (ThemeManager::GetInstance()->Exists(key))
+            mpImp->mpColor->SetKey(key);
     } else if (event->type() == QEvent::FontChange) {
         mpImp->UpdateFixedWidth();
-    } else if (event->type() == QEvent::StyleChange) {
-        // A style sheet's polish replaces the palette: colour it again after it.
-        mpImp->ApplyColor();
     }
     QLabel::changeEvent(event);
 }
@@ -295,8 +280,7 @@ void Label::paintEvent(QPaintEvent* event)
         const QRect contents = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
         const int textWidth = std::min(contents.width(), mpImp->AvailableTextWidth() - contents.left());
         const QStaticText& shown = mpImp->ShownText(textWidth);
-        const QString& key = isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled;
-        QColor color = ThemeManager::GetInstance()->GetColor(key);
+        QColor color = mpImp->mpColor->GetColor();
         if (!color.isValid())
             color = palette().color(QPalette::WindowText);
         painter.setPen(color);

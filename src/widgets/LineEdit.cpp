@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -51,7 +52,7 @@ public:
         const QFont& font = mbIsPrompting ? mPromptingFont : mTextFont;
         if (mpOwner->font() != font)
             mpOwner->setFont(font);
-        Internal::SetTextColor(mpOwner, mbIsPrompting ? mPromptingColor : mTextColor);
+        mpColor->SetAlternateActive(mbIsPrompting);
     }
 
     void ShowFullOrElided()
@@ -64,12 +65,6 @@ public:
             Display(shown);
             mpOwner->setCursorPosition(mbHomeAlways ? 0 : qMin(cursor, int(shown.size())));
         }
-    }
-
-    QColor ThemedTextColor() const
-    {
-        ThemeManager* themes = ThemeManager::GetInstance();
-        return themes->GetColor(mpOwner->isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled);
     }
 
     QString ContextMenuStyleSheet() const
@@ -111,17 +106,17 @@ public:
 
     LineEdit* const mpOwner;
     QFont mTextFont = Internal::ItemViewFont();
-    QColor mTextColor;
+    // The text colour, and the prompting colour as its alternate look; both
+    // follow "FontNormal1" until a custom one is set.
+    Internal::ThemedColor* mpColor = nullptr;
     QString msPrompting;
     QFont mPromptingFont = [] {
         QFont font;
         font.setItalic(true);
         return font;
     }();
-    QColor mPromptingColor;
     bool mbIsPrompting = false;
     bool mbHomeAlways = false;
-    bool mbUseDefaultTextColor = true;
     bool mbSelectedByClick = false;
     bool mbAllowFocusInSelectAll = true;
     bool mbInContextMenu = false;
@@ -130,8 +125,6 @@ public:
     bool mbPreventContextMenu = false;
     const bool mbEmbedded;
     int miHoverState = 0;
-    // The prompting colour follows the theme until someone sets one.
-    bool mbUseDefaultPromptingColor = true;
 };
 
 LineEdit::LineEdit(QWidget* parent, bool embedded)
@@ -144,21 +137,16 @@ LineEdit::LineEdit(QWidget* parent, bool embedded)
     const int descent = fontMetrics().descent();
     setTextMargins(-3, -descent, -3, -descent);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    mpImp->mTextColor = mpImp->ThemedTextColor();
-    mpImp->mPromptingColor = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
-    Internal::SetTextColor(this, mpImp->mTextColor);
-    connect(ThemeManager::GetInstance(), SIGNAL(ThemeChanged(const QString&, const QString&)), this,
-            SLOT(OnThemeChanged()));
-    connect(this, SIGNAL(textEdited(const QString&)), this, SLOT(OnTextEdited(const QString&)));
+    mpImp->mpColor = new Internal::ThemedColor(this);
+    mpImp->mpColor->SetAlternateKey(ThemeFileKey::FontNormal1);
+    mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
+    connect(this, &QLineEdit::textEdited, this, &LineEdit::OnTextEdited);
     if (embedded) {
         setStyle(LineEditStyle::GetInstance());
     } else {
         setFocusPolicy(Qt::StrongFocus);
         setStyle(CustomStyle::GetInstance());
         setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        QPalette pal = palette();
-        pal.setColor(QPalette::Text, mpImp->mTextColor);
-        setPalette(pal);
     }
 }
 
@@ -257,19 +245,12 @@ QFont LineEdit::GetPromptingFont() const
 
 void LineEdit::SetPromptingColor(const QColor& color)
 {
-    if (mpImp->mPromptingColor == color) {
-        mpImp->mbUseDefaultPromptingColor = false;
-        return;
-    }
-    mpImp->mbUseDefaultPromptingColor = false;
-    mpImp->mPromptingColor = color;
-    if (mpImp->mbIsPrompting)
-        mpImp->ApplyLook();
+    mpImp->mpColor->SetAlternateCustomColor(color);
 }
 
 QColor LineEdit::GetPromptingColor() const
 {
-    return mpImp->mPromptingColor;
+    return mpImp->mpColor->GetEnabledColor(true);
 }
 
 void LineEdit::SetTextFont(const QFont& font)
@@ -290,17 +271,12 @@ QFont LineEdit::GetTextFont() const
 
 void LineEdit::SetTextColor(const QColor& color)
 {
-    mpImp->mbUseDefaultTextColor = false;
-    if (mpImp->mTextColor == color)
-        return;
-    mpImp->mTextColor = color;
-    if (!mpImp->mbIsPrompting)
-        mpImp->ApplyLook();
+    mpImp->mpColor->SetCustomColor(color);
 }
 
 QColor LineEdit::GetTextColor() const
 {
-    return mpImp->mTextColor;
+    return mpImp->mpColor->IsDefault() ? mpImp->mpColor->GetColor(false) : mpImp->mpColor->GetCustomColor();
 }
 
 QFont LineEdit::GetCurrentFont() const
@@ -310,7 +286,7 @@ QFont LineEdit::GetCurrentFont() const
 
 bool LineEdit::IsUseDefaultTextColor() const
 {
-    return mpImp->mbUseDefaultTextColor;
+    return mpImp->mpColor->IsDefault();
 }
 
 void LineEdit::SetElideMode(Qt::TextElideMode mode)
@@ -381,17 +357,7 @@ void LineEdit::UpdateAccessibleName(const QString& name)
 
 void LineEdit::OnThemeChanged()
 {
-    if (mpImp->mbUseDefaultPromptingColor) {
-        mpImp->mPromptingColor = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
-        if (mpImp->mbIsPrompting)
-            Internal::SetTextColor(this, mpImp->mPromptingColor);
-    }
-    if (mpImp->mbUseDefaultTextColor) {
-        mpImp->mTextColor = mpImp->ThemedTextColor();
-        if (!mpImp->mbIsPrompting)
-            Internal::SetTextColor(this, mpImp->mTextColor);
-    }
-    update();
+    mpImp->mpColor->Apply();
 }
 
 void LineEdit::OnTextEdited(const QString& text)
@@ -481,16 +447,6 @@ void LineEdit::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
     mpImp->ShowFullOrElided();
-}
-
-void LineEdit::changeEvent(QEvent* event)
-{
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && mpImp->mbUseDefaultTextColor) {
-        mpImp->mTextColor = mpImp->ThemedTextColor();
-        if (!mpImp->mbIsPrompting)
-            Internal::SetTextColor(this, mpImp->mTextColor);
-    }
 }
 
 } // namespace Kavrel::UICore

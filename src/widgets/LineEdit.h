@@ -36,11 +36,14 @@ public:
 
     void SetPromptingFont(const QFont& font);
     QFont GetPromptingFont() const;
+    // A custom prompting colour; an invalid colour returns to the themed one.
     void SetPromptingColor(const QColor& color);
     QColor GetPromptingColor() const;
     void SetTextFont(const QFont& font);
     QFont GetTextFont() const;
-    // A colour set here replaces the themed default for good.
+    // A colour set here replaces the themed default and survives theme
+    // switches; an invalid colour returns to the themed default. While the
+    // editor is disabled it shows the theme's disabled colour either way.
     void SetTextColor(const QColor& color);
     QColor GetTextColor() const;
     // The prompting font while prompting, else the text font.
@@ -81,7 +84,6 @@ protected:
     void leaveEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     Q_DISABLE_COPY_MOVE(LineEdit)

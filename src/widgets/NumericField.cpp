@@ -5,6 +5,7 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -19,13 +20,6 @@ public:
     explicit NumericFieldImp(NumericField* owner)
         : mpOwner(owner)
     {}
-
-    void ApplyTextColor()
-    {
-        ThemeManager* themes = ThemeManager::GetInstance();
-        Internal::SetTextColor(mpOwner, themes->GetColor(mpOwner->isEnabled() ? ThemeFileKey::FontNormal1
-                                                                              : ThemeFileKey::FontColorDisabled));
-    }
 
     // Strokes rect one stroke unit wide, inside its edges.
     static void StrokeInside(QPainter& painter, const QRectF& rect, const QColor& color, qreal unit)
@@ -82,11 +76,7 @@ NumericField::NumericField(QWidget* parent)
     setAttribute(Qt::WA_Hover, true);
     setAttribute(Qt::WA_MacShowFocusRect, false);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    mpImp->ApplyTextColor();
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, [this] {
-        mpImp->ApplyTextColor();
-        update();
-    });
+    new Internal::ThemedColor(this);
 }
 
 NumericField::~NumericField() = default;
@@ -180,14 +170,6 @@ void NumericField::paintEvent(QPaintEvent* event)
         mpImp->PaintFrame(painter);
     }
     QLineEdit::paintEvent(event);
-}
-
-void NumericField::changeEvent(QEvent* event)
-{
-    QLineEdit::changeEvent(event);
-    // A style sheet's polish replaces the palette: colour it again after it.
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
-        mpImp->ApplyTextColor();
 }
 
 } // namespace Kavrel::UICore

@@ -42,7 +42,6 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
     // Takes the line edit's own modified state into the sticky flag.
     void UpdateModified();

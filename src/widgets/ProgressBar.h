@@ -6,7 +6,8 @@
 
 namespace Kavrel::UICore {
 
-// A progress bar painted by CustomStyle, its text in the theme's colour.
+// A progress bar painted by CustomStyle, its text in the theme's "FontNormal1",
+// enabled or not.
 class KVUICORE_EXPORT ProgressBar : public QProgressBar
 {
     Q_OBJECT
@@ -14,9 +15,6 @@ class KVUICORE_EXPORT ProgressBar : public QProgressBar
 public:
     explicit ProgressBar(QWidget* parent = nullptr);
     ~ProgressBar() override;
-
-protected:
-    void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:
     void OnThemeChanged();

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -47,7 +48,10 @@ public:
             mpOwner->UpdateToolTip();
     }
 
+    void UpdateTextLook() { mpColor->SetAlternateActive(mpOwner->isChecked() && !mbIsMiniIcon); }
+
     PushButton* mpOwner;
+    Internal::ThemedColor* mpColor = nullptr;
     bool mbIsMiniIcon = false;
     int miMouseState = PushButton::Idle;
     QImage mIconImage;
@@ -97,9 +101,13 @@ PushButton::PushButton(QWidget* parent)
     setAttribute(Qt::WA_Hover);
     resize(ThemeFileKey::ButtonDefaultSize);
     setMinimumSize(ThemeFileKey::ButtonDefaultSize);
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &PushButton::ThemeChanged);
+    // A checked button's text takes the active colour where the theme has one.
+    mpImp->mpColor = new Internal::ThemedColor(this);
+    mpImp->mpColor->SetAlternateKey(ThemeFileKey::FontActive1);
+    mpImp->mpColor->SetThemeChangedHandler([this] { ThemeChanged(); });
     connect(this, &QObject::objectNameChanged, this, &PushButton::UpdateIcon);
     connect(this, &QAbstractButton::toggled, this, [this] {
+        mpImp->UpdateTextLook();
         if (mpImp->mbIsMiniIcon)
             UpdateIcon();
     });
@@ -123,6 +131,7 @@ void PushButton::SetIsMiniIcon(bool miniIcon)
     if (miniIcon == mpImp->mbIsMiniIcon)
         return;
     mpImp->mbIsMiniIcon = miniIcon;
+    mpImp->UpdateTextLook();
     UpdateIcon();
     update();
 }
@@ -163,10 +172,7 @@ void PushButton::updateGeometry()
         QRect block(QPoint(), GetPreferredSize());
         block.moveCenter(r.center());
         d.mIconRect = QRect(block.left(), block.top(), iconSize().width(), block.height());
-        // The text may use the room up to the inner right edge when the button
-        // is wider than its preferred block.
-        const int right = std::max(block.right(), r.right() - kTextGap);
-        d.mTextRect = QRect(QPoint(d.mIconRect.right() + kTextGap, block.top()), QPoint(right, r.bottom()));
+        d.mTextRect = QRect(QPoint(d.mIconRect.right() + kTextGap, block.top()), QPoint(block.right(), r.bottom()));
     } else {
         d.miLayoutKind = hasIcon ? 1 : 0;
         d.mIconRect = QRect(QPoint(), iconSize());
@@ -239,7 +245,7 @@ void PushButton::UpdateToolTip()
 
 void PushButton::ThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
+    mpImp->mpColor->Apply();
     UpdateIcon();
 }
 
@@ -360,12 +366,7 @@ void PushButton::paintEvent(QPaintEvent*)
         icon().paint(&painter, target, Qt::AlignCenter, mode, isChecked() ? QIcon::On : QIcon::Off);
     }
     if (!text().isEmpty()) {
-        QString colorKey = ThemeFileKey::FontNormal1;
-        if (!isEnabled())
-            colorKey = ThemeFileKey::FontColorDisabled;
-        else if (isChecked() && !d.mbIsMiniIcon && themes->Exists(ThemeFileKey::FontActive1))
-            colorKey = ThemeFileKey::FontActive1;
-        painter.setPen(themes->GetColor(colorKey));
+        painter.setPen(d.mpColor->GetColor());
         const QStaticText& shown = d.ShownText();
         const QSizeF size = shown.size();
         const QRect& r = d.mTextRect;

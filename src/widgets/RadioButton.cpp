@@ -5,8 +5,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
-
-#include <QEvent>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
 
@@ -20,6 +19,7 @@ class RadioButtonImp
 {
 public:
     QString msIconThemeKey;
+    Internal::ThemedColor* mpColor = nullptr;
 };
 
 RadioButton::RadioButton(QWidget* parent)
@@ -45,9 +45,12 @@ void RadioButton::Initialize()
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);
     setIconSize(ThemeFileKey::NormalIconSize);
-    ApplyTheme();
-    connect(this, &QAbstractButton::toggled, this, &RadioButton::ApplyTheme);
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &RadioButton::OnThemeChanged);
+    // A checked tile's text takes the active colour where the theme has one.
+    mpImp->mpColor = new Internal::ThemedColor(this);
+    mpImp->mpColor->SetAlternateKey(ThemeFileKey::FontActive1);
+    mpImp->mpColor->SetAlternateActive(isChecked());
+    mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
+    connect(this, &QAbstractButton::toggled, mpImp->mpColor, &Internal::ThemedColor::SetAlternateActive);
 }
 
 QString RadioButton::GetIconThemeKey() const
@@ -60,7 +63,7 @@ void RadioButton::SetIconThemeKey(const QString& key)
     if (key == mpImp->msIconThemeKey)
         return;
     mpImp->msIconThemeKey = key;
-    ApplyTheme();
+    Internal::ApplyThemedIcon(this, key);
     updateGeometry();
 }
 
@@ -91,27 +94,8 @@ bool RadioButton::hitButton(const QPoint& pos) const
 
 void RadioButton::OnThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
-    ApplyTheme();
-}
-
-void RadioButton::ApplyTheme()
-{
-    ThemeManager* themes = ThemeManager::GetInstance();
-    QString key = ThemeFileKey::FontNormal1;
-    if (!isEnabled())
-        key = ThemeFileKey::FontColorDisabled;
-    else if (isChecked() && themes->Exists(ThemeFileKey::FontActive1))
-        key = ThemeFileKey::FontActive1;
-    Internal::ApplyThemedTextAndIcon(this, key, mpImp->msIconThemeKey);
-}
-
-void RadioButton::changeEvent(QEvent* event)
-{
-    // A style sheet's polish replaces the palette: colour it again after it.
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
-        ApplyTheme();
-    QRadioButton::changeEvent(event);
+    mpImp->mpColor->Apply();
+    Internal::ApplyThemedIcon(this, mpImp->msIconThemeKey);
 }
 
 } // namespace Kavrel::UICore

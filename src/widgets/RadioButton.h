@@ -34,13 +34,11 @@ public Q_SLOTS:
     void OnThemeChanged();
 
 protected:
-    void changeEvent(QEvent* event) override;
     bool hitButton(const QPoint& pos) const override;
 
 private:
     Q_DISABLE_COPY_MOVE(RadioButton)
     void Initialize();
-    void ApplyTheme();
 
     std::unique_ptr<RadioButtonImp> const mpImp;
 };

@@ -1,11 +1,11 @@
 #include <KvUICore/widgets/Slider.h>
 
-#include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/DeferredUnitsUpdate_p.h>
 #include <KvUICore/widgets/NumericField.h>
 #include <KvUICore/widgets/SliderControl.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <KvCoreUnits/MathUtilities.h>
 #include <KvCoreUnits/UnitsConverter.h>
@@ -142,20 +142,9 @@ public:
 
     void ShowLabelFor(int symbol) { mpOwner->SetUnitSymbolLabel(mpOwner->GetUnitDisplayName(symbol)); }
 
-    void ApplyTextColors()
-    {
-        const QColor color = ThemeManager::GetInstance()->GetColor(
-            mpOwner->isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled);
-        Internal::SetTextColor(mpUnitSymbolLabel, color);
-        Internal::SetTextColor(mpNumericField, color);
-    }
-
     void MarkOrUpdate()
     {
-        if (mbDeferUpdateForUnits)
-            mbHaveDeferredUpdatesForUnits = true;
-        else
-            mpOwner->UpdateForUnits();
+        mDeferred.MarkOrRun([this] { mpOwner->UpdateForUnits(); });
     }
 
     Slider* const mpOwner;
@@ -175,8 +164,7 @@ public:
     int miEffectivePrecision = 2;
     bool mbTreatValueAsFloat = false;
     bool mbUpdatingSlider = false;
-    bool mbDeferUpdateForUnits = false;
-    bool mbHaveDeferredUpdatesForUnits = false;
+    Internal::DeferredUnitsUpdate mDeferred;
     int miPendingUnitSymbol = -1;
     int miPendingPrecision = -1;
 };
@@ -195,7 +183,9 @@ Slider::Slider(QWidget* parent)
     mpImp->mpNumericField = new NumericField(this);
     mpImp->mpUnitSymbolLabel = new QLabel(this);
     mpImp->mpUnitSymbolLabel->hide();
-    mpImp->mpUnitSymbolLabel->installEventFilter(this);
+    // The field colours its own text; the label gets the same colour.
+    auto* labelColor = new Internal::ThemedColor(mpImp->mpUnitSymbolLabel);
+    labelColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
 
     mpImp->UpdateRange(false);
 
@@ -218,20 +208,19 @@ Slider::Slider(QWidget* parent)
     mpImp->ShowValueInField();
     mpImp->mpUnitSymbolLabel->setAlignment(Qt::AlignVCenter);
 
-    connect(mpImp->mpSliderControl, SIGNAL(valueChanged(int)), this, SLOT(UpdateSliderValue(int)));
-    connect(mpImp->mpNumericField, SIGNAL(editingFinished()), this, SLOT(TextEditComplete()));
-    connect(mpImp->mpSliderControl, SIGNAL(sliderPressed()), this, SLOT(OnSliderPressed()));
-    connect(mpImp->mpSliderControl, SIGNAL(sliderMoved(int)), this, SLOT(OnSliderMoved(int)));
-    connect(mpImp->mpSliderControl, SIGNAL(sliderReleased()), this, SLOT(OnSliderReleased()));
-    connect(mpImp->mpSliderControl, SIGNAL(EscapeReleased()), this, SLOT(EscapeReleased()));
-    connect(mpImp->mpSliderControl, SIGNAL(FocusOut()), this, SIGNAL(SliderFocusOut()));
-    connect(mpImp->mpSliderControl, SIGNAL(IncDecKeyPressed(int)), this, SLOT(IncDecKeyPressed(int)));
-    connect(mpImp->mpNumericField, SIGNAL(FocusOut()), this, SIGNAL(SliderFocusOut()));
-    connect(ThemeManager::GetInstance(), SIGNAL(ThemeChanged(const QString&, const QString&)), this,
-            SLOT(OnThemeChanged()));
+    SliderControl* control = mpImp->mpSliderControl;
+    NumericField* field = mpImp->mpNumericField;
+    connect(control, &QAbstractSlider::valueChanged, this, &Slider::UpdateSliderValue);
+    connect(field, &QLineEdit::editingFinished, this, &Slider::TextEditComplete);
+    connect(control, &QAbstractSlider::sliderPressed, this, &Slider::OnSliderPressed);
+    connect(control, &QAbstractSlider::sliderMoved, this, &Slider::OnSliderMoved);
+    connect(control, &QAbstractSlider::sliderReleased, this, &Slider::OnSliderReleased);
+    connect(control, &SliderControl::EscapeReleased, this, &Slider::EscapeReleased);
+    connect(control, &SliderControl::FocusOut, this, &Slider::SliderFocusOut);
+    connect(control, &SliderControl::IncDecKeyPressed, this, &Slider::IncDecKeyPressed);
+    connect(field, &NumericField::FocusOut, this, &Slider::SliderFocusOut);
 
     mpImp->SetSliderValue(mpImp->mpSliderControl->value());
-    mpImp->ApplyTextColors();
 }
 
 Slider::~Slider() = default;
@@ -347,23 +336,23 @@ void Slider::ClearModified()
 
 void Slider::SetDeferUpdateForUnits(bool defer)
 {
-    mpImp->mbDeferUpdateForUnits = defer;
+    mpImp->mDeferred.SetDeferring(defer);
 }
 
 bool Slider::DeferUpdateForUnits() const
 {
-    return mpImp->mbDeferUpdateForUnits;
+    return mpImp->mDeferred.IsDeferring();
 }
 
 bool Slider::HaveDeferredUpdatesForUnits() const
 {
-    return mpImp->mbHaveDeferredUpdatesForUnits;
+    return mpImp->mDeferred.HasPending();
 }
 
 void Slider::UpdateForUnits()
 {
-    if (mpImp->mbDeferUpdateForUnits) {
-        mpImp->mbHaveDeferredUpdatesForUnits = true;
+    if (mpImp->mDeferred.IsDeferring()) {
+        mpImp->mDeferred.Mark();
         return;
     }
     if (mpImp->miPendingPrecision != -1 && mpImp->miPendingUnitSymbol == -1)
@@ -375,7 +364,7 @@ void Slider::UpdateForUnits()
         mpImp->miPendingUnitSymbol = -1;
     }
     mpImp->ShowValueInField();
-    mpImp->mbHaveDeferredUpdatesForUnits = false;
+    mpImp->mDeferred.Clear();
 }
 
 void Slider::setGeometry(const QRect& rect)
@@ -390,29 +379,14 @@ void Slider::resizeEvent(QResizeEvent* event)
     updateGeometry();
 }
 
-void Slider::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        mpImp->ApplyTextColors();
-}
-
-bool Slider::eventFilter(QObject* watched, QEvent* event)
-{
-    // A style sheet's polish replaces the label's palette: colour it again after it.
-    if (watched == mpImp->mpUnitSymbolLabel && event->type() == QEvent::StyleChange)
-        mpImp->ApplyTextColors();
-    return QWidget::eventFilter(watched, event);
-}
-
 void Slider::OnChanged_DecimalPrecision(int, int newPrecision)
 {
     mpImp->miEffectivePrecision = std::clamp(newPrecision, 0, kMaximumEffectivePrecision);
     mpImp->miMultiplier = int(std::lround(std::pow(10.0, mpImp->miEffectivePrecision)));
     mpImp->mpSliderControl->SetPrecision(newPrecision, mpImp->miEffectivePrecision);
-    if (mpImp->mbDeferUpdateForUnits) {
+    if (mpImp->mDeferred.IsDeferring()) {
         mpImp->miPendingPrecision = newPrecision;
-        mpImp->mbHaveDeferredUpdatesForUnits = true;
+        mpImp->mDeferred.Mark();
         return;
     }
     mpImp->ShowValueInField();
@@ -421,19 +395,14 @@ void Slider::OnChanged_DecimalPrecision(int, int newPrecision)
 
 void Slider::OnChanged_UnitSymbol(UnitSymbol, UnitSymbol newSymbol)
 {
-    if (mpImp->mbDeferUpdateForUnits) {
+    if (mpImp->mDeferred.IsDeferring()) {
         mpImp->miPendingUnitSymbol = newSymbol;
-        mpImp->mbHaveDeferredUpdatesForUnits = true;
+        mpImp->mDeferred.Mark();
         return;
     }
     mpImp->ShowLabelFor(newSymbol);
     mpImp->ShowValueInField();
     mpImp->UpdateRange(true);
-}
-
-void Slider::OnChanged_NumberFormat(NumberFormat, NumberFormat)
-{
-    mpImp->MarkOrUpdate();
 }
 
 void Slider::OnChanged_Value(double, double newValue)
@@ -529,7 +498,8 @@ void Slider::OnSliderMoved(int position)
 
 void Slider::OnThemeChanged()
 {
-    mpImp->ApplyTextColors();
+    Internal::ThemedColor::Of(mpImp->mpUnitSymbolLabel)->Apply();
+    Internal::ThemedColor::Of(mpImp->mpNumericField)->Apply();
     update();
 }
 
@@ -540,18 +510,23 @@ void Slider::EscapeReleased()
 
 void Slider::IncDecKeyPressed(int number)
 {
-    const Units::teType symbolType = mpImp->SymbolUnitType();
-    const Units::teType unitType = GetUnitType();
     const int precision = GetDecimalPrecision();
-    const double step = HasDegreeMinuteSecond(GetUnitSymbolType()) ? CalculateStepForDegreeMinuteSecond(precision)
-                                                                   : 1.0 / std::pow(10.0, precision);
-    double shown = GetValue();
-    if (symbolType != unitType && UnitsConverter::Convert(GetValue(), unitType, shown, symbolType) != units::kSuccess)
-        return;
-    shown += step * number;
-    double value = shown;
-    if (symbolType != unitType && UnitsConverter::Convert(shown, symbolType, value, unitType) != units::kSuccess)
-        return;
+    double value = GetValue();
+    if (HasDegreeMinuteSecond(GetUnitSymbolType())) {
+        // The step is already one of the shown angle's smallest parts.
+        value += CalculateStepForDegreeMinuteSecond(precision) * number;
+    } else {
+        const Units::teType symbolType = mpImp->SymbolUnitType();
+        const Units::teType unitType = GetUnitType();
+        double shown = value;
+        if (symbolType != unitType && UnitsConverter::Convert(value, unitType, shown, symbolType) != units::kSuccess)
+            return;
+        shown += number / std::pow(10.0, precision);
+        if (symbolType != unitType && UnitsConverter::Convert(shown, symbolType, value, unitType) != units::kSuccess)
+            return;
+        if (symbolType == unitType)
+            value = shown;
+    }
     WidgetUnits::SetValue(mpImp->Clamped(value), false);
     mpImp->ShowValueInField();
     Q_EMIT ValueChanged(GetValue());

@@ -78,7 +78,6 @@ public:
 
     void OnChanged_DecimalPrecision(int oldPrecision, int newPrecision) override;
     void OnChanged_UnitSymbol(UnitSymbol oldSymbol, UnitSymbol newSymbol) override;
-    void OnChanged_NumberFormat(NumberFormat oldFormat, NumberFormat newFormat) override;
     void OnChanged_Value(double oldValue, double newValue) override;
     void OnChanged_DecimalSeparator(QString oldSeparator, QString newSeparator) override;
     void OnChanged_GroupSeparator(QString oldSeparator, QString newSeparator) override;
@@ -108,8 +107,6 @@ public Q_SLOTS:
 protected:
     bool ValidateValue(const QString& text, double& value) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Q_DISABLE_COPY_MOVE(Slider)

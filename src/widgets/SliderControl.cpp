@@ -1,7 +1,6 @@
 #include <KvUICore/widgets/SliderControl.h>
 
-#include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -151,7 +150,10 @@ public:
 SliderControl::SliderControl(QWidget* parent)
     : QSlider(Qt::Horizontal, parent)
     , mpImp(std::make_unique<SliderControlImp>(this))
-{}
+{
+    // The text painted into the groove.
+    new Internal::ThemedColor(this);
+}
 
 SliderControl::~SliderControl() = default;
 
@@ -361,8 +363,7 @@ void SliderControl::paintEvent(QPaintEvent* event)
         return;
     QPainter painter(this);
     painter.setFont(font());
-    painter.setPen(ThemeManager::GetInstance()->GetColor(isEnabled() ? ThemeFileKey::FontNormal1
-                                                                     : ThemeFileKey::FontColorDisabled));
+    painter.setPen(Internal::ThemedColor::Of(this)->GetColor());
     painter.drawText(textRect, Qt::AlignCenter,
                      fontMetrics().elidedText(mpImp->msDisplayText, Qt::ElideRight, textRect.width()));
 }

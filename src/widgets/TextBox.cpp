@@ -8,6 +8,7 @@
 #include <KvUICore/widgets/LineEdit.h>
 #include <KvUICore/widgets/TextBoxImp.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QAction>
 #include <QApplication>
@@ -175,19 +176,22 @@ QFont TextBoxImp::SizedFont(const QFont& font) const
 
 void TextBoxImp::PushEditorLook(const QColor& textColor)
 {
+    // The editor follows the theme by itself; a colour is pushed only where
+    // the box's look differs from that (a derived box's own colours, the
+    // dimmed text of a disabled box), and taken back when it no longer does.
+    const QColor themed = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    const auto pushed = [&themed](const QColor& color) { return color == themed ? QColor() : color; };
     const QFont textFont = SizedFont(mpOwner->TextFont());
     if (mpTextBoxControl->GetTextFont() != textFont)
         mpTextBoxControl->SetTextFont(textFont);
-    if (mpTextBoxControl->GetTextColor() != textColor || mpTextBoxControl->IsUseDefaultTextColor())
-        mpTextBoxControl->SetTextColor(textColor);
+    mpTextBoxControl->SetTextColor(pushed(textColor));
     const QFont promptingFont = SizedFont(mpOwner->PromptingFont());
     if (mpTextBoxControl->GetPromptingFont() != promptingFont)
         mpTextBoxControl->SetPromptingFont(promptingFont);
     QColor promptingColor = mpOwner->PromptingColor();
     if (!mpOwner->isEnabled())
         promptingColor = Internal::DimmedColor(promptingColor);
-    if (mpTextBoxControl->GetPromptingColor() != promptingColor)
-        mpTextBoxControl->SetPromptingColor(promptingColor);
+    mpTextBoxControl->SetPromptingColor(pushed(promptingColor));
 }
 
 void TextBoxImp::UpdateEditorTooltip(const QString& text)
@@ -241,14 +245,16 @@ TextBox::TextBox(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, sizePolicy().verticalPolicy());
 
     LineEdit* editor = mpImp->mpTextBoxControl;
-    connect(editor, SIGNAL(textEdited(const QString&)), this, SLOT(OnTextEdited(const QString&)));
-    connect(editor, SIGNAL(cursorPositionChanged(int, int)), this, SLOT(OnCursorPositionChanged(int, int)));
-    connect(editor, SIGNAL(editingFinished()), this, SLOT(OnEditingFinished()));
-    connect(editor, SIGNAL(returnPressed()), this, SLOT(OnReturnPressed()));
-    connect(editor, SIGNAL(selectionChanged()), this, SLOT(OnSelectionChanged()));
-    connect(editor, SIGNAL(textChanged(const QString&)), this, SLOT(OnTextChanged(const QString&)));
-
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, qOverload<>(&QWidget::update));
+    connect(editor, &QLineEdit::textEdited, this, &TextBox::OnTextEdited);
+    connect(editor, &QLineEdit::cursorPositionChanged, this, &TextBox::OnCursorPositionChanged);
+    connect(editor, &QLineEdit::editingFinished, this, &TextBox::OnEditingFinished);
+    connect(editor, &QLineEdit::returnPressed, this, &TextBox::OnReturnPressed);
+    connect(editor, &QLineEdit::selectionChanged, this, &TextBox::OnSelectionChanged);
+    connect(editor, &QLineEdit::textChanged, this, &TextBox::OnTextChanged);
+    // The box paints its own disabled look (the text dimmed) and pushes it.
+    Internal::ThemedColor* editorColor = Internal::ThemedColor::Of(editor);
+    editorColor->SetDisabledKey(QString());
+    editorColor->SetThemeChangedHandler([this] { update(); });
 
     editor->setAccessibleName(QStringLiteral("mpTextBoxControl"));
     mpImp->mpImageControl->setAccessibleName(QStringLiteral("mpImageControl"));
@@ -366,11 +372,11 @@ void TextBox::SetImageAction(QAction* action)
     if (action == mpImp->mpImageAction)
         return;
     if (mpImp->mpImageAction)
-        disconnect(mpImp->mpImageAction, SIGNAL(changed()), this, SLOT(ImageActionChanged()));
+        disconnect(mpImp->mpImageAction, &QAction::changed, this, &TextBox::ImageActionChanged);
     mpImp->mpImageAction = action;
     if (action) {
         SetIcon(action->icon());
-        connect(action, SIGNAL(changed()), this, SLOT(ImageActionChanged()));
+        connect(action, &QAction::changed, this, &TextBox::ImageActionChanged);
     }
 }
 

@@ -1,20 +1,17 @@
 #include <KvUICore/widgets/TextLabel.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
-#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
-
-#include <QEvent>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
 
 class TextLabelImp
 {
 public:
-    QString msTextColorThemeKey = ThemeFileKey::FontNormal1;
+    Internal::ThemedColor* mpColor = nullptr;
     bool mbBold = false;
-    bool mbApplying = false;
 };
 
 TextLabel::TextLabel(QWidget* parent)
@@ -36,21 +33,20 @@ TextLabel::~TextLabel() = default;
 void TextLabel::Initialize()
 {
     setTextFormat(Qt::PlainText);
-    ApplyTheme();
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &TextLabel::OnThemeChanged);
+    mpImp->mpColor = new Internal::ThemedColor(this);
+    mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
+    ApplyFont();
 }
 
 QString TextLabel::GetTextColorThemeKey() const
 {
-    return mpImp->msTextColorThemeKey;
+    return mpImp->mpColor->GetKey();
 }
 
 void TextLabel::SetTextColorThemeKey(const QString& key)
 {
-    if (key == mpImp->msTextColorThemeKey || !ThemeManager::GetInstance()->Exists(key))
-        return;
-    mpImp->msTextColorThemeKey = key;
-    ApplyTheme();
+    if (ThemeManager::GetInstance()->Exists(key))
+        mpImp->mpColor->SetKey(key);
 }
 
 bool TextLabel::IsBold() const
@@ -63,34 +59,21 @@ void TextLabel::SetBold(bool bold)
     if (bold == mpImp->mbBold)
         return;
     mpImp->mbBold = bold;
-    ApplyTheme();
+    ApplyFont();
 }
 
 void TextLabel::OnThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
-    ApplyTheme();
+    mpImp->mpColor->Apply();
+    ApplyFont();
 }
 
-void TextLabel::ApplyTheme()
+void TextLabel::ApplyFont()
 {
-    ThemeManager* themes = ThemeManager::GetInstance();
-    mpImp->mbApplying = true;
-    const QColor color = themes->GetColor(isEnabled() ? mpImp->msTextColorThemeKey : ThemeFileKey::FontColorDisabled);
-    if (color.isValid())
-        Internal::SetTextColor(this, color);
     QFont font = Internal::ItemViewFont();
-    font.setBold(mpImp->mbBold && themes->GetInt(ThemeFileKey::StaticLabelFontBold) != 0);
-    setFont(font);
-    mpImp->mbApplying = false;
-}
-
-void TextLabel::changeEvent(QEvent* event)
-{
-    // A style sheet's polish replaces the palette: colour it again after it.
-    if ((event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange) && !mpImp->mbApplying)
-        ApplyTheme();
-    QLabel::changeEvent(event);
+    font.setBold(mpImp->mbBold && ThemeManager::GetInstance()->GetInt(ThemeFileKey::StaticLabelFontBold) != 0);
+    if (font != this->font())
+        setFont(font);
 }
 
 } // namespace Kavrel::UICore

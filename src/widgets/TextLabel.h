@@ -33,13 +33,10 @@ public:
 public Q_SLOTS:
     void OnThemeChanged();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     Q_DISABLE_COPY_MOVE(TextLabel)
     void Initialize();
-    void ApplyTheme();
+    void ApplyFont();
 
     std::unique_ptr<TextLabelImp> const mpImp;
 };

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QEvent>
@@ -29,12 +30,18 @@ ThemedColor::ThemedColor(QWidget* widget, const QString& key, const QString& dis
     , msDisabledKey(disabledKey)
 {
     Q_ASSERT(widget);
+    msTheme = ThemeManager::GetInstance()->GetCurrentTheme();
     widget->installEventFilter(this);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &ThemedColor::OnThemeChanged);
     Apply();
 }
 
 ThemedColor::~ThemedColor() = default;
+
+ThemedColor* ThemedColor::Of(const QWidget* widget)
+{
+    return widget ? widget->findChild<ThemedColor*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+}
 
 QWidget* ThemedColor::GetWidget() const
 {
@@ -85,13 +92,74 @@ bool ThemedColor::IsDefault() const
     return !mCustomColor.isValid();
 }
 
-QColor ThemedColor::GetColor() const
+const QString& ThemedColor::GetAlternateKey() const
 {
-    if (!mpWidget->isEnabled())
-        return ThemeManager::GetInstance()->GetColor(msDisabledKey);
+    return msAlternateKey;
+}
+
+void ThemedColor::SetAlternateKey(const QString& key)
+{
+    if (key == msAlternateKey)
+        return;
+    msAlternateKey = key;
+    Apply();
+}
+
+void ThemedColor::SetAlternateCustomColor(const QColor& color)
+{
+    if (color == mAlternateCustomColor)
+        return;
+    mAlternateCustomColor = color;
+    Apply();
+}
+
+const QColor& ThemedColor::GetAlternateCustomColor() const
+{
+    return mAlternateCustomColor;
+}
+
+bool ThemedColor::IsAlternateActive() const
+{
+    return mbAlternateActive;
+}
+
+void ThemedColor::SetAlternateActive(bool active)
+{
+    if (active == mbAlternateActive)
+        return;
+    mbAlternateActive = active;
+    Apply();
+}
+
+QColor ThemedColor::GetEnabledColor(bool alternate) const
+{
+    if (alternate) {
+        if (mAlternateCustomColor.isValid())
+            return mAlternateCustomColor;
+        if (!msAlternateKey.isEmpty()) {
+            const QColor color = ThemeManager::GetInstance()->GetColor(msAlternateKey);
+            if (color.isValid())
+                return color;
+        }
+    }
     if (mCustomColor.isValid())
         return mCustomColor;
     return ThemeManager::GetInstance()->GetColor(msKey);
+}
+
+QColor ThemedColor::GetColor(bool alternate) const
+{
+    if (!mpWidget->isEnabled() && !msDisabledKey.isEmpty()) {
+        const QColor color = ThemeManager::GetInstance()->GetColor(msDisabledKey);
+        if (color.isValid())
+            return color;
+    }
+    return GetEnabledColor(alternate);
+}
+
+QColor ThemedColor::GetColor() const
+{
+    return GetColor(mbAlternateActive);
 }
 
 void ThemedColor::Apply()
@@ -121,8 +189,16 @@ bool ThemedColor::eventFilter(QObject* watched, QEvent* event)
     if (watched == mpWidget && !mbApplying) {
         switch (event->type()) {
         case QEvent::EnabledChange:
-        case QEvent::StyleChange: // a style sheet's polish replaces the palette
+        case QEvent::Polish: // a style may settle the palette when it polishes
             Apply();
+            break;
+        case QEvent::StyleChange:
+            // A style sheet's repolish brings back the palette saved at the
+            // last polish. During a theme switch it comes before ThemeChanged,
+            // once for the widget and once more for every styled ancestor:
+            // the colour is applied once, when ThemeChanged arrives.
+            if (ThemeManager::GetInstance()->GetCurrentTheme() == msTheme)
+                Apply();
             break;
         default:
             break;
@@ -133,7 +209,9 @@ bool ThemedColor::eventFilter(QObject* watched, QEvent* event)
 
 void ThemedColor::OnThemeChanged()
 {
+    msTheme = ThemeManager::GetInstance()->GetCurrentTheme();
     Apply();
+    RepaintAfterThemeChange(mpWidget);
     if (mThemeChangedHandler)
         mThemeChangedHandler();
 }

@@ -5,8 +5,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
-
-#include <QEvent>
+#include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
 
@@ -25,8 +24,8 @@ ToolButton::ToolButton(QWidget* parent)
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::TabFocus);
     setIconSize(ThemeFileKey::NormalIconSize);
-    ApplyTheme();
-    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &ToolButton::OnThemeChanged);
+    auto* color = new Internal::ThemedColor(this);
+    color->SetThemeChangedHandler([this] { OnThemeChanged(); });
 }
 
 ToolButton::~ToolButton() = default;
@@ -41,27 +40,13 @@ void ToolButton::SetIconThemeKey(const QString& key)
     if (key == mpImp->msIconThemeKey)
         return;
     mpImp->msIconThemeKey = key;
-    ApplyTheme();
+    Internal::ApplyThemedIcon(this, key);
 }
 
 void ToolButton::OnThemeChanged()
 {
-    Internal::RepaintAfterThemeChange(this);
-    ApplyTheme();
-}
-
-void ToolButton::ApplyTheme()
-{
-    Internal::ApplyThemedTextAndIcon(this, isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled,
-                                     mpImp->msIconThemeKey);
-}
-
-void ToolButton::changeEvent(QEvent* event)
-{
-    // A style sheet's polish replaces the palette: colour it again after it.
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::StyleChange)
-        ApplyTheme();
-    QToolButton::changeEvent(event);
+    Internal::ThemedColor::Of(this)->Apply();
+    Internal::ApplyThemedIcon(this, mpImp->msIconThemeKey);
 }
 
 } // namespace Kavrel::UICore

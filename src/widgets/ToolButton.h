@@ -29,12 +29,8 @@ public:
 public Q_SLOTS:
     void OnThemeChanged();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     Q_DISABLE_COPY_MOVE(ToolButton)
-    void ApplyTheme();
 
     std::unique_ptr<ToolButtonImp> const mpImp;
 };

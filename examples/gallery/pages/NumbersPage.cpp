@@ -27,6 +27,9 @@ using Units = kvp::IDesignPropertyUnits;
 
 namespace {
 
+// The standard height of a control row.
+constexpr int kRowHeight = 24;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("NumbersPage", text);
@@ -163,7 +166,9 @@ QWidget* spinBoxes(Controls* controls, QWidget* parent)
         spin->setRange(kind.minimum, kind.maximum);
         ApplyKind(*spin, kind, true);
         spin->setValue(kind.initial);
-        spin->setMinimumWidth(150);
+        // The spin box's own size hint is low under the library's frameless
+        // style; the page gives it the standard row height, as a host would.
+        spin->setMinimumSize(150, kRowHeight);
         auto* parsed = new Label(ParsedText(spin->value(), kind), page);
         QObject::connect(spin, &QDoubleSpinBox::valueChanged, parsed,
                          [parsed, &kind](double value) { parsed->setText(ParsedText(value, kind)); });
@@ -184,6 +189,7 @@ QWidget* spinBoxes(Controls* controls, QWidget* parent)
     ApplyKind(*disabled, kKinds[0], true);
     disabled->setValue(640.0);
     disabled->setEnabled(false);
+    disabled->setMinimumSize(150, kRowHeight);
     grid->addWidget(new Label(tr("Disabled"), page), row, 0);
     grid->addWidget(disabled, row, 1);
     grid->setColumnStretch(2, 1);
@@ -229,6 +235,7 @@ QWidget* sliders(Controls* controls, QWidget* parent)
     auto* disabled = new Slider(page);
     disabled->SetValue(25.0);
     disabled->setEnabled(false);
+    disabled->setMinimumSize(150, kRowHeight);
     grid->addWidget(new Label(tr("Disabled"), page), row, 0);
     grid->addWidget(disabled, row, 1);
     grid->setColumnStretch(1, 1);
