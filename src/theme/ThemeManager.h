@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QImage>
 #include <QObject>
+#include <QPalette>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -63,6 +64,17 @@ public:
     // Asks the user for a theme file and loads it over the current values.
     void LoadTheme(QWidget* widget);
     bool UpdateSkinNeeded();
+
+    // The current theme as a palette for a host's own widgets: window, base,
+    // text, button, highlight, tool tip, link and placeholder roles in every
+    // colour group, with the disabled group's texts in the theme's disabled
+    // text colour.
+    QPalette GetPalette();
+    // Opt-in: makes GetPalette() the application palette now and after every
+    // theme switch, so a host's plain windows match the library's controls.
+    // Turning it off gives the application back the palette it had before.
+    void SetApplicationPaletteFollowsTheme(bool follow);
+    bool IsApplicationPaletteFollowingTheme() const;
 
     // Adds a folder in front of the theme file search list.
     void SetThemeFilesPath(const wchar_t* directory);
