@@ -49,6 +49,10 @@ public:
     // Loads from a node of any document, through a filer of its own.
     bool LoadFromDomElement(const QDomElement& element);
     virtual void LoadAttributes(XmlFiler& filer);
+    // Deletes a new child and says so when it is a container nesting deeper
+    // than PropertyEditor::kMaxNestingDepth below the root, where size hints
+    // and painting would recurse past the stack.
+    bool RefuseNesting(PropertyEditorElement* child) const;
     // The library's own kinds load through Load; element types from elsewhere
     // load themselves through PropertyEditorElement::Load(QDomElement).
     virtual bool IsLibraryKind() const { return mbLibraryKind; }
@@ -96,8 +100,6 @@ public:
     QMap<QString, Binding*> mBindings;
     PropertyEditorElement::LayoutInfo mLayoutInfo;
     quint32 miState = 0;
-    // How many leading children BuildWidgetTree builds; -1 for all.
-    int miChildBuildLimit = -1;
     bool mbUpdatingWidget = false;
     bool mbLibraryKind = false;
 };
