@@ -90,7 +90,8 @@ QString Item(int row, int column, const QString& widget)
 }
 
 // The same form for Qt Designer: a group box with a grid per group, a label
-// beside each control, and a slider with a spin box for each slider element.
+// beside each control (wrapping, as the editor's labels do by default), and a
+// slider with a spin box for each slider element.
 QByteArray DesignerForm(int elements)
 {
     QString body;
@@ -104,7 +105,8 @@ QByteArray DesignerForm(int elements)
             const QString label =
                 Widget("QLabel", id + QStringLiteral("_label"),
                        Property("text", QStringLiteral("<string>Label %1</string>").arg(id)) +
-                           Property("alignment", QStringLiteral("<set>Qt::AlignRight|Qt::AlignVCenter</set>")));
+                           Property("alignment", QStringLiteral("<set>Qt::AlignRight|Qt::AlignVCenter</set>")) +
+                           Property("wordWrap", QStringLiteral("<bool>true</bool>")));
             QString control;
             switch (KindOf(i)) {
             case 0:
