@@ -174,7 +174,9 @@ private Q_SLOTS:
     void dividerMarks();
 
     void buildIsDeferredToPaint();
-    void longPagesBuildInSlices();
+    void firstPaintBuildsWholePage();
+    void deepNestingIsRefused_data();
+    void deepNestingIsRefused();
     void loadFileWithElementPath();
     void labelColumnDragIsRemembered();
 
@@ -794,12 +796,15 @@ void tst_PropertyEditor::buildIsDeferredToPaint()
     QCOMPARE(Find(editor, "t")->GetWidget(), text);
 
     // A second load adds to the page; a name it reuses stays with its first owner.
-    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"h\"><CheckBoxElement Id=\"c\"/>"
-                                         "<LabelElement Id=\"t\"/></GroupElement></PageElement></E>")));
+    QVERIFY(editor.LoadUI(QStringLiteral("<E LabelColumnWidth=\"130\"><PageElement><GroupElement Id=\"h\">"
+                                         "<CheckBoxElement Id=\"c\"/><LabelElement Id=\"t\"/></GroupElement>"
+                                         "</PageElement></E>")));
     QCOMPARE(editor.GetPage()->GetChildCount(), 2);
     QVERIFY(Find<TextBoxElement>(editor, "t"));
     Build(editor);
     QCOMPARE(Find(editor, "g")->GetWidget(), groupWidget);
+    // The load's widths reach the groups built before it at that paint.
+    QCOMPARE(Find<GroupElement>(editor, "g")->GetGridLayout()->columnMinimumWidth(0), 130);
     auto* pageLayout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
     QVERIFY(pageLayout);
     QCOMPARE(pageLayout->indexOf(Find(editor, "h")->GetWidget()), 1);
@@ -816,36 +821,80 @@ void tst_PropertyEditor::buildIsDeferredToPaint()
     QCOMPARE(group->GetGridLayout()->count(), 0);
 }
 
-void tst_PropertyEditor::longPagesBuildInSlices()
+void tst_PropertyEditor::firstPaintBuildsWholePage()
 {
-    QString groups;
-    for (int i = 0; i < 60; ++i)
-        groups += QStringLiteral("<GroupElement Id=\"g%1\"><TextBoxElement Id=\"t%1\" LabelPlacement=\"Left\"/>"
-                                 "<CheckBoxElement/></GroupElement>")
-                      .arg(i);
+    const auto groups = [](int first, int count) {
+        QString text;
+        for (int i = first; i < first + count; ++i)
+            text += QStringLiteral("<GroupElement Id=\"g%1\"><TextBoxElement Id=\"t%1\" LabelPlacement=\"Left\"/>"
+                                   "<CheckBoxElement/></GroupElement>")
+                        .arg(i);
+        return QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(text);
+    };
     PropertyEditor editor;
     editor.resize(400, 300);
-    QVERIFY(editor.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(groups)));
+    QVERIFY(editor.LoadUI(groups(0, 60)));
     QVERIFY(!editor.IsBuilt());
-    Build(editor);
-    // What shows first is built at the first paint, the rest right after it.
-    auto* first = Find(editor, "t0");
-    auto* last = Find(editor, "t59");
-    QVERIFY(first->GetWidget());
-    QVERIFY(!last->GetWidget());
-    QVERIFY(!editor.IsBuilt());
+    editor.show();
+    // Far below what shows, the last element has its widget after the first paint.
     QTRY_VERIFY(editor.IsBuilt());
-    QVERIFY(last->GetWidget());
-    auto* layout = qobject_cast<QBoxLayout*>(editor.GetPage()->GetWidget()->layout());
+    QVERIFY(Find(editor, "t59")->GetWidget());
+    QWidget* page = editor.GetPage()->GetWidget();
+    auto* layout = qobject_cast<QBoxLayout*>(page->layout());
     for (int i = 0; i < 60; ++i)
         QCOMPARE(layout->indexOf(editor.GetPage()->GetChild(i)->GetWidget()), i);
+    QTRY_VERIFY(Find(editor, "t59")->GetWidget()->isVisible());
 
-    // BuildNow builds everything at once.
+    // A load into the shown page builds its new widgets while the page is
+    // hidden; the page shows again with them, and the focus stays.
+    editor.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    QWidget* focused = Find(editor, "t0")->GetWidget();
+    focused->setFocus();
+    QTRY_VERIFY(focused->hasFocus() || focused->isAncestorOf(QApplication::focusWidget()));
+    QWidget* focusedBefore = QApplication::focusWidget();
+    QVERIFY(editor.LoadUI(groups(60, 20)));
+    Build(editor);
+    QVERIFY(page->isVisible());
+    QCOMPARE(QApplication::focusWidget(), focusedBefore);
+    QVERIFY(Find(editor, "t79")->GetWidget()->isVisible());
+
+    // BuildNow builds without a paint.
     PropertyEditor other;
-    QVERIFY(other.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(groups)));
+    QVERIFY(other.LoadUI(groups(0, 3)));
     other.BuildNow();
     QVERIFY(other.IsBuilt());
-    QVERIFY(Find(other, "t59")->GetWidget());
+    QVERIFY(Find(other, "t2")->GetWidget());
+}
+
+void tst_PropertyEditor::deepNestingIsRefused_data()
+{
+    QTest::addColumn<int>("depth");
+    QTest::addColumn<bool>("loads");
+
+    QTest::newRow("at the limit") << PropertyEditor::kMaxNestingDepth << true;
+    QTest::newRow("one level more") << PropertyEditor::kMaxNestingDepth + 1 << false;
+    QTest::newRow("1,000 levels") << 1000 << false;
+}
+
+void tst_PropertyEditor::deepNestingIsRefused()
+{
+    QFETCH(int, depth);
+    QFETCH(bool, loads);
+
+    QString text = QStringLiteral("<TextBoxElement Id=\"inner\"/>");
+    for (int level = depth - 1; level >= 0; --level)
+        text = QStringLiteral("<GroupElement Id=\"g%1\">%2</GroupElement>").arg(level).arg(text);
+    PropertyEditor editor;
+    editor.resize(400, 300);
+    QCOMPARE(editor.LoadUI(QStringLiteral("<E><PageElement>%1</PageElement></E>").arg(text)), loads);
+    const QStringList refusals = mMessages.filter(QStringLiteral("deeper than 64 levels"));
+    QCOMPARE(refusals.size(), loads ? 0 : 1);
+    // The levels up to the limit stay and paint.
+    Build(editor);
+    QVERIFY(Find(editor, "g63")->GetWidget());
+    QVERIFY(!editor.FindElement(QStringLiteral("g64")));
+    QCOMPARE(editor.FindElement(QStringLiteral("inner")) != nullptr, loads);
 }
 
 void tst_PropertyEditor::loadFileWithElementPath()

@@ -7,13 +7,17 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
 #include <QVBoxLayout>
+
+#include <limits>
 
 using namespace Kavrel::UICore;
 
@@ -64,6 +68,8 @@ private Q_SLOTS:
     void checkBoxEnablesContentButKeepsHostDisabledChildren();
     void titleTooltips();
     void extraTopMarginSurvivesThemeChangesAndSizeHints();
+    void outOfRangeMetricsAreBounded_data();
+    void outOfRangeMetricsAreBounded();
 
 private:
     RolloutContainer* shownContainer(int width = 240);
@@ -360,6 +366,48 @@ void tst_RolloutContainer::extraTopMarginSurvivesThemeChangesAndSizeHints()
     loose->setGeometry(10, 40, 300, 20);
     loose->show();
     QCOMPARE(bare.sizeHint(), QSize(309, 59));
+}
+
+void tst_RolloutContainer::outOfRangeMetricsAreBounded_data()
+{
+    QTest::addColumn<QString>("titleHeight");
+    QTest::addColumn<int>("hostTop");
+    QTest::addColumn<int>("expectedTitle");
+    QTest::addColumn<int>("expectedTop");
+
+    QTest::newRow("smallest int") << "-2147483648" << 5 << 0 << 5;
+    QTest::newRow("largest int") << "2147483647" << 0 << 4096 << 4096;
+    QTest::newRow("host margin at the extremes") << "24" << std::numeric_limits<int>::max() << 24 << 24 + 4096;
+    QTest::newRow("negative host margin") << "24" << std::numeric_limits<int>::min() << 24 << 24;
+}
+
+void tst_RolloutContainer::outOfRangeMetricsAreBounded()
+{
+    QFETCH(QString, titleHeight);
+    QFETCH(int, hostTop);
+    QFETCH(int, expectedTitle);
+    QFETCH(int, expectedTop);
+
+    // The cleanup reloads the light theme over the value merged into the dark one.
+    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("metric.xbel")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("<xbel version=\"1.0\"><ScalableInt name=\"%1\" value=\"%2\"/></xbel>")
+                   .arg(ThemeFileKey::RolloutcontainerTitleHeight, titleHeight)
+                   .toUtf8());
+    file.close();
+    QVERIFY(ThemeManager::GetInstance()->LoadThemeFile(file.fileName(), true));
+
+    RolloutContainer container;
+    container.SetTitle(QStringLiteral("Geometry"));
+    container.SetIsCheckable(true);
+    container.setContentsMargins(0, hostTop, 0, 0);
+    QCOMPARE(container.TitleHeight(), expectedTitle);
+    QCOMPARE(container.GetTitleRect().height(), expectedTitle);
+    QCOMPARE(container.contentsMargins().top(), expectedTop);
+    container.resize(200, 60);
+    QVERIFY(!container.grab().isNull());
 }
 
 QTEST_MAIN(tst_RolloutContainer)

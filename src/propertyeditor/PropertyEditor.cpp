@@ -10,11 +10,10 @@
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPaintEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Kavrel::UICore {
@@ -98,7 +97,6 @@ bool PropertyEditorImp::Load(XmlFiler& filer, const QString& translationFile, co
     mpContext->NotifyContextChanged();
     if (!host)
         return false;
-    ApplyColumnWidthsToGroups();
     return result;
 }
 
@@ -123,7 +121,11 @@ void PropertyEditorImp::SetColumnWidth(int column, int width)
                 return;
         }
     }
+    if (mColumnWidths[size_t(column)] == width)
+        return;
     mColumnWidths[size_t(column)] = width;
+    // Built groups take the widths at the next paint, once however many a load sets.
+    mpHost->update();
 }
 
 void PropertyEditorImp::SetLabelColumnWidthByUser(int width)
@@ -147,6 +149,7 @@ void PropertyEditorImp::ApplyColumnWidthsToGroups()
         for (int i = 0; i < element->GetChildCount(); ++i)
             pending.append(element->GetChild(i));
     }
+    mAppliedColumnWidths = mColumnWidths;
 }
 
 void PropertyEditorImp::Invalidate()
@@ -157,73 +160,43 @@ void PropertyEditorImp::Invalidate()
     mpHost->update();
 }
 
-void PropertyEditorImp::Rebuild(const QRect& exposed)
+void PropertyEditorImp::Rebuild()
 {
-    if (!(miFlags & InvalidFlag) || (miFlags & BuildingFlag))
+    if (miFlags & BuildingFlag)
+        return;
+    // Groups built from here on take the widths as they are created.
+    if (mAppliedColumnWidths != mColumnWidths)
+        ApplyColumnWidthsToGroups();
+    if (!(miFlags & InvalidFlag))
         return;
     miFlags |= BuildingFlag;
-    PropertyEditorElementImp* page = PropertyEditorElementImp::Of(mpPage);
-    const int count = mpPage->GetChildCount();
-    if (exposed.isEmpty()) {
-        page->miChildBuildLimit = -1;
-    } else {
-        // The page's first elements, as far as they reach one screen below
-        // what is exposed, are built now; the rest follows in slices once the
-        // page has painted, so that long pages show at once.
-        const int needed = exposed.bottom() + qMax(exposed.height(), 200);
-        int covered = 0;
-        int limit = 0;
-        page->miChildBuildLimit = 0;
-        page->BuildWidgetTree(mpHost);
-        QWidget* childParent = page->GetChildParentWidget();
-        for (; limit < count && covered <= needed; ++limit) {
-            PropertyEditorElementImp* child = PropertyEditorElementImp::Of(mpPage->GetChild(limit));
-            const bool wasBuilt = child->mpWidget;
-            child->BuildWidgetTree(childParent);
-            if (!wasBuilt)
-                page->miState |= PropertyEditorElementImp::ChildrenChangedBit;
-            if (child->mpWidget)
-                covered += child->mpWidget->sizeHint().height();
-        }
-        page->miChildBuildLimit = limit < count ? limit : -1;
+    // A widget shown inside a visible parent activates every layout up to the
+    // window, so widgets added one by one to a shown page cost the whole page
+    // each. The page is built hidden and shows once, with all it holds; a
+    // new page is hidden until its layout shows it.
+    QWidget* pageWidget = mpPage->GetWidget();
+    const bool shown = pageWidget && pageWidget->isVisible();
+    QPointer<QWidget> focus;
+    if (shown) {
+        QWidget* current = QApplication::focusWidget();
+        if (current && pageWidget->isAncestorOf(current))
+            focus = current;
+        pageWidget->hide();
     }
-    page->BuildWidgetTree(mpHost);
+    PropertyEditorElementImp::Of(mpPage)->BuildWidgetTree(mpHost);
+    pageWidget = mpPage->GetWidget();
     if (!mpHost->layout()) {
         auto* layout = new QVBoxLayout();
         layout->setContentsMargins(5, 5, 0, 0);
         mpHost->setLayout(layout);
-        layout->addWidget(mpPage->GetWidget());
+        layout->addWidget(pageWidget);
+    }
+    if (shown) {
+        pageWidget->show();
+        if (focus && focus->isVisible())
+            focus->setFocus(Qt::OtherFocusReason);
     }
     miFlags &= ~quint32(InvalidFlag | BuildingFlag);
-    if (page->miChildBuildLimit >= 0 && !mbSliceScheduled) {
-        mbSliceScheduled = true;
-        QTimer::singleShot(0, this, &PropertyEditorImp::BuildNextSlice);
-    }
-}
-
-void PropertyEditorImp::BuildNextSlice()
-{
-    mbSliceScheduled = false;
-    PropertyEditorElementImp* page = PropertyEditorElementImp::Of(mpPage);
-    if (page->miChildBuildLimit < 0 || (miFlags & BuildingFlag))
-        return;
-    page->miChildBuildLimit += kSliceSize;
-    if (page->miChildBuildLimit >= mpPage->GetChildCount())
-        page->miChildBuildLimit = -1;
-    page->miState |= PropertyEditorElementImp::ChildrenChangedBit;
-    miFlags |= BuildingFlag;
-    page->BuildWidgetTree(mpHost);
-    miFlags &= ~quint32(BuildingFlag);
-    if (page->miChildBuildLimit >= 0) {
-        mbSliceScheduled = true;
-        QTimer::singleShot(0, this, &PropertyEditorImp::BuildNextSlice);
-    }
-}
-
-void PropertyEditorImp::BuildAll()
-{
-    miFlags |= InvalidFlag;
-    Rebuild(QRect());
 }
 
 void PropertyEditorImp::RegisterSubtree(PropertyEditorElement* element)
@@ -351,10 +324,8 @@ bool PropertyEditor::LoadUIFile(const QString& fileName, const QString& elementP
     if (!self)
         return false;
     const auto remembered = Internal::RememberedColumnWidths().constFind(mpImp->msDefinitionKey);
-    if (remembered != Internal::RememberedColumnWidths().constEnd()) {
+    if (remembered != Internal::RememberedColumnWidths().constEnd())
         mpImp->mColumnWidths = *remembered;
-        mpImp->ApplyColumnWidthsToGroups();
-    }
     return result;
 }
 
@@ -422,18 +393,17 @@ void PropertyEditor::Invalidate()
 
 void PropertyEditor::BuildNow()
 {
-    mpImp->BuildAll();
+    mpImp->Rebuild();
 }
 
 bool PropertyEditor::IsBuilt() const
 {
-    return !(mpImp->miFlags & PropertyEditorImp::InvalidFlag) &&
-           PropertyEditorElementImp::Of(mpImp->mpPage)->miChildBuildLimit < 0;
+    return !(mpImp->miFlags & PropertyEditorImp::InvalidFlag);
 }
 
 void PropertyEditor::paintEvent(QPaintEvent* event)
 {
-    mpImp->Rebuild(event->rect());
+    mpImp->Rebuild();
     QWidget::paintEvent(event);
 }
 

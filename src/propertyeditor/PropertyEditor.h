@@ -26,7 +26,14 @@ class PropertyEditorImp;
 // Binding(Roughness) resolved against the editor's context objects (and the
 // page's elements, by Id).
 //
-// Loading adds to the page; the widgets are built at the next paint.
+// Loading adds to the page; the whole page's widgets are built at the next
+// paint (or at BuildNow), hidden, and the page shows once they all exist, so
+// a host finds every element's widget after the first paint.
+//
+// Groups and panels nest at most kMaxNestingDepth levels below the page. A
+// definition nesting deeper fails to load with a diagnostic (the elements
+// loaded before stay): widget size hints and painting recurse once per level,
+// and a hostile definition must not overflow the host's stack.
 //
 // Limits: a definition file larger than kMaxDefinitionFileSize bytes (a text
 // given to LoadUI longer than as many characters), or that is no regular file
@@ -50,6 +57,7 @@ public:
     static constexpr qint64 kMaxDefinitionFileSize = 16 * 1024 * 1024;
     static constexpr int kMaxDefinitionDepth = 256;
     static constexpr int kMaxAttributesPerElement = 1024;
+    static constexpr int kMaxNestingDepth = 64;
 
     explicit PropertyEditor(QWidget* parent = nullptr);
     ~PropertyEditor() override;
@@ -84,16 +92,15 @@ public:
     // The width of column 0 (labels), 1 or 2; -1 for other columns.
     int GetColumnWidth(int column) const;
     // Sets a column's width (ignored for other columns; 0 is refused while
-    // another column stretches) and applies it to the built groups.
+    // another column stretches) and applies it to the built groups. Widths a
+    // load sets reach the built groups at the next paint.
     void SetColumnWidth(int column, int width);
 
     // Marks the page for rebuilding at the next paint.
     void Invalidate();
-    // Builds every pending widget now instead of at the next paint. A paint
-    // builds the elements that show first, and the rest of a long page right
-    // after it, in slices from the event loop.
+    // Builds every pending widget now instead of at the next paint.
     void BuildNow();
-    // Whether every element has its widget.
+    // Whether every element has its widget (nothing waits for a paint).
     bool IsBuilt() const;
 
 Q_SIGNALS:

@@ -3,6 +3,7 @@
 #include <KvUICore/propertyeditor/Binding.h>
 #include <KvUICore/propertyeditor/ElementRegistry_p.h>
 #include <KvUICore/propertyeditor/PageElement.h>
+#include <KvUICore/propertyeditor/PropertyEditor.h>
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>
 #include <KvUICore/propertyeditor/PropertyEditorImp.h>
 #include <KvUICore/util/Diagnostics_p.h>
@@ -158,6 +159,10 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
         PropertyEditorElement* child = registry.Create(node.tagName(), namespaceUri);
         if (!child)
             continue;
+        if (RefuseNesting(child)) {
+            result = false;
+            break;
+        }
         const bool accepted = mpOwner->AddChild(child);
         if (!self) {
             if (!accepted)
@@ -203,6 +208,23 @@ bool PropertyEditorElementImp::LoadFromDomElement(const QDomElement& element)
 
 void PropertyEditorElementImp::LoadAttributes(XmlFiler& /*filer*/) {}
 
+bool PropertyEditorElementImp::RefuseNesting(PropertyEditorElement* child) const
+{
+    if (!Of(child)->IsContainer())
+        return false;
+    int depth = 1;
+    for (const PropertyEditorElementImp* imp = this; imp->mpParent; imp = Of(imp->mpParent))
+        ++depth;
+    if (depth <= PropertyEditor::kMaxNestingDepth)
+        return false;
+    Internal::WriteDiagnostic(QStringLiteral("Property editor: a %1 inside \"%2\" nests containers deeper than %3 "
+                                             "levels; the definition is refused\n")
+                                  .arg(Of(child)->KindName(), msId)
+                                  .arg(PropertyEditor::kMaxNestingDepth));
+    delete child;
+    return true;
+}
+
 void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
 {
     bool created = false;
@@ -217,10 +239,8 @@ void PropertyEditorElementImp::BuildWidgetTree(QWidget* parent)
     if (!IsContainer())
         return;
     QWidget* childParent = GetChildParentWidget();
-    const qsizetype count =
-        miChildBuildLimit < 0 ? mChildren.size() : qMin<qsizetype>(miChildBuildLimit, mChildren.size());
-    for (qsizetype i = 0; i < count; ++i)
-        Of(mChildren.at(i))->BuildWidgetTree(childParent);
+    for (PropertyEditorElement* child : std::as_const(mChildren))
+        Of(child)->BuildWidgetTree(childParent);
     if (created || (miState & ChildrenChangedBit)) {
         miState &= ~quint32(ChildrenChangedBit);
         if (mpWidget)

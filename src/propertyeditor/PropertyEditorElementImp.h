@@ -49,6 +49,10 @@ public:
     // Loads from a node of any document, read in place through a filer of its own.
     bool LoadFromDomElement(const QDomElement& element);
     virtual void LoadAttributes(XmlFiler& filer);
+    // Deletes a new child and says so when it is a container nesting deeper
+    // than PropertyEditor::kMaxNestingDepth below the root, where size hints
+    // and painting would recurse past the stack.
+    bool RefuseNesting(PropertyEditorElement* child) const;
     // The kind's name for debug texts.
     virtual QString KindName() const;
 
@@ -93,8 +97,6 @@ public:
     QMap<QString, Binding*> mBindings;
     PropertyEditorElement::LayoutInfo mLayoutInfo;
     quint32 miState = 0;
-    // How many leading children BuildWidgetTree builds; -1 for all.
-    int miChildBuildLimit = -1;
     bool mbUpdatingWidget = false;
     // Set on the whole subtree when an element is destroyed.
     bool mbTearingDown = false;

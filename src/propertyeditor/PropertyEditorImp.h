@@ -45,17 +45,13 @@ public:
     // Sets the label column's width as the user dragged it, applies it to
     // every built group and remembers it for the loaded definition.
     void SetLabelColumnWidthByUser(int width);
+    // Applies the column widths to every built group.
     void ApplyColumnWidthsToGroups();
 
     void Invalidate();
-    // Builds what the exposed part of the editor needs now and schedules
-    // the rest; an empty rectangle builds everything.
-    void Rebuild(const QRect& exposed);
-    void BuildNextSlice();
-    void BuildAll();
-
-    // Top-level elements of the page built per slice after the first paint.
-    static constexpr int kSliceSize = 8;
+    // Builds every missing widget of the page, hidden, and shows the page
+    // once at the end; applies changed column widths to the built groups.
+    void Rebuild();
 
     // Index of element names (lower case) for the Id checks and FindElement.
     void RegisterSubtree(PropertyEditorElement* element);
@@ -73,8 +69,9 @@ public:
     // The key the remembered column widths are kept under: file and element path.
     QString msDefinitionKey;
     Internal::ColumnWidths mColumnWidths = {100, -1, -1};
+    // The widths the built groups carry; a load changes mColumnWidths only.
+    Internal::ColumnWidths mAppliedColumnWidths = {100, -1, -1};
     quint32 miFlags = InvalidFlag;
-    bool mbSliceScheduled = false;
     // The translation table of the load in progress, for elements that load
     // themselves from their node.
     TranslationTable* mpLoadTable = nullptr;

@@ -28,6 +28,14 @@ constexpr int kIndicatorSize = 14;
 constexpr int kGap = 4;
 // Room kept beside an elided title for the triangle, the check box and padding.
 constexpr int kElideReserve = 62;
+// The range metrics from the theme or the host are taken in, so that no
+// value turns geometry arithmetic into an overflow.
+constexpr int kMaxMetric = 4096;
+
+int BoundMetric(int value)
+{
+    return qBound(0, value, kMaxMetric);
+}
 
 } // namespace
 
@@ -52,8 +60,8 @@ public:
     {
         ThemeManager* themes = ThemeManager::GetInstance();
         if (themes->Exists(ThemeFileKey::RolloutcontainerTitleHeight))
-            return themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight);
-        return QFontMetrics(TitleFont()).height();
+            return BoundMetric(themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight));
+        return BoundMetric(QFontMetrics(TitleFont()).height());
     }
 
     int ComputeIndentLevel() const
@@ -283,7 +291,7 @@ QRect RolloutContainer::GetTitleRect() const
     const QRect text = metrics.boundingRect(QRect(), Qt::TextSingleLine | Qt::TextShowMnemonic, mpImp->msDisplayTitle);
     ThemeManager* themes = ThemeManager::GetInstance();
     const int height = themes->Exists(ThemeFileKey::RolloutcontainerTitleHeight)
-                           ? themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight)
+                           ? BoundMetric(themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight))
                            : text.height();
     const int width = text.width() + kTitleExtraWidth + (mpImp->mbCheckable ? kCheckableExtraWidth : 0);
     return QRect(rect().left() + kTitleLeft, rect().top(), width, height);
@@ -291,8 +299,8 @@ QRect RolloutContainer::GetTitleRect() const
 
 void RolloutContainer::setContentsMargins(int left, int top, int right, int bottom)
 {
-    mpImp->mExtraTopMargin = top;
-    QWidget::setContentsMargins(left, mpImp->miTitleHeight + top, right, bottom);
+    mpImp->mExtraTopMargin = BoundMetric(top);
+    QWidget::setContentsMargins(left, mpImp->miTitleHeight + mpImp->mExtraTopMargin, right, bottom);
 }
 
 QSize RolloutContainer::sizeHint() const

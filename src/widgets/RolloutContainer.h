@@ -52,7 +52,8 @@ public:
     QRect GetTitleRect() const;
     int TitleHeight() const;
 
-    // top is kept as extra space below the title bar, also across theme changes.
+    // top is kept as extra space below the title bar, also across theme
+    // changes. It and the theme's title height are taken within 0..4096.
     void setContentsMargins(int left, int top, int right, int bottom);
 
     QSize sizeHint() const override;
