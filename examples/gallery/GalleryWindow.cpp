@@ -72,6 +72,9 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     layout->addLayout(body, 1);
 
     setAttribute(Qt::WA_WindowPropagation);
+    // The gallery frame follows the theme as a host application would: the
+    // library's palette becomes the application's and stays in step.
+    ThemeManager::GetInstance()->SetApplicationPaletteFollowsTheme(true);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &GalleryWindow::OnThemeChanged);
     OnThemeChanged();
     if (mpPageList->count() > 0)
@@ -113,47 +116,17 @@ void GalleryWindow::OnThemeChosen(int index)
         return;
     }
     themes->LoadTheme(this);
+    // A file loaded over the current theme changes values without a switch.
+    QApplication::setPalette(themes->GetPalette());
     OnThemeChanged();
 }
 
 void GalleryWindow::OnThemeChanged()
 {
-    // The gallery frame follows the theme as a host application would: one
-    // palette for the window and everything in it (lists, scroll areas, the
-    // theme switcher and its pop-up), taken from the theme's keys.
     ThemeManager* themes = ThemeManager::GetInstance();
-    const QColor window = themes->GetColor(ThemeFileKey::Container1);
-    const QColor field = themes->GetColor(ThemeFileKey::WidgetContainer9);
     const QColor text = themes->GetColor(ThemeFileKey::FontNormal1);
-    const QColor disabled = themes->GetColor(ThemeFileKey::FontColorDisabled);
     const QColor selection = themes->GetColor(ThemeFileKey::MBViewItemSelectionBackground);
     const QColor accent = themes->GetColor(ThemeFileKey::FocusOutline1);
-
-    QPalette palette = QApplication::palette();
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        const bool off = group == QPalette::Disabled;
-        palette.setColor(group, QPalette::Window, window);
-        palette.setColor(group, QPalette::WindowText, off ? disabled : text);
-        palette.setColor(group, QPalette::Base, field);
-        palette.setColor(group, QPalette::AlternateBase, themes->GetColor(ThemeFileKey::Container6));
-        palette.setColor(group, QPalette::Text, off ? disabled : text);
-        palette.setColor(group, QPalette::PlaceholderText, themes->GetColor(ThemeFileKey::FontSearchPrompt));
-        palette.setColor(group, QPalette::Button, themes->GetColor(ThemeFileKey::Container3));
-        palette.setColor(group, QPalette::ButtonText, off ? disabled : text);
-        palette.setColor(group, QPalette::Highlight, selection);
-        palette.setColor(group, QPalette::HighlightedText, text);
-        palette.setColor(group, QPalette::Link, themes->GetColor(ThemeFileKey::FontUnderline1));
-        palette.setColor(group, QPalette::ToolTipBase, themes->GetColor(ThemeFileKey::ToolTipBackground));
-        palette.setColor(group, QPalette::ToolTipText, text);
-        palette.setColor(group, QPalette::Light, themes->GetColor(ThemeFileKey::Container3));
-        palette.setColor(group, QPalette::Midlight, themes->GetColor(ThemeFileKey::Separator1));
-        palette.setColor(group, QPalette::Mid, themes->GetColor(ThemeFileKey::WidgetOutline3));
-        palette.setColor(group, QPalette::Dark, themes->GetColor(ThemeFileKey::WidgetOutline3));
-        palette.setColor(group, QPalette::Shadow, themes->GetColor(ThemeFileKey::HoverOutline4));
-    }
-    // The palette belongs to this window and reaches its pop-ups too; the
-    // controls colour their own text, so no second restyle is needed.
-    setPalette(palette);
     QPalette rule = mpHeaderRule->palette();
     rule.setColor(QPalette::Window, themes->GetColor(ThemeFileKey::Separator1));
     mpHeaderRule->setPalette(rule);

@@ -77,9 +77,6 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
 
 int main(int argc, char* argv[])
 {
-    // The window's palette reaches widgets polished under the global style
-    // sheet as it reaches any other.
-    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("KvUICore gallery"));
     CoreUIManager::Initialize();
