@@ -5,7 +5,6 @@
 #include <KvUICore/propertyeditor/PageElement.h>
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>
 #include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
-#include <KvUICore/propertyeditor/UIDefinitionCheck_p.h>
 #include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
@@ -283,18 +282,7 @@ PropertyEditor::~PropertyEditor() = default;
 
 bool PropertyEditor::LoadUI(const QString& uiDefinition, const QString& translationFile)
 {
-    const QString source = QStringLiteral("the UI definition");
-    QString refusal;
-    if (uiDefinition.size() > kMaxDefinitionFileSize)
-        refusal = QStringLiteral("Property editor: %1 is larger than %2 characters\n")
-                      .arg(source)
-                      .arg(kMaxDefinitionFileSize);
-    else
-        refusal = Internal::CheckDefinitionMarkup(uiDefinition, source);
-    if (!refusal.isEmpty()) {
-        Internal::WriteDiagnostic(refusal);
-        return false;
-    }
+    // The filer refuses, with a diagnostic, what is beyond its limits.
     XmlFiler filer;
     if (!filer.Parse(uiDefinition))
         return false;
@@ -305,11 +293,6 @@ bool PropertyEditor::LoadUIFile(const QString& fileName, const QString& elementP
 {
     if (fileName.isEmpty() || !QFileInfo::exists(fileName))
         return false;
-    const QString refusal = Internal::CheckDefinitionFile(fileName);
-    if (!refusal.isEmpty()) {
-        Internal::WriteDiagnostic(refusal);
-        return false;
-    }
     XmlFiler filer;
     if (!filer.Open(fileName))
         return false;

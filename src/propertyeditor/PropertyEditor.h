@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KvUICore/KvUICoreExport.h>
+#include <KvUICore/util/XmlFiler.h>
 
 #include <QString>
 #include <QWidget>
@@ -39,8 +40,9 @@ class PropertyEditorImp;
 // given to LoadUI longer than as many characters), or that is no regular file
 // (a pipe or a device would block the read), elements nested deeper than
 // kMaxDefinitionDepth levels, or an element with more than
-// kMaxAttributesPerElement attributes are refused before the definition is
-// parsed: the load writes a diagnostic naming the definition and the limit,
+// kMaxAttributesPerElement attributes are refused by the XML filer before the
+// definition is parsed (they are the filer's limits): the load writes a
+// diagnostic naming the definition and the limit,
 // and fails without adding anything. The nesting limit holds for the element
 // walk of every load, also of nodes handed to an element's Load.
 //
@@ -54,9 +56,9 @@ class KVUICORE_EXPORT PropertyEditor : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr qint64 kMaxDefinitionFileSize = 16 * 1024 * 1024;
-    static constexpr int kMaxDefinitionDepth = 256;
-    static constexpr int kMaxAttributesPerElement = 1024;
+    static constexpr qint64 kMaxDefinitionFileSize = XmlFiler::kMaxFileSize;
+    static constexpr int kMaxDefinitionDepth = XmlFiler::kMaxDepth;
+    static constexpr int kMaxAttributesPerElement = XmlFiler::kMaxAttributes;
     static constexpr int kMaxNestingDepth = 64;
 
     explicit PropertyEditor(QWidget* parent = nullptr);
