@@ -107,7 +107,7 @@ private Q_SLOTS:
         hex->setFocus();
         hex->selectAll();
         QTest::keyClicks(hex, QStringLiteral("#336699"));
-        QTest::keyClick(hex, Qt::Key_Return);
+        QTest::keyClick(hex, Qt::Key_Tab);
         QCOMPARE(paint.GetTint(), QColor(0x33, 0x66, 0x99));
         QCOMPARE(modified.count(), 1);
         QCOMPARE(modified.first().at(1).toString(), QStringLiteral("Color"));

@@ -29,7 +29,8 @@ void TypeHex(ColorPicker* picker, const QString& text)
     hex->setFocus();
     hex->selectAll();
     QTest::keyClicks(hex, text);
-    QTest::keyClick(hex, Qt::Key_Return);
+    // Tab finishes the edit; Return would also close the pop-up, as a dialog's default button does.
+    QTest::keyClick(hex, Qt::Key_Tab);
 }
 
 using Factory = std::function<QWidget*(QWidget*)>;
@@ -150,6 +151,8 @@ private Q_SLOTS:
         surroundings.resize(220, 220);
         QVERIFY(Probe::Shown(&surroundings));
         const QPoint probe = control->pos() + ring;
+        control->clearFocus();
+        QTRY_VERIFY(!control->hasFocus());
         const QColor without = Probe::PixelAt(Probe::Grab(&surroundings), probe);
         control->setFocus();
         QTRY_VERIFY(control->hasFocus());

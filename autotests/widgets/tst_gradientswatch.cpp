@@ -104,9 +104,10 @@ private Q_SLOTS:
                          Qt::NoModifier);
         QCoreApplication::sendEvent(&swatch, &move);
         QTest::mouseRelease(&swatch, Qt::LeftButton, {}, to);
-        QVERIFY(std::abs(swatch.GetStops().at(stop).first - expected) < 0.006);
-        QCOMPARE(swatch.GetStops().size(), 3);
-        QVERIFY(std::is_sorted(swatch.GetStops().begin(), swatch.GetStops().end(),
+        const QGradientStops stops = swatch.GetStops();
+        QVERIFY(std::abs(stops.at(stop).first - expected) < 0.006);
+        QCOMPARE(stops.size(), 3);
+        QVERIFY(std::is_sorted(stops.begin(), stops.end(),
                                [](const QGradientStop& a, const QGradientStop& b) { return a.first < b.first; }));
     }
 
@@ -174,7 +175,7 @@ private Q_SLOTS:
         hex->setFocus();
         hex->selectAll();
         QTest::keyClicks(hex, QStringLiteral("#00ff0080"));
-        QTest::keyClick(hex, Qt::Key_Return);
+        QTest::keyClick(hex, Qt::Key_Tab);
         QCOMPARE(swatch.GetStops().at(1).second, QColor(0, 255, 0, 128));
         QTest::keyClick(swatch.findChild<ColorPickerPopup*>(), Qt::Key_Escape);
         QCOMPARE(swatch.GetStops().at(1).second, QColor(Qt::red));

@@ -78,7 +78,12 @@ private Q_SLOTS:
         QVERIFY(TwoColourImage(300, 150).save(Path("good.png")));
         QFile good(Path("good.png"));
         QVERIFY(good.open(QIODevice::ReadOnly));
-        Write("truncated.png", good.read(60));
+        // The header intact, the pixel data damaged (its checksum no longer fits).
+        QByteArray damaged = good.readAll();
+        const qsizetype data = damaged.indexOf("IDAT") + 8;
+        for (qsizetype i = data; i < data + 16 && i < damaged.size() - 12; ++i)
+            damaged[i] = char(~damaged[i]);
+        Write("damaged.png", damaged);
         Write("corrupt.png", "this is no image at all");
         Write("huge.png", PngHeaderClaiming(20000, 20000));
         Write("toobig.png", PngHeaderClaiming(10000, 10000));
@@ -96,19 +101,20 @@ private Q_SLOTS:
         QTest::addColumn<int>("state");
         QTest::addColumn<QSize>("thumbnail");
         QTest::addColumn<QString>("why");
-        QTest::newRow("no path") << QString() << int(ImageSwatch::NoImage) << QSize() << QString();
+        QTest::newRow("no path") << QString() << int(ImageSwatch::NoImage) << QSize(0, 0) << QString();
         QTest::newRow("loaded, aspect kept") << "good.png" << int(ImageSwatch::Loaded) << QSize(56, 28) << QString();
         QTest::newRow("svg") << "drawing.svg" << int(ImageSwatch::Loaded) << QSize(40, 20) << QString();
-        QTest::newRow("missing") << "gone.png" << int(ImageSwatch::Missing) << QSize() << "does not exist";
-        QTest::newRow("not an image") << "corrupt.png" << int(ImageSwatch::Unreadable) << QSize() << "format";
-        QTest::newRow("truncated") << "truncated.png" << int(ImageSwatch::Unreadable) << QSize() << "decoded";
+        QTest::newRow("missing") << "gone.png" << int(ImageSwatch::Missing) << QSize(0, 0) << "does not exist";
+        QTest::newRow("not an image") << "corrupt.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "format";
+        QTest::newRow("damaged pixel data")
+            << "damaged.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "decoded";
         QTest::newRow("header beyond the pixel limit")
-            << "huge.png" << int(ImageSwatch::Unreadable) << QSize() << "20000 × 20000";
+            << "huge.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "20000 × 20000";
         QTest::newRow("whole decode beyond the budget")
-            << "toobig.png" << int(ImageSwatch::Unreadable) << QSize() << "MiB";
-        QTest::newRow("folder") << "folder.png" << int(ImageSwatch::Unreadable) << QSize() << "regular file";
+            << "toobig.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "MiB";
+        QTest::newRow("folder") << "folder.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "regular file";
 #ifdef Q_OS_UNIX
-        QTest::newRow("pipe") << "pipe.png" << int(ImageSwatch::Unreadable) << QSize() << "regular file";
+        QTest::newRow("pipe") << "pipe.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "regular file";
 #endif
     }
 
