@@ -103,7 +103,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("why");
         QTest::newRow("no path") << QString() << int(ImageSwatch::NoImage) << QSize(0, 0) << QString();
         QTest::newRow("loaded, aspect kept") << "good.png" << int(ImageSwatch::Loaded) << QSize(56, 28) << QString();
-        QTest::newRow("svg") << "drawing.svg" << int(ImageSwatch::Loaded) << QSize(40, 20) << QString();
+        QTest::newRow("svg fills the swatch")
+            << "drawing.svg" << int(ImageSwatch::Loaded) << QSize(56, 28) << QString();
         QTest::newRow("missing") << "gone.png" << int(ImageSwatch::Missing) << QSize(0, 0) << "does not exist";
         QTest::newRow("not an image") << "corrupt.png" << int(ImageSwatch::Unreadable) << QSize(0, 0) << "format";
         QTest::newRow("damaged pixel data")

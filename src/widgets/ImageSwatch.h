@@ -12,7 +12,8 @@ namespace Kavrel::UICore {
 class ImageSwatchImp;
 
 // A thumbnail of an image file (any format the Qt image readers know, SVG
-// too), scaled into the swatch with its aspect ratio kept. The file is decoded
+// too), scaled into the swatch with its aspect ratio kept (pixels are never
+// enlarged; drawings fill the swatch). The file is decoded
 // at thumbnail size where its reader can (JPEG, SVG), so that a large photo is
 // never held at full size; decoded thumbnails are shared through a bounded
 // cache keyed by path, modification time, file size and thumbnail size.

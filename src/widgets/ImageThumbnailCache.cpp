@@ -56,6 +56,12 @@ bool DecodesScaled(const QByteArray& format)
     return f == "jpeg" || f == "jpg" || f == "svg" || f == "svgz";
 }
 
+bool IsVector(const QByteArray& format)
+{
+    const QByteArray f = format.toLower();
+    return f == "svg" || f == "svgz";
+}
+
 bool Rotated(const QImageReader& reader)
 {
     return reader.transformation() & QImageIOHandler::TransformationRotate90;
@@ -124,7 +130,8 @@ QImage DecodeThumbnail(const ImageFileInfo& info, const QSize& box, QString* err
     if (box.isEmpty())
         return fail(QString());
     QSize target = info.pixelSize;
-    if (target.width() > box.width() || target.height() > box.height())
+    // Drawings are rendered at the box's size; pixels are never enlarged.
+    if (IsVector(info.format) || target.width() > box.width() || target.height() > box.height())
         target = target.scaled(box, Qt::KeepAspectRatio);
     target = target.expandedTo(QSize(1, 1));
 

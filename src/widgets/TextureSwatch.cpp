@@ -32,7 +32,10 @@ void DrawTiles(QPainter& painter, const QRect& rect, const QImage& tile)
         return;
     if (tile.hasAlphaChannel())
         Internal::DrawCheckerboard(&painter, QRectF(rect));
-    painter.drawTiledPixmap(QRectF(rect), QPixmap::fromImage(tile));
+    // The tile was decoded in device pixels; it tiles at its logical size.
+    QPixmap pixmap = QPixmap::fromImage(tile);
+    pixmap.setDevicePixelRatio(painter.device() ? painter.device()->devicePixelRatioF() : 1.0);
+    painter.drawTiledPixmap(QRectF(rect), pixmap);
 }
 
 // The tile of an image for an area: a square of side × scale, in device pixels.
