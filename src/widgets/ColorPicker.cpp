@@ -16,7 +16,9 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QScreen>
@@ -176,6 +178,12 @@ public:
             spin->setValue(value);
     }
 
+    void ShowAlphaIcon()
+    {
+        const QIcon icon = Internal::IconFromTheme(ThemeFileKey::checker_16Icon, QSize(16, 16));
+        mpAlphaIcon->setPixmap(icon.pixmap(QSize(16, 16), mpOwner->devicePixelRatioF()));
+    }
+
     void ShowHex() { mpHex->setText(Internal::HexColorText(mColor, mbAlphaEnabled)); }
 
     void OnFieldChanged(Field field)
@@ -262,6 +270,7 @@ public:
     ColorChip* mpNewChip = nullptr;
     std::array<DoubleSpinBox*, FieldCount> mFields = {};
     Label* mpAlphaLabel = nullptr;
+    QLabel* mpAlphaIcon = nullptr;
     NumericField* mpHex = nullptr;
     ToolButton* mpEyedropper = nullptr;
     RecentColorsRow* mpRecent = nullptr;
@@ -337,6 +346,12 @@ void ColorPickerImp::Build()
     mpAlphaLabel->setBuddy(mFields[Alpha]);
     grid->addWidget(mpAlphaLabel, 4, 0);
     grid->addWidget(mFields[Alpha], 4, 1);
+    // The theme's transparency icon beside the alpha field.
+    mpAlphaIcon = new QLabel(mpOwner);
+    mpAlphaIcon->setObjectName(QStringLiteral("alphaIcon"));
+    mpAlphaIcon->setToolTip(ColorPicker::tr(kFields[Alpha].accessibleName));
+    grid->addWidget(mpAlphaIcon, 4, 2);
+    ShowAlphaIcon();
     auto* hexRow = new QHBoxLayout;
     auto* hexLabel = new Label(QStringLiteral("#"), mpOwner);
     hexLabel->setBuddy(mpHex);
@@ -445,6 +460,7 @@ void ColorPicker::SetAlphaEnabled(bool enabled)
     mpImp->mpAlphaBar->setVisible(enabled);
     mpImp->mFields[Alpha]->setVisible(enabled);
     mpImp->mpAlphaLabel->setVisible(enabled);
+    mpImp->mpAlphaIcon->setVisible(enabled);
     if (!enabled && mpImp->mColor.alpha() != 255) {
         QColor opaque = mpImp->mColor;
         opaque.setAlpha(255);
@@ -538,6 +554,7 @@ void ColorPicker::ClearRecentColors()
 
 void ColorPicker::OnThemeChanged()
 {
+    mpImp->ShowAlphaIcon();
     Internal::RepaintAfterThemeChange(this);
 }
 
