@@ -4,6 +4,7 @@
 #include <KvUICore/platform/PlatformFiles_p.h>
 #include <KvUICore/propertyeditor/ButtonElement.h>
 #include <KvUICore/propertyeditor/CheckBoxElement.h>
+#include <KvUICore/propertyeditor/ColorElement.h>
 #include <KvUICore/propertyeditor/ComboBoxElement.h>
 #include <KvUICore/propertyeditor/GroupElement.h>
 #include <KvUICore/propertyeditor/LabelElement.h>
@@ -83,6 +84,7 @@ void RegisterPropertyEditorElementTypes()
     RegisterKind<TextBoxElement>("TextBoxElement");
     RegisterKind<PanelElement>("PanelElement");
     RegisterKind<RadioButtonGroupElement>("RadioButtonGroupElement");
+    RegisterKind<ColorElement>("ColorElement");
 }
 
 namespace {

@@ -41,6 +41,7 @@ class Material : public QObject
     Q_OBJECT
     Q_PROPERTY(QString Name READ GetName WRITE SetName NOTIFY Changed)
     Q_PROPERTY(int ColourMode READ GetColourMode WRITE SetColourMode NOTIFY Changed)
+    Q_PROPERTY(QColor Colour READ GetColour WRITE SetColour NOTIFY Changed)
     Q_PROPERTY(QStringList Finishes READ GetFinishes CONSTANT)
     Q_PROPERTY(QString Finish READ GetFinish WRITE SetFinish NOTIFY Changed)
     Q_PROPERTY(double Roughness READ GetRoughness WRITE SetRoughness NOTIFY Changed)
@@ -63,6 +64,7 @@ public:
     {
         msName = QStringLiteral("Brushed steel");
         miColourMode = 0;
+        mColour = QColor(0xb4, 0xb4, 0xb9);
         msFinish = QStringLiteral("Satin");
         mdRoughness = 0.35;
         mdMetalness = 0.9;
@@ -78,6 +80,7 @@ public:
     {
         msName = QStringLiteral("Brushed copper");
         miColourMode = 2;
+        mColour = QColor(0xb8, 0x73, 0x33);
         msFinish = QStringLiteral("Gloss");
         mdRoughness = 0.18;
         mdMetalness = 1.0;
@@ -93,6 +96,8 @@ public:
     void SetName(const QString& name) { Set(msName, name); }
     int GetColourMode() const { return miColourMode; }
     void SetColourMode(int mode) { Set(miColourMode, mode); }
+    QColor GetColour() const { return mColour; }
+    void SetColour(const QColor& colour) { Set(mColour, colour); }
     QStringList GetFinishes() const
     {
         return {QStringLiteral("Matte"), QStringLiteral("Satin"), QStringLiteral("Gloss")};
@@ -158,6 +163,7 @@ private:
 
     QString msName;
     int miColourMode = 0;
+    QColor mColour;
     QString msFinish;
     double mdRoughness = 0.0;
     double mdMetalness = 0.0;

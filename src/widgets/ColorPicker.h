@@ -1,0 +1,92 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QColor>
+#include <QList>
+#include <QWidget>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class ColorPickerImp;
+class ColorWheel;
+
+// A colour editor: the colour wheel beside fields for red, green and blue
+// (0 to 255), hue (degrees), saturation and value (percent) and the hex text
+// ("#rrggbb", or "#rrggbbaa" while alpha is enabled), an optional alpha field
+// and slider over a checkerboard, the old and the new colour side by side (a
+// click on the old one brings it back), a row of the colours recently chosen
+// in this process, and a screen eyedropper.
+//
+// Every user change emits ColorChanged(); a change that is complete (a
+// released drag, a field whose editing finished, a recent colour or an
+// eyedropper click) also emits ColorCommitted(). Hex text that does not parse
+// is replaced by the current colour's text. Six hex digits keep the alpha.
+//
+// The eyedropper needs a platform that lets an application read the screen;
+// elsewhere (offscreen, Wayland) its button is disabled and says why. While
+// picking, the colour under the pointer is shown live, a click takes it and
+// Escape restores the colour from before.
+//
+// A committed colour enters the recent colours. An embedded picker's commits
+// replace the entry it made last while no other picker has added one since,
+// so that one session of dragging leaves one entry.
+class KVUICORE_EXPORT ColorPicker : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+
+public:
+    static constexpr int kMaxRecentColors = 12;
+
+    explicit ColorPicker(QWidget* parent = nullptr);
+    ~ColorPicker() override;
+
+    QColor GetColor() const;
+    // Sets the colour without signals; the old colour shown follows it.
+    void SetColor(const QColor& color);
+    // The colour shown as the one before editing.
+    QColor GetOldColor() const;
+    void SetOldColor(const QColor& color);
+
+    bool IsAlphaEnabled() const;
+    void SetAlphaEnabled(bool enabled);
+
+    ColorWheel* GetWheel() const;
+
+    // Whether the platform lets the eyedropper read the screen.
+    static bool IsEyedropperSupported();
+    bool IsPicking() const;
+    void StartEyedropper();
+    void CancelEyedropper();
+
+    // The colours recently chosen in this process, newest first.
+    static QList<QColor> GetRecentColors();
+    static void AddRecentColor(const QColor& color);
+    static void ClearRecentColors();
+
+Q_SIGNALS:
+    void ColorChanged(const QColor& color);
+    void ColorCommitted(const QColor& color);
+
+public Q_SLOTS:
+    void OnThemeChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(ColorPicker)
+    friend class ColorPickerImp;
+    friend class ColorPickerPopup;
+    // The eyedropper's view of the pointer: a move previews, a click takes.
+    void PickAt(const QPoint& globalPosition, bool take);
+    // A pop-up records its colour once, when it closes accepted.
+    void SetRecordsOnCommit(bool records);
+    std::unique_ptr<ColorPickerImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
