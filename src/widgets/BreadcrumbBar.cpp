@@ -76,6 +76,9 @@ public:
 
 void BreadcrumbBarImp::Layout()
 {
+    // A font change while the bar is being made arrives before its parts exist.
+    if (!mpOverflowButton)
+        return;
     const int available = mpOwner->width();
     const int count = int(mItems.size());
     QList<int> widths;

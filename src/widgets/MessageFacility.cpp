@@ -9,7 +9,6 @@
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/PushButton.h>
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -115,8 +114,7 @@ void MessageFacilityRow::Announce()
 {
     if (mpTimer)
         mpTimer->start();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    AnnounceAlert(this);
 }
 
 void MessageFacilityRow::ApplyTheme()

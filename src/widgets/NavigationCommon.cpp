@@ -6,9 +6,33 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace Kavrel::UICore::Internal {
+
+namespace {
+std::function<void(QWidget*)>& AlertObserver()
+{
+    static std::function<void(QWidget*)> observer;
+    return observer;
+}
+} // namespace
+
+void AnnounceAlert(QWidget* widget)
+{
+    if (!widget)
+        return;
+    if (AlertObserver())
+        AlertObserver()(widget);
+    QAccessibleEvent event(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void SetAlertObserver(std::function<void(QWidget*)> observer)
+{
+    AlertObserver() = std::move(observer);
+}
 
 QColor ThemeColorOr(const QString& key, const QColor& fallback)
 {

@@ -6,6 +6,8 @@
 #include <QColor>
 #include <QString>
 
+#include <functional>
+
 class QPainter;
 
 // Pieces shared by the navigation and message controls (search box, drop-down
@@ -15,6 +17,11 @@ namespace Kavrel::UICore::Internal {
 // Registers the accessible interfaces of these controls with Qt, once; every
 // control calls it from its constructor.
 KVUICORE_EXPORT void InstallNavigationAccessibility();
+
+// Announces the widget to assistive technology as an alert. The observer
+// (tests) sees every alert, also when no assistive technology listens.
+KVUICORE_EXPORT void AnnounceAlert(QWidget* widget);
+KVUICORE_EXPORT void SetAlertObserver(std::function<void(QWidget*)> observer);
 
 // A theme colour, or `fallback` when the theme has no such key.
 KVUICORE_EXPORT QColor ThemeColorOr(const QString& key, const QColor& fallback = QColor());
