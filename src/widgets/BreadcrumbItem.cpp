@@ -233,8 +233,9 @@ QSize BreadcrumbItem::sizeHint() const
     int width = 2 * kPadding + (mpImp->mbSeparator ? kSeparatorWidth : 0);
     if (mpImp->ShowsIcon())
         width += mpImp->IconWidth() + (mpImp->ShowsText() ? kIconGap : 0);
+    // Two pixels more than the advance: laid out text may round up and be cut.
     if (mpImp->ShowsText())
-        width += QFontMetrics(mpImp->TextFont()).horizontalAdvance(text());
+        width += QFontMetrics(mpImp->TextFont()).horizontalAdvance(text()) + 2;
     return QSize(width, kHeight);
 }
 

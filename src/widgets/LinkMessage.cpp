@@ -38,7 +38,9 @@ QList<Segment> ParseMessage(const QString& message)
     return segments;
 }
 
-QString ToHtml(const QList<Segment>& segments)
+// Link colours are fixed when the text is laid out (from the application's
+// palette, not the label's), so the theme's colour is written into each link.
+QString ToHtml(const QList<Segment>& segments, const QColor& linkColor)
 {
     QString html;
     for (const Segment& segment : segments) {
@@ -47,7 +49,8 @@ QString ToHtml(const QList<Segment>& segments)
         if (segment.target.isEmpty())
             html += text;
         else
-            html += QStringLiteral("<a href=\"%1\">%2</a>").arg(segment.target.toHtmlEscaped(), text);
+            html += QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:underline\">%3</a>")
+                        .arg(segment.target.toHtmlEscaped(), linkColor.name(QColor::HexArgb), text);
     }
     return html;
 }
@@ -59,6 +62,7 @@ class LinkMessageImp
 public:
     QString msMessage;
     QList<Segment> mSegments;
+    QColor mLinkColor;
     Internal::ThemedColor* mpTextColor = nullptr;
 };
 
@@ -102,7 +106,7 @@ void LinkMessage::SetMessage(const QString& message)
         return;
     mpImp->msMessage = cut;
     mpImp->mSegments = ParseMessage(cut);
-    setText(ToHtml(mpImp->mSegments));
+    setText(ToHtml(mpImp->mSegments, mpImp->mLinkColor));
     // Without links there is nothing to reach with the keyboard.
     setFocusPolicy(GetLinks().isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(GetPlainText());
@@ -161,6 +165,10 @@ void LinkMessage::OnThemeChanged()
     }
     if (palette != this->palette())
         setPalette(palette);
+    if (link != mpImp->mLinkColor) {
+        mpImp->mLinkColor = link;
+        setText(ToHtml(mpImp->mSegments, link));
+    }
     mpImp->mpTextColor->Apply();
     update();
 }

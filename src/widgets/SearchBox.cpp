@@ -201,6 +201,9 @@ SearchBox::SearchBox(QWidget* parent)
     d.mpEditor->setObjectName(QStringLiteral("SearchBoxEditor"));
     d.mpEditor->setFrame(false);
     d.mpEditor->setAttribute(Qt::WA_MacShowFocusRect, false);
+    // The box paints the background of every state; a disabled editor would
+    // otherwise paint its own over it.
+    d.mpEditor->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; }"));
     d.mpEditor->setFont(font());
     d.mpEditor->installEventFilter(this);
     d.mpTextColor = new Internal::ThemedColor(d.mpEditor, ThemeFileKey::FontSearch1);
