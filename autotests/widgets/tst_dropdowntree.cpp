@@ -200,6 +200,9 @@ void tst_DropDownTree::modelResetLeavesNoCurrentItem()
 {
     mpTree->SetCurrentIndex(mpModel->index(2, 0));
     QSignalSpy changed(mpTree.get(), &DropDownTree::CurrentIndexChanged);
+    mpModel->removeRow(0); // another row: the current item stays
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(mpTree->GetCurrentPathText(), QStringLiteral("Glass"));
     mpModel->clear();
     QCOMPARE(changed.count(), 1);
     QVERIFY(!mpTree->GetCurrentIndex().isValid());

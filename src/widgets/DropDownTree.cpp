@@ -136,6 +136,16 @@ public:
 
     bool IsFiltering() const { return mpView && mpView->model() == mpProxy; }
 
+    // The current item went with its rows (or the whole model): say so once.
+    void ForgetLostCurrent()
+    {
+        if (!mbHasCurrent || mCurrent.isValid())
+            return;
+        mbHasCurrent = false;
+        mpOwner->update();
+        Q_EMIT mpOwner->CurrentIndexChanged(QModelIndex());
+    }
+
     QString DisplayText(const QModelIndex& index) const
     {
         return index.siblingAtColumn(miColumn).data(Qt::DisplayRole).toString();
@@ -154,6 +164,7 @@ public:
     DropDownTree* const mpOwner;
     QPointer<QAbstractItemModel> mpModel;
     QPersistentModelIndex mCurrent;
+    bool mbHasCurrent = false;
     QString msSeparator = QStringLiteral(" > ");
     QString msPrompt;
     int miColumn = 0;
@@ -449,6 +460,7 @@ void DropDownTree::SetModel(QAbstractItemModel* model)
     const bool hadCurrent = d.mCurrent.isValid();
     d.mpModel = model;
     d.mCurrent = QPersistentModelIndex();
+    d.mbHasCurrent = false;
     if (d.mpView) {
         d.mpProxy->setSourceModel(nullptr);
         d.mpView->setModel(model);
@@ -456,14 +468,10 @@ void DropDownTree::SetModel(QAbstractItemModel* model)
     }
     if (model) {
         // A current item removed from the model leaves no current item.
-        connect(model, &QAbstractItemModel::rowsRemoved, this, [this] {
-            if (!mpImp->mCurrent.isValid())
-                update();
-        });
+        connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { mpImp->ForgetLostCurrent(); });
         connect(model, &QAbstractItemModel::modelReset, this, [this] {
             mpImp->mCurrent = QPersistentModelIndex();
-            update();
-            Q_EMIT CurrentIndexChanged(QModelIndex());
+            mpImp->ForgetLostCurrent();
         });
         connect(model, &QAbstractItemModel::dataChanged, this, qOverload<>(&QWidget::update));
     }
@@ -503,6 +511,7 @@ void DropDownTree::SetCurrentIndex(const QModelIndex& index)
     if (wanted == QModelIndex(d.mCurrent))
         return;
     d.mCurrent = wanted;
+    d.mbHasCurrent = wanted.isValid();
     update();
     if (QAccessible::isActive()) {
         QAccessibleValueChangeEvent event(this, GetCurrentPathText());

@@ -238,9 +238,12 @@ int MessageFacility::ShowMessage(const Message& message)
         d.ShowRow(id, message, int(d.mRows.size()));
         updateGeometry();
     } else {
-        if (int(d.mQueue.size()) >= MaximumQueued)
-            d.mQueue.pop_front();
         d.mQueue.push_back({id, message});
+        if (int(d.mQueue.size()) > MaximumQueued) {
+            const int dropped = d.mQueue.front().id;
+            d.mQueue.pop_front();
+            Q_EMIT MessageClosed(dropped);
+        }
     }
     return id;
 }
