@@ -10,6 +10,7 @@
 #include <KvUICore/widgets/PushButton.h>
 
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -48,6 +49,27 @@ QString SeverityName(MessageFacility::Severity severity)
         break;
     }
     return MessageFacility::tr("Information");
+}
+
+// Severity icons are drawn from SVG once per theme and pixel ratio: every
+// message shows one, and a burst of messages would draw them again and again.
+QHash<QString, QPixmap>& SeverityPixmaps()
+{
+    static QHash<QString, QPixmap> pixmaps;
+    return pixmaps;
+}
+
+QPixmap SeverityPixmap(MessageFacility::Severity severity, qreal ratio)
+{
+    const QString key =
+        QStringLiteral("%1/%2/%3").arg(ThemeManager::GetInstance()->GetCurrentTheme()).arg(int(severity)).arg(ratio);
+    auto it = SeverityPixmaps().constFind(key);
+    if (it != SeverityPixmaps().constEnd())
+        return *it;
+    const QSize size(kIconSize, kIconSize);
+    const QPixmap pixmap = Internal::IconFromTheme(SeverityIconKey(severity), size).pixmap(size, ratio);
+    SeverityPixmaps().insert(key, pixmap);
+    return pixmap;
 }
 
 } // namespace
@@ -119,8 +141,7 @@ void MessageFacilityRow::Announce()
 
 void MessageFacilityRow::ApplyTheme()
 {
-    const QIcon icon = IconFromTheme(SeverityIconKey(mMessage.severity), QSize(kIconSize, kIconSize));
-    mpIcon->setPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatio()));
+    mpIcon->setPixmap(SeverityPixmap(mMessage.severity, devicePixelRatio()));
     update();
 }
 
@@ -356,6 +377,8 @@ QSize MessageFacility::sizeHint() const
 
 void MessageFacility::OnThemeChanged()
 {
+    // A theme file loaded again under the same name may bring other icons.
+    SeverityPixmaps().clear();
     for (Internal::MessageFacilityRow* row : mpImp->mRows)
         row->ApplyTheme();
 }
