@@ -12,6 +12,7 @@
 #include <KvUICore/propertyeditor/RadioButtonGroupElement.h>
 #include <KvUICore/propertyeditor/SliderElement.h>
 #include <KvUICore/propertyeditor/TextBoxElement.h>
+#include <KvUICore/propertyeditor/TextEditElement.h>
 #include <KvUICore/util/Diagnostics_p.h>
 
 #include <QCoreApplication>
@@ -82,6 +83,7 @@ void RegisterPropertyEditorElementTypes()
     RegisterKind<LabelElement>("LabelElement");
     RegisterKind<SliderElement>("SliderElement");
     RegisterKind<TextBoxElement>("TextBoxElement");
+    RegisterKind<TextEditElement>("TextEditElement");
     RegisterKind<PanelElement>("PanelElement");
     RegisterKind<RadioButtonGroupElement>("RadioButtonGroupElement");
     RegisterKind<ColorElement>("ColorElement");

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <KvUICore/KvUICoreExport.h>
+
+#include <QLabel>
+#include <QStringList>
+
+#include <memory>
+
+namespace Kavrel::UICore {
+
+class LinkMessageImp;
+
+// A themed text with links. Links are written "[text](target)" inside the
+// message; everything else is shown as plain text (markup is never
+// interpreted). Links are underlined in the theme's link colour, reached with
+// Tab and activated with Return or Space as well as the mouse; activating one
+// emits LinkActivated(target).
+class KVUICORE_EXPORT LinkMessage : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage)
+
+public:
+    // Longer messages are cut: a message is a sentence or two, not a document.
+    static constexpr int MaximumMessageLength = 65536;
+
+    explicit LinkMessage(QWidget* parent = nullptr);
+    explicit LinkMessage(const QString& message, QWidget* parent = nullptr);
+    ~LinkMessage() override;
+
+    void SetMessage(const QString& message);
+    QString GetMessage() const;
+    // The message as read: each link replaced by its text.
+    QString GetPlainText() const;
+    // The targets of the links, in order.
+    QStringList GetLinks() const;
+
+    // The key of the text colour (links keep the link colour).
+    void SetTextColorThemeKey(const QString& key);
+    QString GetTextColorThemeKey() const;
+
+    // Activates the link of that target as a click would; false when there is none.
+    bool ActivateLink(const QString& target);
+
+Q_SIGNALS:
+    void LinkActivated(const QString& target);
+
+public Q_SLOTS:
+    void OnThemeChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(LinkMessage)
+    void Initialize();
+    std::unique_ptr<LinkMessageImp> const mpImp;
+};
+
+} // namespace Kavrel::UICore
