@@ -35,17 +35,10 @@ public:
     QString msTag;
     QString msLoadedTag;
     int miBorderCalls = 0;
-    int miSetVisibleCalls = 0;
 
     // The protected helpers, for the attribute rows.
     bool ReadBool(QDomElement& e, const QString& name, bool fallback) { return GetBoolAttribute(e, name, fallback); }
     int ReadInt(QDomElement& e, const QString& name, int fallback) { return GetIntAttribute(e, name, fallback); }
-
-    void SetVisible(bool visible) override
-    {
-        ++miSetVisibleCalls;
-        WidgetImp::SetVisible(visible);
-    }
 
 protected:
     void LoadState(QDomElement& element) override
@@ -225,23 +218,6 @@ private Q_SLOTS:
         QCOMPARE(sizesSeen, (QList<QSize>{QSize(200, 100), QSize(210, 110)}));
         QCOMPARE(imp.geometry(), QRect(300, 150, 210, 110));
         QCOMPARE(QPoint(imp.GetX(), imp.GetY()), QPoint(300, 150));
-    }
-
-    void moveAndVisibilityActOnHostWidget()
-    {
-        StateHandle handle;
-        handle.Move(31, 47);
-        QCOMPARE(handle.Imp()->pos(), QPoint(31, 47));
-        handle.SetVisible(true);
-        QCOMPARE(handle.Imp()->miSetVisibleCalls, 1);
-        QVERIFY(handle.Imp()->isVisible());
-        handle.Hide();
-        QVERIFY(!handle.IsVisible());
-        handle.SetEnabled(false);
-        QVERIFY(!handle.Imp()->isEnabled());
-        QVERIFY(handle.GetWinId() != nullptr);
-        handle.Imp()->setMinimumHeight(33);
-        QCOMPARE(handle.GetMinimumHeight(), 33);
     }
 
     void showBorderCallsHookEveryTime()
