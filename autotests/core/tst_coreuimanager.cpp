@@ -68,7 +68,6 @@ private Q_SLOTS:
     void translatorFoundLaterIsLoaded();
     void translationFileThatFailsToLoadCountsAsLoaded();
     void globalStyleSheetDisabledIsMarkedApplied();
-    void globalStyleSheetAppliedOnFirstQuery();
     void initializeUseUninitializeRepeats();
     void providerOwnership();
     void localeNames_data();
@@ -173,7 +172,8 @@ void tst_CoreUIManager::translatorFoundLaterIsLoaded()
     QCOMPARE(cancelText(), QStringLiteral("Cancel"));
 
     // Any .qm file of Qt's own serves as the application's translation here.
-    QVERIFY(QFile::copy(qtTranslations() + QStringLiteral("/qtbase_de.qm"), filled.filePath(QStringLiteral("MyApp_de.qm"))));
+    QVERIFY(QFile::copy(qtTranslations() + QStringLiteral("/qtbase_de.qm"),
+                        filled.filePath(QStringLiteral("MyApp_de.qm"))));
     QVERIFY(core->SetTranslatorFilesPath(wide(filled.path()).c_str()));
     QCOMPARE(cancelText(), QStringLiteral("Cancel")); // MyApp_de.qm is not French
     QVERIFY(core->SetCurrentLocale(L"de-DE"));
@@ -219,21 +219,11 @@ void tst_CoreUIManager::globalStyleSheetDisabledIsMarkedApplied()
     QCOMPARE(qApp->styleSheet(), QString()); // applied once means done
 }
 
-void tst_CoreUIManager::globalStyleSheetAppliedOnFirstQuery()
-{
-    CoreUIManager* core = CoreUIManager::GetInstance();
-    core->SetThemeFilesPath(wide(QStringLiteral(KVUICORE_THEMES_DIR)).c_str());
-    QCOMPARE(qApp->styleSheet(), QString());
-    QVERIFY(ThemeManager::GetInstance()->GetColor(QStringLiteral("FontNormal1")).isValid());
-    QVERIFY(qApp->styleSheet().contains(QLatin1String("QScrollBar")));
-    QVERIFY(qApp->styleSheet().contains(QLatin1String("QToolTip")));
-}
-
 void tst_CoreUIManager::initializeUseUninitializeRepeats()
 {
     for (int round = 0; round < 3; ++round) {
         QVERIFY(CoreUIManager::Initialize());
-        QVERIFY(CoreUIManager::Initialize()); // idempotent
+        QVERIFY(CoreUIManager::Initialize());                    // idempotent
         QVERIFY(QMetaType::fromName("SliderElement").isValid()); // the property editor registered its kinds
         CoreUIManager* core = CoreUIManager::GetInstance();
         QVERIFY(core->SetTranslatorFilesPath(wide(qtTranslations()).c_str()));
@@ -257,7 +247,9 @@ namespace {
 class CountingProvider : public IMessageBoxProvider
 {
 public:
-    explicit CountingProvider(int* destroyed) : mpDestroyed(destroyed) {}
+    explicit CountingProvider(int* destroyed)
+        : mpDestroyed(destroyed)
+    {}
     ~CountingProvider() override { ++*mpDestroyed; }
     IMessageBox* CreateMessageBox() override { return nullptr; }
     void DestroyMessageBox(IMessageBox*) override {}

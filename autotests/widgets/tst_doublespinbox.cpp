@@ -104,7 +104,6 @@ void tst_DoubleSpinBox::typedTextIsParsedWhenEditingFinishes_data()
     QTest::newRow("unitless arithmetic") << none << plain << "(10+2)*3" << 36.0 << "36.00";
     QTest::newRow("millimetres") << mm << mmSymbol << "25" << 25.0 << "25.00 mm";
     QTest::newRow("inches into millimetres") << mm << mmSymbol << "2 in" << 50.8 << "50.80 mm";
-    QTest::newRow("feet, inches and millimetres") << mm << mmSymbol << "1ft 3in + 20mm" << 401.0 << "401.00 mm";
     QTest::newRow("above the maximum") << mm << mmSymbol << "2 m" << 1000.0 << "1000.00 mm";
     QTest::newRow("below the minimum") << mm << mmSymbol << "-5" << 0.0 << "0.00 mm";
     QTest::newRow("degrees, minutes, seconds")
@@ -227,7 +226,6 @@ void tst_DoubleSpinBox::singleStepMatchesTheDisplay_data()
 
     QTest::newRow("decimal, 0") << int(units::kNumberFormatDecimal) << 0 << 1.0;
     QTest::newRow("decimal, 2") << int(units::kNumberFormatDecimal) << 2 << 0.01;
-    QTest::newRow("decimal, 3") << int(units::kNumberFormatDecimal) << 3 << 0.001;
     QTest::newRow("decimal, 5") << int(units::kNumberFormatDecimal) << 5 << 0.00001;
     QTest::newRow("fractional, 3") << int(units::kNumberFormatFractional) << 3 << 0.125;
     QTest::newRow("fractional, 5") << int(units::kNumberFormatFractional) << 5 << 0.03125;
@@ -296,7 +294,6 @@ void tst_DoubleSpinBox::deferredUpdatesWaitForUpdateForUnits()
     QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
 
     spin.SetDeferUpdateForUnits(true);
-    QVERIFY(spin.DeferUpdateForUnits());
     spin.SetDecimalSeparator(QStringLiteral(","));
     spin.ShowPositiveNumberSign(true);
     QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));

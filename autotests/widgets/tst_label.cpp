@@ -127,18 +127,6 @@ private Q_SLOTS:
         QCOMPARE(Probe::Count(Probe::Grab(&label), [](const QColor& c) { return c == QColor(Qt::red); }), 0);
     }
 
-    void disablingSwitchesColourKey()
-    {
-        ThemeManager* themes = ThemeManager::GetInstance();
-        Label label(QStringLiteral("Text"));
-        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
-        label.setEnabled(false);
-        QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontColorDisabled);
-        QCOMPARE(label.palette().color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontColorDisabled));
-        label.setEnabled(true);
-        QCOMPARE(label.GetTextColorThemeKey(), ThemeFileKey::FontNormal1);
-    }
-
     void textColourKeyMustExist()
     {
         ThemeManager* themes = ThemeManager::GetInstance();

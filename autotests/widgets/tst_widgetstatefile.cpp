@@ -1,4 +1,4 @@
-// test-options: TIMEOUT 300
+// test-options: TIMEOUT 300 LABELS slow
 // Processes that save into one state file at the same time keep each other's
 // states. The test runs itself again as the saving processes.
 #include <KvUICore/widgets/WidgetImp.h>
