@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/PaletteWindow.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/platform/NativeParent_p.h>
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
