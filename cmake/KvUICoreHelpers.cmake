@@ -50,3 +50,18 @@ function(kvuicore_add_test)
     set_tests_properties(${test_name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT ${T_TIMEOUT} LABELS "${labels}")
   endforeach()
 endfunction()
+
+# kvuicore_instrument(targets...): in a fuzzing build the libraries carry the
+# fuzzer's coverage instrumentation too, so a fuzz target is guided by the
+# paths it takes through the library, not only through its own few lines.
+function(kvuicore_instrument)
+  if(NOT KVUICORE_BUILD_FUZZERS)
+    return()
+  endif()
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "KVUICORE_BUILD_FUZZERS needs clang (libFuzzer)")
+  endif()
+  foreach(target IN LISTS ARGN)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endforeach()
+endfunction()
