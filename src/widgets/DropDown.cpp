@@ -976,6 +976,8 @@ void DropDown::paintEvent(QPaintEvent*)
 void DropDown::mousePressEvent(QMouseEvent* event)
 {
     QPushButton::mousePressEvent(event);
+    if (!IsLive(this))
+        return;
     mpImp->miMouseState = 2;
     OpenDropDownMenu();
     // The menu ran a modal loop; the host may have deleted us from a slot.
@@ -988,6 +990,8 @@ void DropDown::mousePressEvent(QMouseEvent* event)
 void DropDown::mouseReleaseEvent(QMouseEvent* event)
 {
     QPushButton::mouseReleaseEvent(event);
+    if (!IsLive(this))
+        return;
     mpImp->miMouseState = 3;
     update();
 }
