@@ -238,6 +238,13 @@ Grid ToGrid(double magnitude, double scale)
     return {std::round(magnitude * scale), scale};
 }
 
+// Whether the grid's steps are exact integers. Beyond, a magnitude has no
+// fraction left to show and its steps may not even be finite.
+bool IsExact(const Grid& grid)
+{
+    return grid.steps < kExactIntegerLimit;
+}
+
 void FormatSingle(Parts& parts, double magnitude, const UnitsFormatterImp& s, const detail::SymbolRow& symbol)
 {
     const NumberFormat format = s.meNumericFormat;
@@ -245,7 +252,13 @@ void FormatSingle(Parts& parts, double magnitude, const UnitsFormatterImp& s, co
     parts.count = 1;
     if (symbol.fraction || format == kNumberFormatFractional) {
         const double scale = std::ldexp(1.0, s.miPrecision);
-        const Grid grid = ToGrid(magnitude, scale);
+        Grid grid = ToGrid(magnitude, scale);
+        if (!IsExact(grid)) {
+            PutWhole(parts.text[0], std::round(magnitude), s, grouped);
+            parts.zero = false;
+            parts.shown = std::round(magnitude);
+            return;
+        }
         const double whole = std::floor(grid.steps / scale);
         const double numerator = grid.steps - whole * scale;
         PutMixed(parts.text[0], whole, numerator, scale, s, grouped, symbol.hyphenFraction, false);
@@ -310,23 +323,27 @@ void FormatDegreesMinutesSeconds(Parts& parts, double degrees, const UnitsFormat
         parts.shown = whole;
         return;
     }
+    // Too large for a grid of minutes or seconds: whole degrees are all there is.
+    const double wholeDegrees = std::round(degrees);
     if (precision <= 2) {
         const Grid grid = ToGrid(degrees, 60);
-        const double whole = std::floor(grid.steps / 60);
-        const double minutes = grid.steps - whole * 60;
+        const bool exact = IsExact(grid);
+        const double whole = exact ? std::floor(grid.steps / 60) : wholeDegrees;
+        const double minutes = exact ? grid.steps - whole * 60 : 0.0;
         parts.count = 2;
         PutWhole(parts.text[0], whole, s, grouped);
         PutWhole(parts.text[1], minutes, s, false, 2);
-        parts.zero = grid.steps == 0;
-        parts.shown = grid.steps / 60;
+        parts.zero = whole == 0 && minutes == 0;
+        parts.shown = exact ? grid.steps / 60 : whole;
         return;
     }
     const int secondDecimals = precision > 4 ? precision - 4 : 0;
     const double sub = std::pow(10.0, secondDecimals);
     const double perDegree = 3600 * sub;
     const Grid grid = ToGrid(degrees, perDegree);
-    const double whole = std::floor(grid.steps / perDegree);
-    const double rest = grid.steps - whole * perDegree;
+    const bool exact = IsExact(grid);
+    const double whole = exact ? std::floor(grid.steps / perDegree) : wholeDegrees;
+    const double rest = exact ? grid.steps - whole * perDegree : 0.0;
     const double minutes = std::floor(rest / (60 * sub));
     const double secondSteps = rest - minutes * 60 * sub;
     parts.count = 3;
@@ -336,8 +353,8 @@ void FormatDegreesMinutesSeconds(Parts& parts, double degrees, const UnitsFormat
     const auto result =
         std::to_chars(tmp, tmp + sizeof tmp, secondSteps / sub, std::chars_format::fixed, secondDecimals);
     PutFixedText(parts.text[2], tmp, std::size_t(result.ptr - tmp), s, false, trim, 2);
-    parts.zero = grid.steps == 0;
-    parts.shown = grid.steps / perDegree;
+    parts.zero = exact ? grid.steps == 0 : whole == 0;
+    parts.shown = exact ? grid.steps / perDegree : whole;
 }
 
 // Writes a formatting string with the parts there are. When a symbol shows
