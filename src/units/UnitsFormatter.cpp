@@ -86,8 +86,10 @@ bool AllZeroDigits(const char* begin, const char* end)
 // Writes ASCII digits of a whole number, with group separators when asked.
 void PutIntegerDigits(WBuf& out, const char* digits, std::size_t count, const UnitsFormatterImp& s, bool grouped)
 {
+    // Groups marked with the decimal separator could not be read back.
+    const bool group = grouped && s.msGroupSeparator != s.msDecimalSeparator;
     for (std::size_t i = 0; i < count; ++i) {
-        if (grouped && i > 0 && (count - i) % 3 == 0)
+        if (group && i > 0 && (count - i) % 3 == 0)
             out.Put(s.msGroupSeparator);
         out.Put(wchar_t(digits[i]));
     }
