@@ -292,8 +292,10 @@ void FormatFeetInches(Parts& parts, double inches, const UnitsFormatterImp& s, c
         parts.shown = grid.steps / scale;
     } else {
         // Too large for a grid: whole feet and whole inches are all there is.
-        feet = std::floor(inches / 12);
-        steps = std::round(inches - feet * 12) * scale;
+        // fmod is exact, where inches - feet * 12 may be off by far more than a foot.
+        const double rest = std::fmod(inches, 12.0);
+        feet = std::floor((inches - rest) / 12);
+        steps = std::round(rest) * scale;
         if (steps >= 12 * scale) {
             feet += 1;
             steps = 0;
