@@ -3,7 +3,6 @@
 #include <KvUICore/theme/ThemeFileReader_p.h>
 
 #include <QBuffer>
-#include <QCoreApplication>
 
 #include <cstddef>
 #include <cstdint>
@@ -19,5 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ThemeFileReader reader(table, [&table](const QString& name) { return ThemeValueText(table.value(name)); });
     reader.Read(&buffer);
     qDeleteAll(table);
+    // Icons are cached by file name for the process; inputs naming ever new
+    // files would otherwise keep every decoded image of the run.
+    ClearIconCache();
     return 0;
 }

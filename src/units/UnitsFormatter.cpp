@@ -87,8 +87,10 @@ bool AllZeroDigits(const char* begin, const char* end)
 // Writes ASCII digits of a whole number, with group separators when asked.
 void PutIntegerDigits(WBuf& out, const char* digits, std::size_t count, const UnitsFormatterImp& s, bool grouped)
 {
+    // Groups marked with the decimal separator could not be read back.
+    const bool group = grouped && s.msGroupSeparator != s.msDecimalSeparator;
     for (std::size_t i = 0; i < count; ++i) {
-        if (grouped && i > 0 && (count - i) % 3 == 0)
+        if (group && i > 0 && (count - i) % 3 == 0)
             out.Put(s.msGroupSeparator);
         out.Put(wchar_t(digits[i]));
     }
@@ -239,6 +241,13 @@ Grid ToGrid(double magnitude, double scale)
     return {std::round(magnitude * scale), scale};
 }
 
+// Whether the grid's steps are exact integers. Beyond, a magnitude has no
+// fraction left to show and its steps may not even be finite.
+bool IsExact(const Grid& grid)
+{
+    return grid.steps < kExactIntegerLimit;
+}
+
 void FormatSingle(Parts& parts, double magnitude, const UnitsFormatterImp& s, const detail::SymbolRow& symbol)
 {
     const NumberFormat format = s.meNumericFormat;
@@ -246,7 +255,13 @@ void FormatSingle(Parts& parts, double magnitude, const UnitsFormatterImp& s, co
     parts.count = 1;
     if (symbol.fraction || format == kNumberFormatFractional) {
         const double scale = std::ldexp(1.0, s.miPrecision);
-        const Grid grid = ToGrid(magnitude, scale);
+        Grid grid = ToGrid(magnitude, scale);
+        if (!IsExact(grid)) {
+            PutWhole(parts.text[0], std::round(magnitude), s, grouped);
+            parts.zero = false;
+            parts.shown = std::round(magnitude);
+            return;
+        }
         const double whole = std::floor(grid.steps / scale);
         const double numerator = grid.steps - whole * scale;
         PutMixed(parts.text[0], whole, numerator, scale, s, grouped, symbol.hyphenFraction, false);
@@ -278,8 +293,10 @@ void FormatFeetInches(Parts& parts, double inches, const UnitsFormatterImp& s, c
         parts.shown = grid.steps / scale;
     } else {
         // Too large for a grid: whole feet and whole inches are all there is.
-        feet = std::floor(inches / 12);
-        steps = std::round(inches - feet * 12) * scale;
+        // fmod is exact, where inches - feet * 12 may be off by far more than a foot.
+        const double rest = std::fmod(inches, 12.0);
+        feet = std::floor((inches - rest) / 12);
+        steps = std::round(rest) * scale;
         if (steps >= 12 * scale) {
             feet += 1;
             steps = 0;
@@ -311,23 +328,27 @@ void FormatDegreesMinutesSeconds(Parts& parts, double degrees, const UnitsFormat
         parts.shown = whole;
         return;
     }
+    // Too large for a grid of minutes or seconds: whole degrees are all there is.
+    const double wholeDegrees = std::round(degrees);
     if (precision <= 2) {
         const Grid grid = ToGrid(degrees, 60);
-        const double whole = std::floor(grid.steps / 60);
-        const double minutes = grid.steps - whole * 60;
+        const bool exact = IsExact(grid);
+        const double whole = exact ? std::floor(grid.steps / 60) : wholeDegrees;
+        const double minutes = exact ? grid.steps - whole * 60 : 0.0;
         parts.count = 2;
         PutWhole(parts.text[0], whole, s, grouped);
         PutWhole(parts.text[1], minutes, s, false, 2);
-        parts.zero = grid.steps == 0;
-        parts.shown = grid.steps / 60;
+        parts.zero = whole == 0 && minutes == 0;
+        parts.shown = exact ? grid.steps / 60 : whole;
         return;
     }
     const int secondDecimals = precision > 4 ? precision - 4 : 0;
     const double sub = std::pow(10.0, secondDecimals);
     const double perDegree = 3600 * sub;
     const Grid grid = ToGrid(degrees, perDegree);
-    const double whole = std::floor(grid.steps / perDegree);
-    const double rest = grid.steps - whole * perDegree;
+    const bool exact = IsExact(grid);
+    const double whole = exact ? std::floor(grid.steps / perDegree) : wholeDegrees;
+    const double rest = exact ? grid.steps - whole * perDegree : 0.0;
     const double minutes = std::floor(rest / (60 * sub));
     const double secondSteps = rest - minutes * 60 * sub;
     parts.count = 3;
@@ -337,8 +358,8 @@ void FormatDegreesMinutesSeconds(Parts& parts, double degrees, const UnitsFormat
     const auto result =
         std::to_chars(tmp, tmp + sizeof tmp, secondSteps / sub, std::chars_format::fixed, secondDecimals);
     PutFixedText(parts.text[2], tmp, std::size_t(result.ptr - tmp), s, false, trim, 2);
-    parts.zero = grid.steps == 0;
-    parts.shown = grid.steps / perDegree;
+    parts.zero = exact ? grid.steps == 0 : whole == 0;
+    parts.shown = exact ? grid.steps / perDegree : whole;
 }
 
 // Writes a formatting string with the parts there are. When a symbol shows

@@ -9,6 +9,7 @@
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRegularExpressionValidator>
 #include <QStyle>
 
@@ -91,7 +92,10 @@ void DoubleSpinBox::stepBy(int steps)
     // Steps add in binary, where 1.001 - 0.001 is 0.99999999999999989: stepping
     // in Qt would announce that, then the display grid would round it to 1 and
     // announce again. Land on the grid at once, with one notification.
+    QPointer<DoubleSpinBox> self(this);
     interpretText();
+    if (!self)
+        return;
     const double old = value();
     double target = old + steps * singleStep();
     if (wrapping() && maximum() > minimum()) {
@@ -102,7 +106,8 @@ void DoubleSpinBox::stepBy(int steps)
     }
     const double scale = std::pow(10.0, decimals());
     setValue(std::round(target * scale) / scale);
-    if (style()->styleHint(QStyle::SH_SpinBox_SelectOnStep, nullptr, this, nullptr))
+    // valueChanged() handlers may delete the spin box.
+    if (self && style()->styleHint(QStyle::SH_SpinBox_SelectOnStep, nullptr, this, nullptr))
         selectAll();
 }
 
@@ -274,15 +279,19 @@ void DoubleSpinBox::OnThemeChanged()
 
 bool DoubleSpinBox::event(QEvent* event)
 {
+    // editingFinished() and valueChanged() handlers may delete the spin box.
+    QPointer<DoubleSpinBox> self(this);
     switch (event->type()) {
     case QEvent::FocusIn: {
         const bool handled = QDoubleSpinBox::event(event);
-        mpImp->ApplyFieldBackground(ThemeFileKey::ActiveContainer1);
+        if (self)
+            mpImp->ApplyFieldBackground(ThemeFileKey::ActiveContainer1);
         return handled;
     }
     case QEvent::FocusOut: {
         const bool handled = QDoubleSpinBox::event(event);
-        mpImp->ApplyFieldBackground(ThemeFileKey::WidgetContainer3);
+        if (self)
+            mpImp->ApplyFieldBackground(ThemeFileKey::WidgetContainer3);
         return handled;
     }
     case QEvent::Wheel:
@@ -294,10 +303,22 @@ bool DoubleSpinBox::event(QEvent* event)
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            const bool handled = QDoubleSpinBox::event(event);
-            if (QLineEdit* edit = lineEdit())
+            // What the base class does for Return, with a check after each
+            // notification: its own code goes on using the spin box after
+            // emitting editingFinished(), which a handler may have deleted.
+            interpretText();
+            if (!self)
+                return true;
+            selectAll();
+            event->ignore();
+            Q_EMIT editingFinished();
+            if (!self)
+                return true;
+            QLineEdit* edit = lineEdit();
+            Q_EMIT edit->returnPressed();
+            if (self)
                 edit->selectAll();
-            return handled;
+            return true;
         }
         break;
     }

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/DoubleSpinBoxNumericField.h>
 
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace Kavrel::UICore {
 
@@ -12,8 +13,10 @@ DoubleSpinBoxNumericField::~DoubleSpinBoxNumericField() = default;
 
 void DoubleSpinBoxNumericField::keyPressEvent(QKeyEvent* event)
 {
+    QPointer<DoubleSpinBoxNumericField> self(this);
     QLineEdit::keyPressEvent(event);
-    UpdateModified();
+    if (self)
+        UpdateModified();
 }
 
 } // namespace Kavrel::UICore

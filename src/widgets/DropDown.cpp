@@ -981,6 +981,8 @@ void DropDown::paintEvent(QPaintEvent*)
 void DropDown::mousePressEvent(QMouseEvent* event)
 {
     QPushButton::mousePressEvent(event);
+    if (!IsLive(this))
+        return;
     mpImp->miMouseState = 2;
     OpenDropDownMenu();
     // The menu ran a modal loop; the host may have deleted us from a slot.
@@ -993,6 +995,8 @@ void DropDown::mousePressEvent(QMouseEvent* event)
 void DropDown::mouseReleaseEvent(QMouseEvent* event)
 {
     QPushButton::mouseReleaseEvent(event);
+    if (!IsLive(this))
+        return;
     mpImp->miMouseState = 3;
     update();
 }

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/EditAnnouncer_p.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
@@ -125,6 +126,7 @@ public:
     bool mbPreventContextMenu = false;
     const bool mbEmbedded;
     int miHoverState = 0;
+    Internal::EditAnnouncer* mpAnnouncer = nullptr;
 };
 
 LineEdit::LineEdit(QWidget* parent, bool embedded)
@@ -141,6 +143,7 @@ LineEdit::LineEdit(QWidget* parent, bool embedded)
     mpImp->mpColor->SetAlternateKey(ThemeFileKey::FontNormal1);
     mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
     connect(this, &QLineEdit::textEdited, this, &LineEdit::OnTextEdited);
+    mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     if (embedded) {
         setStyle(LineEditStyle::GetInstance());
     } else {
@@ -370,7 +373,10 @@ void LineEdit::OnTextEdited(const QString& text)
 void LineEdit::mousePressEvent(QMouseEvent* event)
 {
     mpImp->miHoverState = 2;
+    QPointer<LineEdit> self(this);
     QLineEdit::mousePressEvent(event);
+    if (!self)
+        return;
     if (mpImp->mbAllowFocusInSelectAll && !mpImp->mbSelectedByClick && !mpImp->mbIsPrompting) {
         selectAll();
         mpImp->mbSelectedByClick = true;
@@ -385,7 +391,10 @@ void LineEdit::mouseReleaseEvent(QMouseEvent* event)
 
 void LineEdit::focusInEvent(QFocusEvent* event)
 {
+    QPointer<LineEdit> self(this);
     QLineEdit::focusInEvent(event);
+    if (!self)
+        return;
     UpdateText();
     mpImp->ShowFullOrElided();
     if (mpImp->mbHomeAlways && !mpImp->mbSelectedByClick)
@@ -394,8 +403,10 @@ void LineEdit::focusInEvent(QFocusEvent* event)
 
 void LineEdit::focusOutEvent(QFocusEvent* event)
 {
-    QLineEdit::focusOutEvent(event);
-    if (!mpImp->mbInContextMenu) {
+    QPointer<LineEdit> self(this);
+    // editingFinished() handlers may delete the edit.
+    mpImp->mpAnnouncer->FocusOut(event, [this, event] { QLineEdit::focusOutEvent(event); });
+    if (self && !mpImp->mbInContextMenu) {
         mpImp->mbSelectedByClick = false;
         setCursorPosition(0);
         mpImp->ShowFullOrElided();
@@ -405,8 +416,10 @@ void LineEdit::focusOutEvent(QFocusEvent* event)
 
 void LineEdit::keyPressEvent(QKeyEvent* event)
 {
-    QLineEdit::keyPressEvent(event);
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    QPointer<LineEdit> self(this);
+    // returnPressed() and editingFinished() handlers may delete the edit.
+    mpImp->mpAnnouncer->KeyPress(event, [this, event] { QLineEdit::keyPressEvent(event); });
+    if (self && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         selectAll();
 }
 

@@ -6,11 +6,13 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/EditAnnouncer_p.h>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace Kavrel::UICore {
 
@@ -64,6 +66,7 @@ public:
     int miHoverState = 0;
     bool mbSelectedOnClick = false;
     bool mbModified = false;
+    Internal::EditAnnouncer* mpAnnouncer = nullptr;
 };
 
 NumericField::NumericField(QWidget* parent)
@@ -71,6 +74,7 @@ NumericField::NumericField(QWidget* parent)
     , mpImp(std::make_unique<NumericFieldImp>(this))
 {
     setFont(Internal::ItemViewFont());
+    mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     setFocusPolicy(Qt::StrongFocus);
     setStyle(CustomStyle::GetInstance());
     setAttribute(Qt::WA_Hover, true);
@@ -103,7 +107,10 @@ void NumericField::UpdateModified()
 
 void NumericField::mousePressEvent(QMouseEvent* event)
 {
+    QPointer<NumericField> self(this);
     QLineEdit::mousePressEvent(event);
+    if (!self)
+        return;
     mpImp->miHoverState = 2;
     if (!mpImp->mbSelectedOnClick) {
         selectAll();
@@ -135,17 +142,22 @@ void NumericField::focusInEvent(QFocusEvent* event)
 void NumericField::focusOutEvent(QFocusEvent* event)
 {
     UpdateModified();
-    QLineEdit::focusOutEvent(event);
+    // editingFinished() handlers may delete the field.
+    if (!mpImp->mpAnnouncer->FocusOut(event, [this, event] { QLineEdit::focusOutEvent(event); }))
+        return;
     mpImp->mbSelectedOnClick = false;
     Q_EMIT FocusOut();
 }
 
 void NumericField::keyPressEvent(QKeyEvent* event)
 {
+    // returnPressed() and editingFinished() handlers may delete the field.
+    QPointer<NumericField> self(this);
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        QLineEdit::keyPressEvent(event);
+        if (!mpImp->mpAnnouncer->KeyPress(event, [this, event] { QLineEdit::keyPressEvent(event); }))
+            return;
         selectAll();
         break;
     case Qt::Key_PageUp:
@@ -160,7 +172,8 @@ void NumericField::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
         break;
     }
-    UpdateModified();
+    if (self)
+        UpdateModified();
 }
 
 void NumericField::paintEvent(QPaintEvent* event)

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStaticText>
 
 namespace Kavrel::UICore {
@@ -272,7 +273,11 @@ void PushButton::mousePressEvent(QMouseEvent* event)
 
 void PushButton::mouseReleaseEvent(QMouseEvent* event)
 {
+    QPointer<PushButton> self(this);
     QPushButton::mouseReleaseEvent(event);
+    // A clicked() handler may have deleted the button.
+    if (!self)
+        return;
     SetMouseState(testAttribute(Qt::WA_UnderMouse) ? Hovered : Released);
     repaint();
 }

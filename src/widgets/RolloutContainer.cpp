@@ -407,11 +407,13 @@ void RolloutContainer::mouseReleaseEvent(QMouseEvent* event)
     }
     if (mpImp->mbCollapsed)
         grabMouse();
+    event->accept();
+    QPointer<RolloutContainer> self(this);
+    // A Collapsed() handler may delete the container.
     if (mpImp->mbExpandButtonVisible)
         mpImp->ChangeCollapsed(!mpImp->mbCollapsed);
-    if (!mpImp->mbCollapsed)
+    if (self && !mpImp->mbCollapsed)
         releaseMouse();
-    event->accept();
 }
 
 void RolloutContainer::paintEvent(QPaintEvent*)

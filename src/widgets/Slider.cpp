@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 
 #include <algorithm>
 #include <climits>
@@ -476,9 +477,13 @@ void Slider::TextEditComplete()
     WidgetUnits::SetValue(value, false);
     mpImp->PlaceSlider(mpImp->Position(GetValue()));
     mpImp->ShowValueInField();
+    // Each handler may delete the slider.
+    QPointer<Slider> self(this);
     Q_EMIT SliderPressed();
-    Q_EMIT ValueChanged(GetValue());
-    Q_EMIT SliderReleased();
+    if (self)
+        Q_EMIT ValueChanged(GetValue());
+    if (self)
+        Q_EMIT SliderReleased();
 }
 
 void Slider::OnSliderPressed()

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
 
@@ -46,12 +47,18 @@ public:
 
     void ApplyStoredRange() { mpOwner->QAbstractSlider::setRange(miStoredMinimum, miStoredMaximum); }
 
-    // Adds an input; the first one held starts the interaction.
-    void Hold(int input)
+    // Adds an input; the first one held starts the interaction. False when
+    // a sliderPressed() handler deleted the slider.
+    bool Hold(int input)
     {
-        if (mHeldInputs.isEmpty())
+        if (mHeldInputs.isEmpty()) {
+            QPointer<SliderControl> owner(mpOwner);
             Q_EMIT mpOwner->sliderPressed();
+            if (!owner)
+                return false;
+        }
         mHeldInputs.append(input);
+        return true;
     }
 
     // Drops an input; the last one released ends the interaction. Inputs that
@@ -88,7 +95,10 @@ public:
             break;
         }
         miKeyAccumulator += number;
+        QPointer<SliderControl> owner(mpOwner);
         Q_EMIT mpOwner->IncDecKeyPressed(number);
+        if (!owner)
+            return;
         if (miKeyAccumulator < 0) {
             MoveOnePosition(-1);
             miKeyAccumulator += miKeyThreshold;
@@ -123,8 +133,11 @@ public:
             miRangeMode = 0;
             ApplyStoredRange();
         }
+        // valueChanged() handlers may delete the slider.
+        QPointer<SliderControl> owner(mpOwner);
         mpOwner->setSliderPosition(position);
-        Q_EMIT mpOwner->sliderMoved(mpOwner->sliderPosition());
+        if (owner)
+            Q_EMIT mpOwner->sliderMoved(mpOwner->sliderPosition());
     }
 
     SliderControl* const mpOwner;
@@ -256,9 +269,9 @@ void SliderControl::keyPressEvent(QKeyEvent* event)
         QSlider::keyPressEvent(event);
         return;
     }
-    if (!event->isAutoRepeat())
-        mpImp->Hold(key);
     event->accept();
+    if (!event->isAutoRepeat() && !mpImp->Hold(key))
+        return;
     if (mpImp->mHeldInputs.isEmpty() || mpImp->mHeldInputs.last() != key)
         return;
     if (mpImp->mbDefaultKeyHandling)
@@ -295,8 +308,8 @@ void SliderControl::mousePressEvent(QMouseEvent* event)
     mpImp->miPressX = mpImp->Coordinate(event->position());
     mpImp->miCurrentX = mpImp->miPressX;
     mpImp->miPositionAtPress = sliderPosition();
-    mpImp->Hold(MouseInput);
     event->accept();
+    mpImp->Hold(MouseInput);
 }
 
 void SliderControl::mouseMoveEvent(QMouseEvent* event)
@@ -331,17 +344,22 @@ void SliderControl::wheelEvent(QWheelEvent* event)
     if (!mpImp->mHeldInputs.isEmpty()) {
         setSliderPosition(sliderPosition() + steps);
     } else if (isEnabled()) {
+        QPointer<SliderControl> self(this);
         Q_EMIT sliderPressed();
-        setSliderPosition(sliderPosition() + steps);
-        Q_EMIT sliderReleased();
+        if (self)
+            setSliderPosition(sliderPosition() + steps);
+        if (self)
+            Q_EMIT sliderReleased();
     }
 }
 
 void SliderControl::focusOutEvent(QFocusEvent* event)
 {
     mpImp->mHeldInputs.clear();
+    QPointer<SliderControl> self(this);
     Q_EMIT FocusOut();
-    QSlider::focusOutEvent(event);
+    if (self)
+        QSlider::focusOutEvent(event);
 }
 
 void SliderControl::paintEvent(QPaintEvent* event)

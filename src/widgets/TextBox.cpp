@@ -96,6 +96,7 @@ bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
 {
     // The box's handlers only observe: the editor decides about acceptance.
     const bool accepted = event->isAccepted();
+    const QPointer<TextBox> box(mpBox);
     switch (event->type()) {
     case QEvent::FocusIn:
         mpBox->focusInEvent(static_cast<QFocusEvent*>(event));
@@ -112,6 +113,10 @@ bool TextBoxEventFilter::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
+    // A handler deleted the box, and with it the editor and this filter:
+    // filtering the event out keeps Qt from delivering it to the editor.
+    if (!box)
+        return true;
     event->setAccepted(accepted);
     return QObject::eventFilter(watched, event);
 }
@@ -142,11 +147,12 @@ bool ImageEventFilter::eventFilter(QObject*, QEvent* event)
                 if (box && box->mpImp->mpImageAction)
                     box->mpImp->mpImageAction->trigger();
             }
-            if (box)
-                box->mpImp->mbImagePressed = false;
+            if (!box)
+                return true;
+            box->mpImp->mbImagePressed = false;
         }
     }
-    // The events always go on to the label.
+    // The events go on to the label unless a handler deleted the box with it.
     return false;
 }
 
@@ -261,7 +267,14 @@ TextBox::TextBox(QWidget* parent)
     UpdateLayout();
 }
 
-TextBox::~TextBox() = default;
+TextBox::~TextBox()
+{
+    // The editor dies after this box has stopped being a TextBox; when it has
+    // the focus, its focus loss must not reach the box's handlers.
+    mpImp->mpTextBoxControl->removeEventFilter(mpImp->mpTextBoxFilter);
+    mpImp->mpImageControl->removeEventFilter(mpImp->mpImageFilter);
+    mpImp->mpTextBoxControl->disconnect(this);
+}
 
 QString TextBox::GetText() const
 {
