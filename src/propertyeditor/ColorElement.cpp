@@ -17,9 +17,7 @@ class ColorElementImp : public PropertyEditorElementImp
 public:
     ColorElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {

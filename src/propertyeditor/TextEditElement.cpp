@@ -13,9 +13,7 @@ class TextEditElementImp : public PropertyEditorElementImp
 public:
     TextEditElementImp()
         : PropertyEditorElementImp(PropertyEditorElement::Leaf)
-    {
-        mbLibraryKind = true;
-    }
+    {}
 
     void LoadAttributes(XmlFiler& filer) override
     {
