@@ -148,6 +148,20 @@ template <class Control, class... Args> Control* ShownWithOther(QList<QWidget*>&
     return control;
 }
 
+// WCAG's relative luminance and contrast ratio, worked out here rather than
+// taken from the library, so that a fault there cannot hide a poor theme.
+inline double Luminance(const QColor& c)
+{
+    auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+inline double Contrast(const QColor& a, const QColor& b)
+{
+    const double la = Luminance(a), lb = Luminance(b);
+    return (qMax(la, lb) + 0.05) / (qMin(la, lb) + 0.05);
+}
+
 inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)
 {
     return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&

@@ -205,7 +205,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, expression);
         QFETCH(QString, expectedSource);
-        QFETCH(QString, expectedProperty);
 
         Source defaultObject(QStringLiteral("default"));
         Source camera(QStringLiteral("camera"));
@@ -222,7 +221,7 @@ private Q_SLOTS:
         QSignalSpy modified(&binding, &Binding::BindingModified);
         QVERIFY(binding.SetExpression(expression));
         QCOMPARE(binding.GetSource() ? binding.GetSource()->objectName() : QString(), expectedSource);
-        QCOMPARE(binding.GetSourceProperty(), expectedProperty);
+        QTEST(binding.GetSourceProperty(), "expectedProperty");
         QCOMPARE(binding.IsBound(), !expectedSource.isEmpty());
         QCOMPARE(modified.count(), expectedSource.isEmpty() ? 0 : 1);
     }

@@ -1,3 +1,5 @@
+#include "../PaintProbe.h"
+
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/propertyeditor/PropertyEditor.h>
 #include <KvUICore/propertyeditor/TextEditElement.h>
@@ -5,9 +7,9 @@
 #include <KvUICore/widgets/TextEdit.h>
 
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 using namespace Kavrel::UICore;
 
@@ -49,19 +51,15 @@ private Q_SLOTS:
     void editorFollowsTheSourceAndWritesBackOnCommit()
     {
         Note note;
-        QWidget window;
-        auto* layout = new QVBoxLayout(&window);
-        auto* editor = new PropertyEditor(&window);
-        auto* other = new QLineEdit(&window);
-        layout->addWidget(editor);
-        layout->addWidget(other);
+        QList<QWidget*> owned;
+        auto cleanup = qScopeGuard([&] { qDeleteAll(owned); });
+        auto* editor = Probe::ShownWithOther<PropertyEditor>(owned, QSize(400, 400));
+        QVERIFY(editor);
         editor->SetContextObject(&note);
         QVERIFY(editor->LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"g\" Label=\"Notes\">"
                                               "<TextEditElement Id=\"n\" Label=\"Notes\" Text=\"Binding(Text)\"/>"
                                               "</GroupElement></PageElement></E>")));
-        window.resize(400, 400);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        editor->grab(); // builds the page now
         auto* element = qobject_cast<TextEditElement*>(editor->FindElement(QStringLiteral("n")));
         QVERIFY(element);
         auto* edit = qobject_cast<TextEdit*>(element->GetWidget());
@@ -73,13 +71,12 @@ private Q_SLOTS:
 
         QSignalSpy modified(editor, &PropertyEditor::PropertyModified);
         const int writes = note.miWrites;
-        edit->setFocus();
-        QTRY_VERIFY(edit->hasFocus());
+        QVERIFY(Probe::Focus(edit));
         edit->moveCursor(QTextCursor::End);
         QTest::keyClicks(edit, QStringLiteral(" Oiled."));
         // A paragraph is one change: nothing is written while typing.
         QCOMPARE(note.miWrites, writes);
-        other->setFocus();
+        editor->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
         QTRY_COMPARE(note.GetText(), QStringLiteral("Planed walnut. Oiled."));
         QCOMPARE(note.miWrites, writes + 1);
         QCOMPARE(modified.count(), 1);

@@ -92,10 +92,9 @@ private Q_SLOTS:
     void filterKeepsAncestorsOfMatches()
     {
         QFETCH(QString, filter);
-        QFETCH(QStringList, shown);
         mpTree->SetFilterText(QStringLiteral("something first"));
         mpTree->SetFilterText(filter);
-        QCOMPARE(Shown(mpTree->GetPopupView()), shown);
+        QTEST(Shown(mpTree->GetPopupView()), "shown");
     }
 
     void currentPathIsShownAndAnnouncedOnce()

@@ -1,15 +1,14 @@
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/widgets/ColorMath_p.h>
 #include <KvUICore/widgets/SearchBox.h>
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
-#include <QScopeGuard>
 
 using namespace Kavrel::UICore;
 
@@ -153,7 +152,7 @@ private Q_SLOTS:
         const QColor inside = Probe::PixelAt(focusedImage, QPoint(box->width() / 2, box->height() / 2 + 8));
         // Against the field and against the window background hosts paint (the theme's container).
         for (const QColor& next : {inside, Probe::ThemeColor(ThemeFileKey::Container1)})
-            QVERIFY2(Internal::ContrastRatio(focused, next) >= 3.0, qPrintable(focused.name() + '/' + next.name()));
+            QVERIFY2(Probe::Contrast(focused, next) >= 3.0, qPrintable(focused.name() + '/' + next.name()));
         Probe::UseRepositoryThemes(QStringLiteral("Light"));
     }
 

@@ -247,14 +247,12 @@ private Q_SLOTS:
     void attributes()
     {
         QFETCH(QString, xml);
-        QFETCH(int, intValue);
-        QFETCH(bool, boolValue);
         QDomDocument document;
         QVERIFY(document.setContent(xml));
         QDomElement element = document.documentElement();
         StateWidget imp;
-        QCOMPARE(imp.ReadInt(element, QStringLiteral("a"), 42), intValue);
-        QCOMPARE(imp.ReadBool(element, QStringLiteral("a"), true), boolValue);
+        QTEST(imp.ReadInt(element, QStringLiteral("a"), 42), "intValue");
+        QTEST(imp.ReadBool(element, QStringLiteral("a"), true), "boolValue");
     }
 
     void stateFileKeepsOtherWidgetsStates()
@@ -377,14 +375,13 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QFETCH(QString, special);
-        QFETCH(bool, loads);
         QFETCH(bool, saves);
         StateFile file;
         const QString path = Probe::HostileFile(file.path, special, content);
         QVERIFY(!path.isEmpty());
 
         StateWidget reader;
-        QCOMPARE(reader.LoadState(path, QStringLiteral("A")), loads);
+        QTEST(reader.LoadState(path, QStringLiteral("A")), "loads");
         StateWidget imp;
         imp.miValue = 9;
         QCOMPARE(imp.SaveState(path, QStringLiteral("A/B")), saves);
