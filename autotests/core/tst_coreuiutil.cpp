@@ -37,12 +37,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("expected"); // relative to the temporary folder; empty: unchanged
 
-        QTest::newRow("relative target") << QStringLiteral("a/link") << QStringLiteral("../b/f.txt")
-                                         << QStringLiteral("b/f.txt");
-        QTest::newRow("relative dotted") << QStringLiteral("a/link2") << QStringLiteral("./../b/./f.txt")
-                                         << QStringLiteral("b/f.txt");
-        QTest::newRow("absolute target") << QStringLiteral("a/abs") << QStringLiteral("@/b/f.txt")
-                                         << QStringLiteral("b/f.txt");
+        QTest::newRow("relative target") << "a/link" << QStringLiteral("../b/f.txt") << "b/f.txt";
+        QTest::newRow("relative dotted") << "a/link2" << QStringLiteral("./../b/./f.txt") << "b/f.txt";
+        QTest::newRow("absolute target") << "a/abs" << QStringLiteral("@/b/f.txt") << "b/f.txt";
         QTest::newRow("plain file unchanged") << "b/f.txt" << QString() << QString();
         QTest::newRow("missing path unchanged") << "a/missing" << QString() << QString();
     }

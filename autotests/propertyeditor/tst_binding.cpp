@@ -180,22 +180,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expectedSource");
         QTest::addColumn<QString>("expectedProperty");
 
-        QTest::newRow("default object") << QStringLiteral("Binding(Width)") << QStringLiteral("default")
-                                        << QStringLiteral("Width");
-        QTest::newRow("lower case with blanks")
-            << QStringLiteral("binding( Width )") << QStringLiteral("default") << QStringLiteral("Width");
-        QTest::newRow("named object") << QStringLiteral("Binding(camera.Zoom)") << QStringLiteral("camera")
-                                      << QStringLiteral("Zoom");
-        QTest::newRow("dotted object name")
-            << QStringLiteral("Binding(a.b.Width)") << QStringLiteral("a.b") << QStringLiteral("Width");
-        QTest::newRow("leading dot is the default object")
-            << QStringLiteral("Binding(.Width)") << QStringLiteral("default") << QStringLiteral("Width");
-        QTest::newRow("unknown object") << QStringLiteral("Binding(nobody.Width)") << QStringLiteral("")
-                                        << QStringLiteral("");
-        QTest::newRow("missing property")
-            << QStringLiteral("Binding(Missing)") << QStringLiteral("") << QStringLiteral("");
-        QTest::newRow("empty property") << QStringLiteral("Binding(camera.)") << QStringLiteral("")
-                                        << QStringLiteral("");
+        QTest::newRow("default object") << "Binding(Width)" << QStringLiteral("default") << "Width";
+        QTest::newRow("lower case with blanks") << "binding( Width )" << QStringLiteral("default") << "Width";
+        QTest::newRow("named object") << "Binding(camera.Zoom)" << QStringLiteral("camera") << "Zoom";
+        QTest::newRow("dotted object name") << "Binding(a.b.Width)" << QStringLiteral("a.b") << "Width";
+        QTest::newRow("leading dot is the default object") << "Binding(.Width)" << QStringLiteral("default") << "Width";
+        QTest::newRow("unknown object") << "Binding(nobody.Width)" << QStringLiteral("") << "";
+        QTest::newRow("missing property") << "Binding(Missing)" << QStringLiteral("") << "";
+        QTest::newRow("empty property") << "Binding(camera.)" << QStringLiteral("") << "";
         QTest::newRow("empty path") << QStringLiteral("Binding()") << QStringLiteral("") << QStringLiteral("");
         QTest::newRow("two arguments") << QStringLiteral("Binding(a, b)") << QStringLiteral("") << QStringLiteral("");
         QTest::newRow("other call") << QStringLiteral("Lookup(Width)") << QStringLiteral("") << QStringLiteral("");

@@ -197,21 +197,18 @@ private Q_SLOTS:
 
         QTest::newRow("defaults") << QStringLiteral("") << QStringLiteral("") << QList<int>{100, -1, -1};
         QTest::newRow("label column width")
-            << QStringLiteral("LabelColumnWidth=\"120\"") << QStringLiteral("") << QList<int>{120, -1, -1};
+            << "LabelColumnWidth=\"120\"" << QStringLiteral("") << QList<int>{120, -1, -1};
         QTest::newRow("first width overrides label column width")
-            << QStringLiteral("LabelColumnWidth=\"120\"") << QStringLiteral("<W Width=\"90\"/>")
-            << QList<int>{90, -1, -1};
+            << "LabelColumnWidth=\"120\"" << QStringLiteral("<W Width=\"90\"/>") << QList<int>{90, -1, -1};
         QTest::newRow("only one column stretches")
-            << QStringLiteral("") << QStringLiteral("<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>")
-            << QList<int>{0, -1, 80};
+            << "" << QStringLiteral("<W Width=\"0\"/><W Width=\"0\"/><W Width=\"80\"/>") << QList<int>{0, -1, 80};
         QTest::newRow("missing width keeps the current one")
-            << QStringLiteral("LabelColumnWidth=\"70\"") << QStringLiteral("<W/><W Width=\"0\"/>")
-            << QList<int>{70, 0, -1};
+            << "LabelColumnWidth=\"70\"" << QStringLiteral("<W/><W Width=\"0\"/>") << QList<int>{70, 0, -1};
         QTest::newRow("fourth child is read and ignored")
-            << QStringLiteral("") << QStringLiteral("<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>")
+            << "" << QStringLiteral("<A Width=\"1\"/><B Width=\"2\"/><C Width=\"3\"/><D Width=\"0\"/>")
             << QList<int>{1, 2, 3};
         QTest::newRow("non-numeric keeps the default")
-            << QStringLiteral("LabelColumnWidth=\"wide\"") << QStringLiteral("<W Width=\"x\"/><W Width=\"40\"/>")
+            << "LabelColumnWidth=\"wide\"" << QStringLiteral("<W Width=\"x\"/><W Width=\"40\"/>")
             << QList<int>{100, 40, -1};
     }
 
@@ -688,10 +685,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("groups");
 
         QTest::newRow("groups among other elements")
-            << QStringLiteral("<GroupElement/><TextBoxElement/><GroupElement/><GroupElement/><CheckBoxElement/>")
+            << "<GroupElement/><TextBoxElement/><GroupElement/><GroupElement/><CheckBoxElement/>"
             << QStringLiteral("NR A-R BR-");
-        QTest::newRow("last child is a group")
-            << QStringLiteral("<TextBoxElement/><GroupElement/>") << QStringLiteral("A-R");
+        QTest::newRow("last child is a group") << "<TextBoxElement/><GroupElement/>" << QStringLiteral("A-R");
     }
 
     void dividerMarks()

@@ -118,31 +118,31 @@ private Q_SLOTS:
         QTest::addColumn<QString>("special");
         QTest::addColumn<QString>("diagnostic");
 
-        QTest::newRow("malformed") << QByteArray("<xliff><file><body><trans-unit id=\"a\"><target>x</target>")
-                                   << QStringLiteral("") << QStringLiteral("Failed to read file");
+        QTest::newRow("malformed") << QByteArray("<xliff><file><body><trans-unit id=\"a\"><target>x</target>") << ""
+                                   << QStringLiteral("Failed to read file");
         QTest::newRow("missing") << QByteArray() << QStringLiteral("missing") << QStringLiteral("");
         const QByteArray deep = QByteArray("<g>").repeated(300) + QByteArray("</g>").repeated(300);
-        QTest::newRow("nesting beyond the limit") << xliff(QString::fromLatin1(deep)).toUtf8() << QStringLiteral("")
-                                                  << QStringLiteral("deeper than 256 levels");
+        QTest::newRow("nesting beyond the limit")
+            << xliff(QString::fromLatin1(deep)).toUtf8() << "" << QStringLiteral("deeper than 256 levels");
         QTest::newRow("nesting inside a target")
             << xliff(QStringLiteral("<trans-unit id=\"a\"><target>%1</target></trans-unit>")
                          .arg(QString::fromLatin1(deep)))
                    .toUtf8()
-            << QStringLiteral("") << QStringLiteral("deeper than 256 levels");
+            << "" << QStringLiteral("deeper than 256 levels");
         QByteArray attributes = "<xliff";
         for (int i = 0; i < 200000; ++i)
             attributes += " a" + QByteArray::number(i) + "=''";
-        QTest::newRow("200000 attributes")
-            << attributes + "/>" << QStringLiteral("") << QStringLiteral("more than 256 attributes");
+        QTest::newRow("200000 attributes") << attributes + "/>"
+                                           << "" << QStringLiteral("more than 256 attributes");
         QTest::newRow("larger than the limit")
-            << xliff(QString()).toUtf8() + QByteArray(int(TranslationTable::kMaxFileSize), ' ') << QStringLiteral("")
+            << xliff(QString()).toUtf8() + QByteArray(int(TranslationTable::kMaxFileSize), ' ') << ""
             << QStringLiteral("larger than");
         QTest::newRow("entity expansion")
             << QByteArray("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
                           "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
                           "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;'>]><xliff><file><body><trans-unit id='a'>"
                           "<target>&e;&e;&e;&e;&e;&e;&e;&e;&e;&e;</target></trans-unit></body></file></xliff>")
-            << QStringLiteral("") << QStringLiteral("Failed to read file");
+            << "" << QStringLiteral("Failed to read file");
         QTest::newRow("folder") << QByteArray() << QStringLiteral("folder") << QStringLiteral("Not a regular file");
 #ifdef Q_OS_UNIX
         QTest::newRow("pipe") << QByteArray() << QStringLiteral("fifo") << QStringLiteral("Not a regular file");
@@ -183,10 +183,9 @@ private Q_SLOTS:
         QTest::newRow("full locale") << all << QStringLiteral("de-DE") << QStringLiteral("Find_de-DE.xlf");
         QTest::newRow("language") << all << QStringLiteral("de-AT") << QStringLiteral("Find_de.xlf");
         QTest::newRow("neutral") << all << QStringLiteral("fr-FR") << QStringLiteral("Find.xlf");
-        QTest::newRow("underscore form") << QStringList{QStringLiteral("Find_pt_BR.xliff")} << QStringLiteral("pt-BR")
+        QTest::newRow("underscore form") << QStringList{QStringLiteral("Find_pt_BR.xliff")} << "pt-BR"
                                          << QStringLiteral("Find_pt_BR.xliff");
-        QTest::newRow("none") << QStringList{QStringLiteral("Other_de.xlf")} << QStringLiteral("de-DE")
-                              << QStringLiteral("");
+        QTest::newRow("none") << QStringList{QStringLiteral("Other_de.xlf")} << "de-DE" << QStringLiteral("");
     }
 
     void fileFoundByNameAndLocale()

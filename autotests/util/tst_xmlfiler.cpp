@@ -207,33 +207,21 @@ private Q_SLOTS:
         QTest::addColumn<bool>("found");
         QTest::addColumn<QString>("expectedId");
 
-        QTest::newRow("empty path stays")
-            << QStringLiteral("/Root/A") << QStringLiteral("") << true << QStringLiteral("a");
-        QTest::newRow("blank path stays")
-            << QStringLiteral("/Root/A") << QStringLiteral("  ") << true << QStringLiteral("a");
-        QTest::newRow("absolute root") << QStringLiteral("/Root/A") << QStringLiteral("/Root") << true
-                                       << QStringLiteral("root");
-        QTest::newRow("slash alone is the root")
-            << QStringLiteral("/Root/A") << QStringLiteral("/") << true << QStringLiteral("root");
-        QTest::newRow("absolute takes first of a name")
-            << QStringLiteral("") << QStringLiteral("/Root/A/B") << true << QStringLiteral("b1");
-        QTest::newRow("absolute with wrong root fails")
-            << QStringLiteral("/Root/A") << QStringLiteral("/Other/X") << false << QStringLiteral("a");
+        QTest::newRow("empty path stays") << "/Root/A" << QStringLiteral("") << true << "a";
+        QTest::newRow("blank path stays") << "/Root/A" << QStringLiteral("  ") << true << "a";
+        QTest::newRow("absolute root") << "/Root/A" << QStringLiteral("/Root") << true << "root";
+        QTest::newRow("slash alone is the root") << "/Root/A" << QStringLiteral("/") << true << "root";
+        QTest::newRow("absolute takes first of a name") << "" << QStringLiteral("/Root/A/B") << true << "b1";
+        QTest::newRow("absolute with wrong root fails") << "/Root/A" << QStringLiteral("/Other/X") << false << "a";
         QTest::newRow("missing below first of a name fails")
-            << QStringLiteral("/Root/A") << QStringLiteral("/Root/A/B/C") << false << QStringLiteral("a");
-        QTest::newRow("backslashes") << QStringLiteral("") << QStringLiteral("\\Root\\Other") << true
-                                     << QStringLiteral("o");
+            << "/Root/A" << QStringLiteral("/Root/A/B/C") << false << "a";
+        QTest::newRow("backslashes") << "" << QStringLiteral("\\Root\\Other") << true << "o";
         QTest::newRow("relative") << QStringLiteral("") << QStringLiteral("A/B") << true << QStringLiteral("b1");
-        QTest::newRow("empty components skipped")
-            << QStringLiteral("") << QStringLiteral("A//B/") << true << QStringLiteral("b1");
-        QTest::newRow("relative from cursor")
-            << QStringLiteral("/Root/A") << QStringLiteral("B") << true << QStringLiteral("b1");
-        QTest::newRow("relative missing fails")
-            << QStringLiteral("/Root/A") << QStringLiteral("Other") << false << QStringLiteral("a");
-        QTest::newRow("parent component")
-            << QStringLiteral("/Root/A") << QStringLiteral("../Other") << true << QStringLiteral("o");
-        QTest::newRow("dot component") << QStringLiteral("/Root/A") << QStringLiteral("./B") << true
-                                       << QStringLiteral("b1");
+        QTest::newRow("empty components skipped") << "" << QStringLiteral("A//B/") << true << "b1";
+        QTest::newRow("relative from cursor") << "/Root/A" << QStringLiteral("B") << true << "b1";
+        QTest::newRow("relative missing fails") << "/Root/A" << QStringLiteral("Other") << false << "a";
+        QTest::newRow("parent component") << "/Root/A" << QStringLiteral("../Other") << true << "o";
+        QTest::newRow("dot component") << "/Root/A" << QStringLiteral("./B") << true << "b1";
         QTest::newRow("trimmed") << QStringLiteral("") << QStringLiteral(" A/B ") << true << QStringLiteral("b1");
         QTest::newRow("case matters") << QStringLiteral("") << QStringLiteral("a/b") << false << QStringLiteral("root");
     }
@@ -804,8 +792,7 @@ private Q_SLOTS:
             << QByteArray(utf16.encode(QString::fromLatin1(withAttributes(300)))) << "" << false << false
             << "more than 256 attributes";
         QTest::newRow("too many nodes") << "<R>" + QByteArray("<a/>").repeated(XmlFiler::kMaxNodes) + "</R>"
-                                        << QStringLiteral("") << false << false
-                                        << QStringLiteral("more than 500000 nodes");
+                                        << "" << false << false << "more than 500000 nodes";
         QTest::newRow("larger than the limit")
             << "<Root/>" + QByteArray(int(XmlFiler::kMaxFileSize) - 6, ' ') << "" << false << false << "larger than";
         QTest::newRow("entity expansion")

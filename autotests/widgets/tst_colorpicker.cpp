@@ -62,26 +62,18 @@ private Q_SLOTS:
         QTest::addColumn<QColor>("expected");
         QTest::addColumn<QString>("hexShown");
         const QColor start(10, 20, 30);
-        QTest::newRow("red") << QStringLiteral("red") << QStringLiteral("200") << false << QColor(200, 20, 30)
-                             << QStringLiteral("#c8141e");
-        QTest::newRow("red above range") << QStringLiteral("red") << QStringLiteral("999") << false
-                                         << QColor(255, 20, 30) << QStringLiteral("#ff141e");
-        QTest::newRow("hue") << QStringLiteral("hue") << QStringLiteral("120") << false << QColor(10, 30, 10)
-                             << QStringLiteral("#0a1e0a");
-        QTest::newRow("hex") << QStringLiteral("hex") << QStringLiteral("#00FF00") << false << QColor(0, 255, 0)
-                             << QStringLiteral("#00ff00");
-        QTest::newRow("short hex") << QStringLiteral("hex") << QStringLiteral("abc") << false
-                                   << QColor(0xaa, 0xbb, 0xcc) << QStringLiteral("#aabbcc");
-        QTest::newRow("hex with alpha") << QStringLiteral("hex") << QStringLiteral("#11223344") << true
-                                        << QColor(0x11, 0x22, 0x33, 0x44) << QStringLiteral("#11223344");
-        QTest::newRow("six digits keep alpha") << QStringLiteral("hex") << QStringLiteral("#112233") << true
-                                               << QColor(0x11, 0x22, 0x33, 0x80) << QStringLiteral("#11223380");
-        QTest::newRow("bad hex reverts") << QStringLiteral("hex") << QStringLiteral("#12345") << false << start
-                                         << QStringLiteral("#0a141e");
-        QTest::newRow("words revert") << QStringLiteral("hex") << QStringLiteral("not a colour") << false << start
-                                      << QStringLiteral("#0a141e");
-        QTest::newRow("empty reverts") << QStringLiteral("hex") << QStringLiteral("") << false << start
-                                       << QStringLiteral("#0a141e");
+        QTest::newRow("red") << "red" << QStringLiteral("200") << false << QColor(200, 20, 30) << "#c8141e";
+        QTest::newRow("red above range") << "red" << QStringLiteral("999") << false << QColor(255, 20, 30) << "#ff141e";
+        QTest::newRow("hue") << "hue" << QStringLiteral("120") << false << QColor(10, 30, 10) << "#0a1e0a";
+        QTest::newRow("hex") << "hex" << QStringLiteral("#00FF00") << false << QColor(0, 255, 0) << "#00ff00";
+        QTest::newRow("short hex") << "hex" << QStringLiteral("abc") << false << QColor(0xaa, 0xbb, 0xcc) << "#aabbcc";
+        QTest::newRow("hex with alpha") << "hex" << QStringLiteral("#11223344") << true
+                                        << QColor(0x11, 0x22, 0x33, 0x44) << "#11223344";
+        QTest::newRow("six digits keep alpha")
+            << "hex" << QStringLiteral("#112233") << true << QColor(0x11, 0x22, 0x33, 0x80) << "#11223380";
+        QTest::newRow("bad hex reverts") << "hex" << QStringLiteral("#12345") << false << start << "#0a141e";
+        QTest::newRow("words revert") << "hex" << QStringLiteral("not a colour") << false << start << "#0a141e";
+        QTest::newRow("empty reverts") << "hex" << QStringLiteral("") << false << start << "#0a141e";
     }
 
     void typedValuesChangeTheColour()

@@ -91,12 +91,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("onScreen");
         QTest::addColumn<QSize>("size");
         QTest::newRow("far off every screen")
-            << QStringLiteral("X=\"-50000\" Y=\"-50000\" Width=\"300\" Height=\"200\"") << true << QSize(300, 200);
-        QTest::newRow("absurdly large") << QStringLiteral("X=\"10\" Y=\"10\" Width=\"9000000\" Height=\"9000000\"")
-                                        << true
+            << "X=\"-50000\" Y=\"-50000\" Width=\"300\" Height=\"200\"" << true << QSize(300, 200);
+        QTest::newRow("absurdly large") << "X=\"10\" Y=\"10\" Width=\"9000000\" Height=\"9000000\"" << true
                                         << QSize(PaletteWindow::MaximumStateExtent, PaletteWindow::MaximumStateExtent);
-        QTest::newRow("not numbers") << QStringLiteral("X=\"10\" Y=\"10\" Width=\"wide\" Height=\"-3\"") << true
-                                     << QSize(-1, -1);
+        QTest::newRow("not numbers") << "X=\"10\" Y=\"10\" Width=\"wide\" Height=\"-3\"" << true << QSize(-1, -1);
     }
 
     void stateOutsideReasonIsBroughtBack()

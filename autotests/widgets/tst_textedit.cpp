@@ -34,17 +34,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("result");
         QTest::addColumn<int>("caretAfter");
         // Limit 10 throughout.
-        QTest::newRow("fits whole") << QStringLiteral("abc") << 3 << 3 << QStringLiteral("def")
-                                    << QStringLiteral("abcdef") << 6;
-        QTest::newRow("cut to the room left")
-            << QStringLiteral("abcdefgh") << 4 << 4 << QStringLiteral("XYZ") << QStringLiteral("abcdXYefgh") << 6;
+        QTest::newRow("fits whole") << "abc" << 3 << 3 << "def" << QStringLiteral("abcdef") << 6;
+        QTest::newRow("cut to the room left") << "abcdefgh" << 4 << 4 << "XYZ" << QStringLiteral("abcdXYefgh") << 6;
         QTest::newRow("replaces the selection")
-            << QStringLiteral("abcdefghij") << 2 << 5 << QStringLiteral("12345") << QStringLiteral("ab123fghij") << 5;
+            << "abcdefghij" << 2 << 5 << "12345" << QStringLiteral("ab123fghij") << 5;
         QTest::newRow("full: nothing changes, caret kept")
-            << QStringLiteral("abcdefghij") << 4 << 4 << QStringLiteral("zz") << QStringLiteral("abcdefghij") << 4;
+            << "abcdefghij" << 4 << 4 << "zz" << QStringLiteral("abcdefghij") << 4;
         QTest::newRow("never half a surrogate pair")
-            << QStringLiteral("abcdefghi") << 9 << 9 << QString::fromUtf8("\xF0\x9F\x8C\xB3")
-            << QStringLiteral("abcdefghi") << 9;
+            << "abcdefghi" << 9 << 9 << QString::fromUtf8("\xF0\x9F\x8C\xB3") << "abcdefghi" << 9;
     }
 
     void pasteBeyondTheLimitKeepsWhatFits()
