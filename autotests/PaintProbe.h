@@ -1,12 +1,15 @@
 #pragma once
 
-// Pixel probes for the painting tests: rendered widgets are compared against
-// theme colours in device pixels, so that the checks hold at any scale.
+// Shared test support. Pixel probes for the painting tests: rendered widgets are
+// compared against theme colours in device pixels, so that the checks hold at
+// any scale. Below them, the files the reading tests feed the library.
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QLineEdit>
 #include <QList>
@@ -16,6 +19,10 @@
 #include <QtTest>
 
 #include <cmath>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace Probe {
 
@@ -112,6 +119,13 @@ inline bool Shown(QWidget* widget)
     return QTest::qWaitForWindowExposed(widget);
 }
 
+// Gives a widget the focus and waits until it has it.
+inline bool Focus(QWidget* widget, Qt::FocusReason reason = Qt::OtherFocusReason)
+{
+    widget->setFocus(reason);
+    return QTest::qWaitFor([widget] { return widget->hasFocus(); });
+}
+
 // Builds a control in an active window of the given size, above a line edit
 // named "other" that holds the focus, so a test can move the focus in and out.
 // The window goes into owned (the test deletes it); null when it never became active.
@@ -132,6 +146,20 @@ template <class Control, class... Args> Control* ShownWithOther(QList<QWidget*>&
         return nullptr;
     other->setFocus(Qt::OtherFocusReason);
     return control;
+}
+
+// WCAG's relative luminance and contrast ratio, worked out here rather than
+// taken from the library, so that a fault there cannot hide a poor theme.
+inline double Luminance(const QColor& c)
+{
+    auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+inline double Contrast(const QColor& a, const QColor& b)
+{
+    const double la = Luminance(a), lb = Luminance(b);
+    return (qMax(la, lb) + 0.05) / (qMin(la, lb) + 0.05);
 }
 
 inline bool Near(const QColor& a, const QColor& b, int tolerance = 2)
@@ -181,6 +209,46 @@ inline QString Describe(const QList<Run>& runs)
                      .arg(run.length)
                      .arg(run.start);
     return parts.join(QLatin1Char(' '));
+}
+
+inline bool WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
+inline QByteArray ReadFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Puts a file of the given kind at path and gives the path to read, or an empty
+// string when it could not be made: "" holds content, "missing" is not there,
+// "folder" is a folder,
+// "fifo" a named pipe (Unix), "device" is /dev/zero, "missing folder" a path
+// inside a folder that does not exist, "sparse" a file of sparseSize bytes
+// that take no room on disk.
+inline QString HostileFile(const QString& path, const QString& kind, const QByteArray& content = {},
+                           qint64 sparseSize = 0)
+{
+    if (kind == QLatin1String("missing"))
+        return path;
+    if (kind == QLatin1String("folder"))
+        return QDir().mkpath(path) ? path : QString();
+    if (kind == QLatin1String("device"))
+        return QStringLiteral("/dev/zero");
+    if (kind == QLatin1String("missing folder"))
+        return QFileInfo(path).dir().filePath(QStringLiteral("missing/") + QFileInfo(path).fileName());
+#ifdef Q_OS_UNIX
+    if (kind == QLatin1String("fifo"))
+        return ::mkfifo(QFile::encodeName(path).constData(), 0600) == 0 ? path : QString();
+#endif
+    if (kind == QLatin1String("sparse")) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.resize(sparseSize) ? path : QString();
+    }
+    return kind.isEmpty() && WriteFile(path, content) ? path : QString();
 }
 
 } // namespace Probe

@@ -64,8 +64,6 @@ private Q_SLOTS:
     void literalColours()
     {
         QFETCH(QString, attributes);
-        QFETCH(QColor, color);
-        QFETCH(bool, alpha);
         PropertyEditor editor;
         QVERIFY(
             editor.LoadUI(Definition(QStringLiteral("<ColorElement Id=\"c\" Label=\"Tint\" %1/>").arg(attributes))));
@@ -75,8 +73,8 @@ private Q_SLOTS:
         QVERIFY(element);
         auto* swatch = qobject_cast<ColorSwatch*>(element->GetWidget());
         QVERIFY(swatch);
-        QCOMPARE(swatch->IsAlphaEnabled(), alpha);
-        QCOMPARE(swatch->GetColor(), color);
+        QTEST(swatch->IsAlphaEnabled(), "alpha");
+        QTEST(swatch->GetColor(), "color");
     }
 
     void bindsBothWays()

@@ -1,3 +1,5 @@
+#include "../PaintProbe.h"
+
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/propertyeditor/PropertyEditor.h>
 #include <KvUICore/propertyeditor/TextEditElement.h>
@@ -5,9 +7,9 @@
 #include <KvUICore/widgets/TextEdit.h>
 
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 using namespace Kavrel::UICore;
 
@@ -40,71 +42,62 @@ class tst_TextEditElement : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void editorFollowsTheSourceAndWritesBackOnCommit();
-    void literalTextNeedsNoSource();
+    void initTestCase()
+    {
+        CoreUIManager::Initialize(nullptr);
+        ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
+    }
+
+    void editorFollowsTheSourceAndWritesBackOnCommit()
+    {
+        Note note;
+        QList<QWidget*> owned;
+        auto cleanup = qScopeGuard([&] { qDeleteAll(owned); });
+        auto* editor = Probe::ShownWithOther<PropertyEditor>(owned, QSize(400, 400));
+        QVERIFY(editor);
+        editor->SetContextObject(&note);
+        QVERIFY(editor->LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"g\" Label=\"Notes\">"
+                                              "<TextEditElement Id=\"n\" Label=\"Notes\" Text=\"Binding(Text)\"/>"
+                                              "</GroupElement></PageElement></E>")));
+        editor->grab(); // builds the page now
+        auto* element = qobject_cast<TextEditElement*>(editor->FindElement(QStringLiteral("n")));
+        QVERIFY(element);
+        auto* edit = qobject_cast<TextEdit*>(element->GetWidget());
+        QVERIFY(edit);
+        QCOMPARE(edit->GetText(), note.msText);
+
+        note.SetText(QStringLiteral("Planed walnut."));
+        QCOMPARE(edit->GetText(), QStringLiteral("Planed walnut."));
+
+        QSignalSpy modified(editor, &PropertyEditor::PropertyModified);
+        const int writes = note.miWrites;
+        QVERIFY(Probe::Focus(edit));
+        edit->moveCursor(QTextCursor::End);
+        QTest::keyClicks(edit, QStringLiteral(" Oiled."));
+        // A paragraph is one change: nothing is written while typing.
+        QCOMPARE(note.miWrites, writes);
+        editor->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+        QTRY_COMPARE(note.GetText(), QStringLiteral("Planed walnut. Oiled."));
+        QCOMPARE(note.miWrites, writes + 1);
+        QCOMPARE(modified.count(), 1);
+        QCOMPARE(modified.first().at(1).toString(), QStringLiteral("Text"));
+    }
+
+    void literalTextNeedsNoSource()
+    {
+        PropertyEditor editor;
+        QVERIFY(editor.LoadUI(
+            QStringLiteral("<E><PageElement><GroupElement Id=\"g\" Label=\"G\">"
+                           "<TextEditElement Id=\"n\" Text=\"Fixed text\"/></GroupElement></PageElement></E>")));
+        editor.grab();
+        auto* element = qobject_cast<TextEditElement*>(editor.FindElement(QStringLiteral("n")));
+        QVERIFY(element);
+        QCOMPARE(element->GetText(), QStringLiteral("Fixed text"));
+        QCOMPARE(qobject_cast<TextEdit*>(element->GetWidget())->GetText(), QStringLiteral("Fixed text"));
+        element->SetText(QStringLiteral("Changed"));
+        QCOMPARE(qobject_cast<TextEdit*>(element->GetWidget())->GetText(), QStringLiteral("Changed"));
+    }
 };
-
-void tst_TextEditElement::initTestCase()
-{
-    CoreUIManager::Initialize(nullptr);
-    ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-}
-
-void tst_TextEditElement::editorFollowsTheSourceAndWritesBackOnCommit()
-{
-    Note note;
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* editor = new PropertyEditor(&window);
-    auto* other = new QLineEdit(&window);
-    layout->addWidget(editor);
-    layout->addWidget(other);
-    editor->SetContextObject(&note);
-    QVERIFY(editor->LoadUI(QStringLiteral("<E><PageElement><GroupElement Id=\"g\" Label=\"Notes\">"
-                                          "<TextEditElement Id=\"n\" Label=\"Notes\" Text=\"Binding(Text)\"/>"
-                                          "</GroupElement></PageElement></E>")));
-    window.resize(400, 400);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    auto* element = qobject_cast<TextEditElement*>(editor->FindElement(QStringLiteral("n")));
-    QVERIFY(element);
-    auto* edit = qobject_cast<TextEdit*>(element->GetWidget());
-    QVERIFY(edit);
-    QCOMPARE(edit->GetText(), note.msText);
-
-    note.SetText(QStringLiteral("Planed walnut."));
-    QCOMPARE(edit->GetText(), QStringLiteral("Planed walnut."));
-
-    QSignalSpy modified(editor, &PropertyEditor::PropertyModified);
-    const int writes = note.miWrites;
-    edit->setFocus();
-    QTRY_VERIFY(edit->hasFocus());
-    edit->moveCursor(QTextCursor::End);
-    QTest::keyClicks(edit, QStringLiteral(" Oiled."));
-    // A paragraph is one change: nothing is written while typing.
-    QCOMPARE(note.miWrites, writes);
-    other->setFocus();
-    QTRY_COMPARE(note.GetText(), QStringLiteral("Planed walnut. Oiled."));
-    QCOMPARE(note.miWrites, writes + 1);
-    QCOMPARE(modified.count(), 1);
-    QCOMPARE(modified.first().at(1).toString(), QStringLiteral("Text"));
-}
-
-void tst_TextEditElement::literalTextNeedsNoSource()
-{
-    PropertyEditor editor;
-    QVERIFY(editor.LoadUI(
-        QStringLiteral("<E><PageElement><GroupElement Id=\"g\" Label=\"G\">"
-                       "<TextEditElement Id=\"n\" Text=\"Fixed text\"/></GroupElement></PageElement></E>")));
-    editor.grab();
-    auto* element = qobject_cast<TextEditElement*>(editor.FindElement(QStringLiteral("n")));
-    QVERIFY(element);
-    QCOMPARE(element->GetText(), QStringLiteral("Fixed text"));
-    QCOMPARE(qobject_cast<TextEdit*>(element->GetWidget())->GetText(), QStringLiteral("Fixed text"));
-    element->SetText(QStringLiteral("Changed"));
-    QCOMPARE(qobject_cast<TextEdit*>(element->GetWidget())->GetText(), QStringLiteral("Changed"));
-}
 
 QTEST_MAIN(tst_TextEditElement)
 #include "tst_texteditelement.moc"

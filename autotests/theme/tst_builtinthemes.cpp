@@ -2,6 +2,8 @@
 // the library reads, every referenced image loadable, icons holding all their
 // sizes, and the contrast of text and outlines against what lies behind them.
 
+#include "../PaintProbe.h"
+
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeKeyCatalogue.h>
@@ -44,15 +46,18 @@ struct ContrastPairs
 
 // Extend this table when a control puts a themed colour on a themed surface.
 const ContrastPairs kContrastPairs[] = {
-    {{"FontNormal1"}, PairKind::Text,
+    {{"FontNormal1"},
+     PairKind::Text,
      {"Container1", "WidgetContainer9", "WidgetContainer12", "WidgetContainer3", "ActiveContainer1", "HoverContainer1",
       "ClickContainer1", "RolloutContainerTitleBackgroundColor", "ToolTipBackground", "DropDownContainer",
       "DropDownButtonHoverBackground", "DropDownButtonClickedBackground"}},
-    {{"FontNormal3"}, PairKind::Text,
+    {{"FontNormal3"},
+     PairKind::Text,
      {"DropDownMenuBackground", "DropDownMenuHoverBackground", "DropDownMenuClickedBackground"}},
     {{"FontGroupHeader"}, PairKind::Text, {"DropDownGroupLabel"}},
     {{"TitleBarTextColor"}, PairKind::Text, {"TitleBarTopColor", "TitleBarBottomColor"}},
-    {{"FontBuiltInNormal1"}, PairKind::Text,
+    {{"FontBuiltInNormal1"},
+     PairKind::Text,
      {"MenuBuiltInBackgroundColor1", "MenuBuiltInItemSelectedBackgroundColor1",
       "MenuBuiltInItemPressedBackgroundColor1"}},
     {{"FontSearchPrompt"}, PairKind::Text, {"SearchBoxNormalBackground", "SearchBoxHoverBackground"}},
@@ -106,23 +111,6 @@ double Minimum(PairKind kind, bool highContrast)
         return highContrast ? 3.0 : 0.0;
     }
     return 0.0;
-}
-
-double Linear(double channel)
-{
-    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double RelativeLuminance(const QColor& color)
-{
-    return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
-}
-
-double ContrastRatio(const QColor& a, const QColor& b)
-{
-    const double la = RelativeLuminance(a);
-    const double lb = RelativeLuminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
 // The colours a key paints with: the colour itself, or every stop of a gradient.
@@ -250,8 +238,9 @@ private slots:
         // Hover and press rings on check boxes are a high-contrast feature.
         const QSet<QString> onlyInHighContrast = {QStringLiteral("FocusOutline3"), QStringLiteral("FocusOutline4"),
                                                   QStringLiteral("FocusOutline7")};
-        const QSet<QString> knownKinds = {QStringLiteral("Color"), QStringLiteral("Icon"), QStringLiteral("Int"),
-                                          QStringLiteral("ScalableInt"), QStringLiteral("String"), QStringLiteral("Size")};
+        const QSet<QString> knownKinds = {QStringLiteral("Color"),  QStringLiteral("Icon"),
+                                          QStringLiteral("Int"),    QStringLiteral("ScalableInt"),
+                                          QStringLiteral("String"), QStringLiteral("Size")};
         std::size_t count = 0;
         const ThemeKeyEntry* catalogue = ThemeKeyCatalogue(&count);
         QCOMPARE(count, std::size_t(389));
@@ -274,7 +263,8 @@ private slots:
             }
             switch (use) {
             case ThemeKeyUse::Color:
-                if (entry.kind != QLatin1String("Color") || entry.colorChildren != 1 || !themes->GetColor(key).isValid())
+                if (entry.kind != QLatin1String("Color") || entry.colorChildren != 1 ||
+                    !themes->GetColor(key).isValid())
                     faults << where + QStringLiteral(": not a single colour");
                 break;
             case ThemeKeyUse::ColorOrBrush:
@@ -306,21 +296,20 @@ private slots:
             }
         }
         // The base file's style sheets refer to these.
-        for (const char* key : {"ScrollBarBackground", "ScrollBarHandleNormalBackground", "ScrollBarHandleHoverBackground",
-                                "HScrollBarSubLine", "HScrollBarAddLine", "ToolTipBackground", "ToolTipBorder"}) {
+        for (const char* key :
+             {"ScrollBarBackground", "ScrollBarHandleNormalBackground", "ScrollBarHandleHoverBackground",
+              "HScrollBarSubLine", "HScrollBarAddLine", "ToolTipBackground", "ToolTipBorder"}) {
             if (!themes->GetColor(QString::fromLatin1(key)).isValid())
                 faults << QString::fromLatin1(key) + QStringLiteral(": base file reference not a colour");
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
         QCOMPARE(themes->GetString(ThemeFileKey::CurrentTheme), theme);
-        QVERIFY(themes->GetStyleSheet(QStringLiteral("ScrollBarGlobal")).contains(
-            themes->GetColor(QStringLiteral("ScrollBarHandleNormalBackground")).name(QColor::HexArgb)));
+        QVERIFY(
+            themes->GetStyleSheet(QStringLiteral("ScrollBarGlobal"))
+                .contains(themes->GetColor(QStringLiteral("ScrollBarHandleNormalBackground")).name(QColor::HexArgb)));
     }
 
-    void resourcePathsLoad_data()
-    {
-        catalogueKeys_data();
-    }
+    void resourcePathsLoad_data() { catalogueKeys_data(); }
 
     void resourcePathsLoad()
     {
@@ -414,10 +403,7 @@ private slots:
         QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char(' '))));
     }
 
-    void contrast_data()
-    {
-        catalogueKeys_data();
-    }
+    void contrast_data() { catalogueKeys_data(); }
 
     void contrast()
     {
@@ -441,7 +427,7 @@ private slots:
             const double minimum = Minimum(pair.kind, highContrast);
             for (const QColor& fg : foregrounds) {
                 for (const QColor& bg : backgrounds) {
-                    const double ratio = ContrastRatio(fg, bg);
+                    const double ratio = Probe::Contrast(fg, bg);
                     const QString name = QStringLiteral("%1 %2 on %3 %4 = %5:1")
                                              .arg(fgKey, fg.name(), bgKey, bg.name())
                                              .arg(ratio, 0, 'f', 2);

@@ -99,14 +99,10 @@ bool IsFilledWith(const QImage& image, QRgb color)
 // Brings a window up and gives the widget keyboard focus.
 bool Focus(QWidget* widget)
 {
-    widget->show();
-    if (!QTest::qWaitForWindowExposed(widget))
+    if (!Probe::Shown(widget))
         return false;
     widget->activateWindow();
-    if (!QTest::qWaitForWindowActive(widget))
-        return false;
-    widget->setFocus();
-    return QTest::qWaitFor([widget] { return widget->hasFocus(); });
+    return QTest::qWaitForWindowActive(widget) && Probe::Focus(widget);
 }
 
 void Prepare(QWidget* widget, Look look)
@@ -210,8 +206,7 @@ private Q_SLOTS:
     void adjustedRectToPaint()
     {
         QFETCH(int, penWidth);
-        QFETCH(QRect, expected);
-        QCOMPARE(CustomStyle::AdjustedRectToPaint(QRect(10, 20, 50, 20), penWidth), expected);
+        QTEST(CustomStyle::AdjustedRectToPaint(QRect(10, 20, 50, 20), penWidth), "expected");
     }
 
     void subControlsAdjustTheBaseStyle()
@@ -558,7 +553,6 @@ private Q_SLOTS:
     void dropDownMenuItemSizes()
     {
         QFETCH(int, kind);
-        QFETCH(QSize, expected);
         DropDownMenu menu;
         menu.setStyle(Style());
         QAction* action = kind == 0   ? menu.addAction(QStringLiteral("Item"))
@@ -567,7 +561,7 @@ private Q_SLOTS:
         QStyleOptionMenuItem option;
         menu.initStyleOption(&option, action);
         option.rect = QRect(0, 0, 150, 30);
-        QCOMPARE(Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), expected);
+        QTEST(Style()->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(40, 10), &menu), "expected");
         // Without a menu-item option the contents size comes back unchanged.
         QStyleOption plain;
         QCOMPARE(Style()->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(40, 10), &menu), QSize(40, 10));

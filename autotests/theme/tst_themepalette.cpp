@@ -1,5 +1,7 @@
 // The theme offered to the host as a palette, and the opt-in that keeps the
 // application palette in step with theme switches.
+#include "../PaintProbe.h"
+
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -9,20 +11,6 @@
 #include <QtTest>
 
 using namespace Kavrel::UICore;
-
-namespace {
-double luminance(const QColor& c)
-{
-    auto channel = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) + 0.0722 * channel(c.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b)
-{
-    const double la = luminance(a), lb = luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-} // namespace
 
 class tst_ThemePalette : public QObject
 {
@@ -54,23 +42,21 @@ private Q_SLOTS:
     void paletteIsReadableInEveryTheme()
     {
         QFETCH(QString, theme);
-        QFETCH(bool, darkWindow);
         ThemeManager* themes = ThemeManager::GetInstance();
         QVERIFY(themes->SetCurrentTheme(theme));
         const QPalette palette = themes->GetPalette();
 
-        QCOMPARE(luminance(palette.color(QPalette::Window)) < 0.2, darkWindow);
+        QTEST(Probe::Luminance(palette.color(QPalette::Window)) < 0.2, "darkWindow");
         QCOMPARE(palette.color(QPalette::WindowText), themes->GetColor(ThemeFileKey::FontNormal1));
         QCOMPARE(palette.color(QPalette::Disabled, QPalette::Text), themes->GetColor(ThemeFileKey::FontColorDisabled));
-        const QPalette::ColorRole pairs[][2] = {{QPalette::WindowText, QPalette::Window},
-                                                {QPalette::Text, QPalette::Base},
-                                                {QPalette::ButtonText, QPalette::Button},
-                                                {QPalette::HighlightedText, QPalette::Highlight},
-                                                {QPalette::ToolTipText, QPalette::ToolTipBase},
-                                                {QPalette::Link, QPalette::Window}};
+        const QPalette::ColorRole pairs[][2] = {
+            {QPalette::WindowText, QPalette::Window},       {QPalette::Text, QPalette::Base},
+            {QPalette::ButtonText, QPalette::Button},       {QPalette::HighlightedText, QPalette::Highlight},
+            {QPalette::ToolTipText, QPalette::ToolTipBase}, {QPalette::Link, QPalette::Window}};
         for (const auto& pair : pairs) {
-            const double ratio = contrast(palette.color(pair[0]), palette.color(pair[1]));
-            QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("roles %1/%2: %3:1").arg(pair[0]).arg(pair[1]).arg(ratio)));
+            const double ratio = Probe::Contrast(palette.color(pair[0]), palette.color(pair[1]));
+            QVERIFY2(ratio >= 4.5,
+                     qPrintable(QStringLiteral("roles %1/%2: %3:1").arg(pair[0]).arg(pair[1]).arg(ratio)));
         }
     }
 

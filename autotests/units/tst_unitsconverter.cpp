@@ -62,10 +62,9 @@ private Q_SLOTS:
         QFETCH(double, value);
         QFETCH(int, from);
         QFETCH(int, to);
-        QFETCH(double, expected);
         double out = 0;
         QCOMPARE(UnitsConverter::Convert(value, from, out, to), kSuccess);
-        QCOMPARE(out, expected);
+        QTEST(out, "expected");
     }
 
     // Values as people type them (a few significant digits) convert there and

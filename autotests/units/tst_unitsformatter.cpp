@@ -92,11 +92,10 @@ private Q_SLOTS:
         QFETCH(int, symbol);
         QFETCH(int, precision);
         QFETCH(int, format);
-        QFETCH(QString, expected);
         UnitsFormatter formatter(L"en-US");
         QCOMPARE(formatter.SetNumberDecimalPrecision(precision), kSuccess);
         QCOMPARE(formatter.SetNumericFormat(NumberFormat(format)), kSuccess);
-        QCOMPARE(Format(formatter, value, unit, symbol), expected);
+        QTEST(Format(formatter, value, unit, symbol), "expected");
     }
 
     void signsAndExponentWidth()
@@ -195,9 +194,8 @@ private Q_SLOTS:
     {
         QFETCH(int, symbol);
         QFETCH(QString, formattingString);
-        QFETCH(int, code);
         UnitsFormatter formatter(L"en-US");
-        QCOMPARE(int(formatter.SetSymbolFormattingString(symbol, formattingString.toStdWString().c_str())), code);
+        QTEST(int(formatter.SetSymbolFormattingString(symbol, formattingString.toStdWString().c_str())), "code");
     }
 
     void customStringsChangeTheText()

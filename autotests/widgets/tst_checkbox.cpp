@@ -50,13 +50,12 @@ private Q_SLOTS:
         QFETCH(int, width);
         QFETCH(bool, alwaysShow);
         QFETCH(QString, hostTip);
-        QFETCH(QString, expected);
         CheckBox box(text);
         box.SetAlwaysShowTooltip(alwaysShow);
         box.setToolTip(hostTip);
         box.resize(width, 24);
         box.grab();
-        QCOMPARE(box.toolTip(), expected);
+        QTEST(box.toolTip(), "expected");
     }
 
     void toolTipChangesAreSignalled()

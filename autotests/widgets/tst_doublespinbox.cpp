@@ -52,338 +52,319 @@ class tst_DoubleSpinBox : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
-    void cleanup();
+    void cleanup()
+    {
+        qDeleteAll(mWidgets);
+        mWidgets.clear();
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+    }
 
-    void typedTextIsParsedWhenEditingFinishes_data();
-    void typedTextIsParsedWhenEditingFinishes();
-    void unreadableTextRestoresTheAcceptedValue();
-    void listenersCanAdjustOrRefuseTypedValues();
-    void textIsFormattedFromTheUnitPart();
-    void singleStepMatchesTheDisplay_data();
-    void singleStepMatchesTheDisplay();
-    void precisionChangeKeepsQtDecimalsWhenAsked();
-    void deferredUpdatesWaitForUpdateForUnits();
-    void wheelIsIgnoredWhileDisabled();
-    void focusChangesTheFieldBackground();
-    void returnSelectsAllAndModifiedFlagIsStickyUntilCleared();
-    void anyTextIsAcceptableAndSizeHints();
+    void typedTextIsParsedWhenEditingFinishes_data()
+    {
+        QTest::addColumn<int>("unitType");
+        QTest::addColumn<int>("symbol");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("expected");
+        QTest::addColumn<QString>("shown");
+
+        const int none = int(Units::eUnitless), mm = int(Units::eMillimeter);
+        const int plain = int(units::kSymbolUnitless), mmSymbol = int(units::kSymbolMillimeter);
+        QTest::newRow("plain number") << none << plain << "12.5" << 12.5 << "12.50";
+        QTest::newRow("unitless arithmetic") << none << plain << "(10+2)*3" << 36.0 << "36.00";
+        QTest::newRow("millimetres") << mm << mmSymbol << "25" << 25.0 << "25.00 mm";
+        QTest::newRow("inches into millimetres") << mm << mmSymbol << "2 in" << 50.8 << "50.80 mm";
+        QTest::newRow("above the maximum") << mm << mmSymbol << "2 m" << 1000.0 << "1000.00 mm";
+        QTest::newRow("below the minimum") << mm << mmSymbol << "-5" << 0.0 << "0.00 mm";
+        QTest::newRow("degrees, minutes, seconds")
+            << int(Units::eDegree) << int(units::kSymbolDegreesMinutesSeconds) << "45d30m" << 45.5 << "45°30'00\"";
+    }
+
+    void typedTextIsParsedWhenEditingFinishes()
+    {
+        QFETCH(int, unitType);
+        QFETCH(int, symbol);
+        QFETCH(QString, typed);
+        QFETCH(double, expected);
+        QFETCH(QString, shown);
+
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        spin->SetUnitType(Units::teType(unitType));
+        spin->SetUnitSymbolType(units::UnitSymbol(symbol));
+        // Changing the symbol installs the number-only display; this brings the unit text back.
+        spin->SetUnitSymbolDisplayEnabled(true);
+        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        QSignalSpy finished(spin, &QAbstractSpinBox::editingFinished);
+
+        spin->setFocus();
+        spin->GetNumericField()->selectAll();
+        QTest::keyClicks(spin, typed);
+        QCOMPARE(changed.count(), 0); // keyboard tracking is off
+        QTest::keyClick(spin, Qt::Key_Return);
+
+        QCOMPARE(finished.count(), 1);
+        QVERIFY2(qAbs(spin->value() - expected) < 1e-9, qPrintable(QString::number(spin->value())));
+        QCOMPARE(spin->GetValue(), spin->value());
+        QCOMPARE(spin->GetAcceptedValue(), spin->value());
+        if (!shown.contains(QChar(0xB0)))
+            QCOMPARE(spin->GetNumericField()->text(), shown);
+        QCOMPARE(changed.count(), expected == 0.0 ? 0 : 1);
+    }
+
+    void unreadableTextRestoresTheAcceptedValue()
+    {
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        spin->SetUnitType(Units::eMillimeter);
+        spin->SetUnitSymbolType(units::kSymbolMillimeter);
+        spin->SetUnitSymbolDisplayEnabled(true);
+        spin->setFocus();
+        spin->TypeAndConfirm(QStringLiteral("40"));
+        QCOMPARE(spin->value(), 40.0);
+
+        // Stepping changes the value but finishes no editing.
+        QTest::keyClick(spin, Qt::Key_Up);
+        QCOMPARE(spin->value(), 40.01);
+        QCOMPARE(spin->GetAcceptedValue(), 40.0);
+
+        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        // A unit of another group is as unreadable as words.
+        for (const char* unreadable : {"twelve furlongs", "3 kg"}) {
+            spin->TypeAndConfirm(QString::fromLatin1(unreadable));
+            QCOMPARE(spin->value(), 40.0);
+            QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
+        }
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void listenersCanAdjustOrRefuseTypedValues()
+    {
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        bool refuse = false;
+        QList<double> seen;
+        connect(spin, &DoubleSpinBox::ValidateChangingValue, spin, [&](double& value, bool& valid) {
+            seen << value;
+            QVERIFY(valid);
+            if (refuse)
+                valid = false;
+            else
+                value = value * 2;
+        });
+        spin->setFocus();
+        spin->TypeAndConfirm(QStringLiteral("21"));
+        QCOMPARE(seen, QList<double>{21.0});
+        QCOMPARE(spin->value(), 42.0);
+
+        refuse = true;
+        spin->TypeAndConfirm(QStringLiteral("7"));
+        QCOMPARE(spin->value(), 42.0);
+        QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("42.00"));
+
+        // Text that does not parse never reaches the listeners.
+        seen.clear();
+        spin->TypeAndConfirm(QStringLiteral("abc"));
+        QVERIFY(seen.isEmpty());
+    }
+
+    void textIsFormattedFromTheUnitPart()
+    {
+        DoubleSpinBox spin;
+        spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+        spin.setRange(0.0, 10000.0);
+        spin.SetUnitType(Units::eMillimeter);
+        spin.SetUnitSymbolType(units::kSymbolInch);
+        spin.SetUnitSymbolDisplayEnabled(true);
+        spin.setValue(50.8);
+        QCOMPARE(spin.GetValue(), 50.8);
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00 in"));
+        QCOMPARE(spin.textFromValue(1.0), QStringLiteral("2.00 in"));
+
+        spin.SetUnitSymbolDisplayEnabled(false);
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00"));
+        // A bare number is read in the unit of the symbol.
+        QCOMPARE(spin.valueFromText(QStringLiteral("3")), 76.2);
+        QCOMPARE(spin.valueFromText(QStringLiteral("1000 in")), 10000.0);
+    }
+
+    void singleStepMatchesTheDisplay_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<double>("step");
+
+        QTest::newRow("decimal, 0") << int(units::kNumberFormatDecimal) << 0 << 1.0;
+        QTest::newRow("decimal, 2") << int(units::kNumberFormatDecimal) << 2 << 0.01;
+        QTest::newRow("decimal, 5") << int(units::kNumberFormatDecimal) << 5 << 0.00001;
+        QTest::newRow("fractional, 3") << int(units::kNumberFormatFractional) << 3 << 0.125;
+        QTest::newRow("fractional, 5") << int(units::kNumberFormatFractional) << 5 << 0.03125;
+    }
+
+    void singleStepMatchesTheDisplay()
+    {
+        QFETCH(int, format);
+        QFETCH(int, precision);
+        QFETCH(double, step);
+
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        spin->SetNumberFormatId(units::NumberFormat(format));
+        spin->SetDecimalPrecision(precision);
+        QVERIFY(qFuzzyCompare(spin->singleStep(), step));
+        QCOMPARE(spin->decimals(), precision);
+        QVERIFY(qFuzzyCompare(spin->CalculateSingleStep(precision), step));
+
+        // Keys and arrow buttons step by it.
+        const bool decimal = format == int(units::kNumberFormatDecimal);
+        spin->setValue(1.0);
+        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        spin->setFocus();
+
+        QTest::keyClick(spin, Qt::Key_Up);
+        QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
+        QCOMPARE(spin->GetValue(), spin->value());
+        QTest::keyClick(spin, Qt::Key_PageUp);
+        QVERIFY(qAbs(spin->value() - (1.0 + 11 * step)) < step / 100);
+        QTest::keyClick(spin, Qt::Key_PageDown);
+        QTest::keyClick(spin, Qt::Key_Down);
+        QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+        QCOMPARE(changed.count(), 4);
+        QCOMPARE(changed.last().at(0).toDouble(), spin->value()); // announced on the display grid
+        if (decimal)
+            QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
+
+        const QRect up = spin->SubControl(QStyle::SC_SpinBoxUp);
+        QVERIFY(up.isValid());
+        QTest::mouseClick(spin, Qt::LeftButton, {}, up.center());
+        QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
+        if (decimal)
+            QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0 + step, 'f', precision));
+        const QRect down = spin->SubControl(QStyle::SC_SpinBoxDown);
+        QTest::mouseClick(spin, Qt::LeftButton, {}, down.center());
+        QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+    }
+
+    void precisionChangeKeepsQtDecimalsWhenAsked()
+    {
+        TestSpinBox spin;
+        spin.SetDecimalPrecision(4);
+        QCOMPARE(spin.decimals(), 4);
+        spin.SetCanChangeQtDecimals(false);
+        spin.SetDecimalPrecision(1);
+        QCOMPARE(spin.decimals(), 4);
+        QVERIFY(qFuzzyCompare(spin.singleStep(), 0.1));
+    }
+
+    void deferredUpdatesWaitForUpdateForUnits()
+    {
+        TestSpinBox spin;
+        spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+        spin.setValue(2.5);
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
+
+        spin.SetDeferUpdateForUnits(true);
+        spin.SetDecimalSeparator(QStringLiteral(","));
+        spin.ShowPositiveNumberSign(true);
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
+        QVERIFY(spin.HaveDeferredUpdatesForUnits());
+
+        spin.SetDeferUpdateForUnits(false);
+        QVERIFY(spin.HaveDeferredUpdatesForUnits());
+        spin.UpdateForUnits();
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2,50"));
+        QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+
+        // Without deferring every change shows at once.
+        spin.SetDecimalSeparator(QStringLiteral("."));
+        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2.50"));
+        QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+    }
+
+    void wheelIsIgnoredWhileDisabled()
+    {
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        spin->setValue(5.0);
+        const QPointF centre = QRectF(spin->rect()).center();
+        const auto wheel = [&] {
+            QWheelEvent event(centre, spin->mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            return spin->event(&event);
+        };
+        spin->setFocus();
+        QVERIFY(wheel());
+        QCOMPARE(spin->value(), 5.01);
+
+        spin->setEnabled(false);
+        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        QVERIFY(!wheel());
+        QCOMPARE(spin->value(), 5.01);
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void focusChangesTheFieldBackground()
+    {
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        QLineEdit* edit = spin->GetNumericField();
+        const auto background = [edit](QPalette::ColorGroup group) {
+            return edit->palette().brush(group, edit->backgroundRole()).color();
+        };
+        QVERIFY(Probe::Focus(spin));
+        QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
+        QCOMPARE(background(QPalette::Inactive), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
+        spin->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+        QTRY_VERIFY(!spin->hasFocus());
+        QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::WidgetContainer3));
+    }
+
+    void returnSelectsAllAndModifiedFlagIsStickyUntilCleared()
+    {
+        TestSpinBox* spin = shownSpinBox();
+        QVERIFY(spin);
+        QVERIFY(Probe::Focus(spin));
+        QVERIFY(!spin->IsModified());
+        spin->GetNumericField()->selectAll();
+        QTest::keyClicks(spin, QStringLiteral("8"));
+        QVERIFY(spin->IsModified());
+        // Return rewrites the text and selects it all; the flag stays.
+        QTest::keyClick(spin, Qt::Key_End);
+        QTest::keyClick(spin, Qt::Key_Return);
+        QCOMPARE(spin->GetNumericField()->selectedText(), QStringLiteral("8.00"));
+        QVERIFY(!spin->GetNumericField()->isModified());
+        QVERIFY(spin->IsModified());
+        spin->ClearModified();
+        QVERIFY(!spin->IsModified());
+    }
+
+    void anyTextIsAcceptableAndSizeHints()
+    {
+        // Text is read when editing finishes, so the validator never blocks typing.
+        DoubleSpinBox normal;
+        int pos = 0;
+        QString anything = QStringLiteral("no number at all");
+        QCOMPARE(normal.validate(anything, pos), QValidator::Acceptable);
+
+        DoubleSpinBox compact(nullptr, true);
+        QCOMPARE(compact.sizeHint(), QSize(56, 24));
+        // Otherwise the spin box's own hints, untouched.
+        QCOMPARE(normal.sizeHint(), normal.QDoubleSpinBox::sizeHint());
+        QCOMPARE(normal.minimumSizeHint(), normal.QDoubleSpinBox::minimumSizeHint());
+    }
 
 private:
-    TestSpinBox* shownSpinBox(double minimum = 0.0, double maximum = 1000.0);
+    TestSpinBox* shownSpinBox(double minimum = 0.0, double maximum = 1000.0)
+    {
+        TestSpinBox* spin = Probe::ShownWithOther<TestSpinBox>(mWidgets, QSize(200, 80));
+        if (spin) {
+            spin->SetSeparators(QStringLiteral("."), QStringLiteral(","));
+            spin->setRange(minimum, maximum);
+        }
+        return spin;
+    }
+
     QList<QWidget*> mWidgets;
 };
-
-void tst_DoubleSpinBox::cleanup()
-{
-    qDeleteAll(mWidgets);
-    mWidgets.clear();
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
-
-TestSpinBox* tst_DoubleSpinBox::shownSpinBox(double minimum, double maximum)
-{
-    TestSpinBox* spin = Probe::ShownWithOther<TestSpinBox>(mWidgets, QSize(200, 80));
-    if (spin) {
-        spin->SetSeparators(QStringLiteral("."), QStringLiteral(","));
-        spin->setRange(minimum, maximum);
-    }
-    return spin;
-}
-
-void tst_DoubleSpinBox::typedTextIsParsedWhenEditingFinishes_data()
-{
-    QTest::addColumn<int>("unitType");
-    QTest::addColumn<int>("symbol");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<double>("expected");
-    QTest::addColumn<QString>("shown");
-
-    const int none = int(Units::eUnitless), mm = int(Units::eMillimeter);
-    const int plain = int(units::kSymbolUnitless), mmSymbol = int(units::kSymbolMillimeter);
-    QTest::newRow("plain number") << none << plain << "12.5" << 12.5 << "12.50";
-    QTest::newRow("unitless arithmetic") << none << plain << "(10+2)*3" << 36.0 << "36.00";
-    QTest::newRow("millimetres") << mm << mmSymbol << "25" << 25.0 << "25.00 mm";
-    QTest::newRow("inches into millimetres") << mm << mmSymbol << "2 in" << 50.8 << "50.80 mm";
-    QTest::newRow("above the maximum") << mm << mmSymbol << "2 m" << 1000.0 << "1000.00 mm";
-    QTest::newRow("below the minimum") << mm << mmSymbol << "-5" << 0.0 << "0.00 mm";
-    QTest::newRow("degrees, minutes, seconds")
-        << int(Units::eDegree) << int(units::kSymbolDegreesMinutesSeconds) << "45d30m" << 45.5 << "45°30'00\"";
-}
-
-void tst_DoubleSpinBox::typedTextIsParsedWhenEditingFinishes()
-{
-    QFETCH(int, unitType);
-    QFETCH(int, symbol);
-    QFETCH(QString, typed);
-    QFETCH(double, expected);
-    QFETCH(QString, shown);
-
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    spin->SetUnitType(Units::teType(unitType));
-    spin->SetUnitSymbolType(units::UnitSymbol(symbol));
-    // Changing the symbol installs the number-only display; this brings the unit text back.
-    spin->SetUnitSymbolDisplayEnabled(true);
-    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-    QSignalSpy finished(spin, &QAbstractSpinBox::editingFinished);
-
-    spin->setFocus();
-    spin->GetNumericField()->selectAll();
-    QTest::keyClicks(spin, typed);
-    QCOMPARE(changed.count(), 0); // keyboard tracking is off
-    QTest::keyClick(spin, Qt::Key_Return);
-
-    QCOMPARE(finished.count(), 1);
-    QVERIFY2(qAbs(spin->value() - expected) < 1e-9, qPrintable(QString::number(spin->value())));
-    QCOMPARE(spin->GetValue(), spin->value());
-    QCOMPARE(spin->GetAcceptedValue(), spin->value());
-    if (!shown.contains(QChar(0xB0)))
-        QCOMPARE(spin->GetNumericField()->text(), shown);
-    QCOMPARE(changed.count(), expected == 0.0 ? 0 : 1);
-}
-
-void tst_DoubleSpinBox::unreadableTextRestoresTheAcceptedValue()
-{
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    spin->SetUnitType(Units::eMillimeter);
-    spin->SetUnitSymbolType(units::kSymbolMillimeter);
-    spin->SetUnitSymbolDisplayEnabled(true);
-    spin->setFocus();
-    spin->TypeAndConfirm(QStringLiteral("40"));
-    QCOMPARE(spin->value(), 40.0);
-
-    // Stepping changes the value but finishes no editing.
-    QTest::keyClick(spin, Qt::Key_Up);
-    QCOMPARE(spin->value(), 40.01);
-    QCOMPARE(spin->GetAcceptedValue(), 40.0);
-
-    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-    // A unit of another group is as unreadable as words.
-    for (const char* unreadable : {"twelve furlongs", "3 kg"}) {
-        spin->TypeAndConfirm(QString::fromLatin1(unreadable));
-        QCOMPARE(spin->value(), 40.0);
-        QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
-    }
-    QCOMPARE(changed.count(), 1);
-}
-
-void tst_DoubleSpinBox::listenersCanAdjustOrRefuseTypedValues()
-{
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    bool refuse = false;
-    QList<double> seen;
-    connect(spin, &DoubleSpinBox::ValidateChangingValue, spin, [&](double& value, bool& valid) {
-        seen << value;
-        QVERIFY(valid);
-        if (refuse)
-            valid = false;
-        else
-            value = value * 2;
-    });
-    spin->setFocus();
-    spin->TypeAndConfirm(QStringLiteral("21"));
-    QCOMPARE(seen, QList<double>{21.0});
-    QCOMPARE(spin->value(), 42.0);
-
-    refuse = true;
-    spin->TypeAndConfirm(QStringLiteral("7"));
-    QCOMPARE(spin->value(), 42.0);
-    QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("42.00"));
-
-    // Text that does not parse never reaches the listeners.
-    seen.clear();
-    spin->TypeAndConfirm(QStringLiteral("abc"));
-    QVERIFY(seen.isEmpty());
-}
-
-void tst_DoubleSpinBox::textIsFormattedFromTheUnitPart()
-{
-    DoubleSpinBox spin;
-    spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    spin.setRange(0.0, 10000.0);
-    spin.SetUnitType(Units::eMillimeter);
-    spin.SetUnitSymbolType(units::kSymbolInch);
-    spin.SetUnitSymbolDisplayEnabled(true);
-    spin.setValue(50.8);
-    QCOMPARE(spin.GetValue(), 50.8);
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00 in"));
-    QCOMPARE(spin.textFromValue(1.0), QStringLiteral("2.00 in"));
-
-    spin.SetUnitSymbolDisplayEnabled(false);
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.00"));
-    // A bare number is read in the unit of the symbol.
-    QCOMPARE(spin.valueFromText(QStringLiteral("3")), 76.2);
-    QCOMPARE(spin.valueFromText(QStringLiteral("1000 in")), 10000.0);
-}
-
-void tst_DoubleSpinBox::singleStepMatchesTheDisplay_data()
-{
-    QTest::addColumn<int>("format");
-    QTest::addColumn<int>("precision");
-    QTest::addColumn<double>("step");
-
-    QTest::newRow("decimal, 0") << int(units::kNumberFormatDecimal) << 0 << 1.0;
-    QTest::newRow("decimal, 2") << int(units::kNumberFormatDecimal) << 2 << 0.01;
-    QTest::newRow("decimal, 5") << int(units::kNumberFormatDecimal) << 5 << 0.00001;
-    QTest::newRow("fractional, 3") << int(units::kNumberFormatFractional) << 3 << 0.125;
-    QTest::newRow("fractional, 5") << int(units::kNumberFormatFractional) << 5 << 0.03125;
-}
-
-void tst_DoubleSpinBox::singleStepMatchesTheDisplay()
-{
-    QFETCH(int, format);
-    QFETCH(int, precision);
-    QFETCH(double, step);
-
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    spin->SetNumberFormatId(units::NumberFormat(format));
-    spin->SetDecimalPrecision(precision);
-    QVERIFY(qFuzzyCompare(spin->singleStep(), step));
-    QCOMPARE(spin->decimals(), precision);
-    QVERIFY(qFuzzyCompare(spin->CalculateSingleStep(precision), step));
-
-    // Keys and arrow buttons step by it.
-    const bool decimal = format == int(units::kNumberFormatDecimal);
-    spin->setValue(1.0);
-    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-    spin->setFocus();
-
-    QTest::keyClick(spin, Qt::Key_Up);
-    QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
-    QCOMPARE(spin->GetValue(), spin->value());
-    QTest::keyClick(spin, Qt::Key_PageUp);
-    QVERIFY(qAbs(spin->value() - (1.0 + 11 * step)) < step / 100);
-    QTest::keyClick(spin, Qt::Key_PageDown);
-    QTest::keyClick(spin, Qt::Key_Down);
-    QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
-    QCOMPARE(changed.count(), 4);
-    QCOMPARE(changed.last().at(0).toDouble(), spin->value()); // announced on the display grid
-    if (decimal)
-        QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
-
-    const QRect up = spin->SubControl(QStyle::SC_SpinBoxUp);
-    QVERIFY(up.isValid());
-    QTest::mouseClick(spin, Qt::LeftButton, {}, up.center());
-    QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
-    if (decimal)
-        QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0 + step, 'f', precision));
-    const QRect down = spin->SubControl(QStyle::SC_SpinBoxDown);
-    QTest::mouseClick(spin, Qt::LeftButton, {}, down.center());
-    QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
-}
-
-void tst_DoubleSpinBox::precisionChangeKeepsQtDecimalsWhenAsked()
-{
-    TestSpinBox spin;
-    spin.SetDecimalPrecision(4);
-    QCOMPARE(spin.decimals(), 4);
-    spin.SetCanChangeQtDecimals(false);
-    spin.SetDecimalPrecision(1);
-    QCOMPARE(spin.decimals(), 4);
-    QVERIFY(qFuzzyCompare(spin.singleStep(), 0.1));
-}
-
-void tst_DoubleSpinBox::deferredUpdatesWaitForUpdateForUnits()
-{
-    TestSpinBox spin;
-    spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    spin.setValue(2.5);
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
-
-    spin.SetDeferUpdateForUnits(true);
-    spin.SetDecimalSeparator(QStringLiteral(","));
-    spin.ShowPositiveNumberSign(true);
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
-    QVERIFY(spin.HaveDeferredUpdatesForUnits());
-
-    spin.SetDeferUpdateForUnits(false);
-    QVERIFY(spin.HaveDeferredUpdatesForUnits());
-    spin.UpdateForUnits();
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2,50"));
-    QVERIFY(!spin.HaveDeferredUpdatesForUnits());
-
-    // Without deferring every change shows at once.
-    spin.SetDecimalSeparator(QStringLiteral("."));
-    QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2.50"));
-    QVERIFY(!spin.HaveDeferredUpdatesForUnits());
-}
-
-void tst_DoubleSpinBox::wheelIsIgnoredWhileDisabled()
-{
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    spin->setValue(5.0);
-    const QPointF centre = QRectF(spin->rect()).center();
-    const auto wheel = [&] {
-        QWheelEvent event(centre, spin->mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        return spin->event(&event);
-    };
-    spin->setFocus();
-    QVERIFY(wheel());
-    QCOMPARE(spin->value(), 5.01);
-
-    spin->setEnabled(false);
-    QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-    QVERIFY(!wheel());
-    QCOMPARE(spin->value(), 5.01);
-    QCOMPARE(changed.count(), 0);
-}
-
-void tst_DoubleSpinBox::focusChangesTheFieldBackground()
-{
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    QLineEdit* edit = spin->GetNumericField();
-    const auto background = [edit](QPalette::ColorGroup group) {
-        return edit->palette().brush(group, edit->backgroundRole()).color();
-    };
-    spin->setFocus();
-    QTRY_VERIFY(spin->hasFocus());
-    QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
-    QCOMPARE(background(QPalette::Inactive), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
-    spin->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-    QTRY_VERIFY(!spin->hasFocus());
-    QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::WidgetContainer3));
-}
-
-void tst_DoubleSpinBox::returnSelectsAllAndModifiedFlagIsStickyUntilCleared()
-{
-    TestSpinBox* spin = shownSpinBox();
-    QVERIFY(spin);
-    spin->setFocus();
-    QTRY_VERIFY(spin->hasFocus());
-    QVERIFY(!spin->IsModified());
-    spin->GetNumericField()->selectAll();
-    QTest::keyClicks(spin, QStringLiteral("8"));
-    QVERIFY(spin->IsModified());
-    // Return rewrites the text and selects it all; the flag stays.
-    QTest::keyClick(spin, Qt::Key_End);
-    QTest::keyClick(spin, Qt::Key_Return);
-    QCOMPARE(spin->GetNumericField()->selectedText(), QStringLiteral("8.00"));
-    QVERIFY(!spin->GetNumericField()->isModified());
-    QVERIFY(spin->IsModified());
-    spin->ClearModified();
-    QVERIFY(!spin->IsModified());
-}
-
-void tst_DoubleSpinBox::anyTextIsAcceptableAndSizeHints()
-{
-    // Text is read when editing finishes, so the validator never blocks typing.
-    DoubleSpinBox normal;
-    int pos = 0;
-    QString anything = QStringLiteral("no number at all");
-    QCOMPARE(normal.validate(anything, pos), QValidator::Acceptable);
-
-    DoubleSpinBox compact(nullptr, true);
-    QCOMPARE(compact.sizeHint(), QSize(56, 24));
-    // Otherwise the spin box's own hints, untouched.
-    QCOMPARE(normal.sizeHint(), normal.QDoubleSpinBox::sizeHint());
-    QCOMPARE(normal.minimumSizeHint(), normal.QDoubleSpinBox::minimumSizeHint());
-}
 
 QTEST_MAIN(tst_DoubleSpinBox)
 #include "tst_doublespinbox.moc"

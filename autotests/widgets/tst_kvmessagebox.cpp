@@ -125,7 +125,6 @@ private Q_SLOTS:
     {
         QFETCH(int, buttons);
         QFETCH(QString, action);
-        QFETCH(int, expected);
         KvMessageBox box;
         box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
         int seen = 0;
@@ -139,7 +138,7 @@ private Q_SLOTS:
                 shown->done(0);
         });
         bool checked = true;
-        QCOMPARE(box.Show(nullptr, checked), expected);
+        QTEST(box.Show(nullptr, checked), "expected");
         QVERIFY(!checked);
         QCOMPARE(seen, buttons ? 2 : 1);
     }
@@ -166,7 +165,6 @@ private Q_SLOTS:
     {
         QFETCH(int, buttons);
         QFETCH(int, pressed);
-        QFETCH(int, expected);
         KvMessageBox box;
         box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
         int shownButtons = 0;
@@ -174,7 +172,7 @@ private Q_SLOTS:
             shownButtons = int(shown->standardButtons());
             shown->button(QMessageBox::StandardButton(pressed))->click();
         });
-        QCOMPARE(box.Show(nullptr), expected);
+        QTEST(box.Show(nullptr), "expected");
         QTEST(shownButtons, "shown");
     }
 
@@ -198,7 +196,6 @@ private Q_SLOTS:
         QFETCH(int, buttons);
         QFETCH(Qt::Key, key);
         QFETCH(int, button);
-        QFETCH(int, expected);
         KvMessageBox box;
         box.SetStandardButtons(KvMessageBox::StandardButton(buttons));
         box.AddButton(L"Later", 200);
@@ -207,7 +204,7 @@ private Q_SLOTS:
         else
             box.SetDefaultButton(button);
         whenShown([key](QMessageBox* shown) { QTest::keyClick(shown, key); });
-        QCOMPARE(box.Show(nullptr), expected);
+        QTEST(box.Show(nullptr), "expected");
     }
 
     void customButtonTextIsReplacedPerId()
@@ -246,7 +243,6 @@ private Q_SLOTS:
     void icons()
     {
         QFETCH(int, icon);
-        QFETCH(int, expected);
         KvMessageBox box;
         box.SetIcon(KvMessageBox::Icon(icon));
         int shownIcon = -1;
@@ -255,7 +251,7 @@ private Q_SLOTS:
             shown->button(QMessageBox::Ok)->click();
         });
         QCOMPARE(box.Show(nullptr), 1);
-        QCOMPARE(shownIcon, expected);
+        QTEST(shownIcon, "expected");
     }
 
     void textsAndWidthAreShown()

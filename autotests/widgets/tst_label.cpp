@@ -55,8 +55,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("width");
         QTest::addColumn<QString>("expected");
         QTest::newRow("fits, no reserved tip") << QStringLiteral("Short") << QString() << 200 << QString();
-        QTest::newRow("fits, reserved tip")
-            << QStringLiteral("Short") << QStringLiteral("Explains") << 200 << QStringLiteral("Explains");
+        QTest::newRow("fits, reserved tip") << "Short" << QStringLiteral("Explains") << 200 << "Explains";
         QTest::newRow("cut") << LongText() << QString() << 80 << LongText();
         QTest::newRow("cut, reserved tip ignored") << LongText() << QStringLiteral("Explains") << 80 << LongText();
     }

@@ -68,491 +68,468 @@ class tst_Slider : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
-    void cleanup();
+    void cleanup()
+    {
+        qDeleteAll(mWidgets);
+        mWidgets.clear();
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
+    }
 
-    void positionsFollowThePrecision_data();
-    void positionsFollowThePrecision();
-    void typedValuesEmitPressedChangedReleased_data();
-    void typedValuesEmitPressedChangedReleased();
-    void arrowKeysStepTheValueFinely_data();
-    void arrowKeysStepTheValueFinely();
-    void escapeDuringAKeyboardDragCancels();
-    void wheelNotchAwayFromTheUserLowersThePosition();
-    void dragStartsWhereTheThumbIsAndFollowsTheMouse();
-    void rightButtonDragsAndOtherButtonsDoNothing();
-    void refusedValuesLeaveValueAndPosition();
-    void valueFromCodeMovesSilentlyAndRangeChangesClamp();
-    void deferredUpdatesWaitForUpdateForUnits();
-    void unitSymbolLabelShowsTheDisplayName();
-    void focusLossIsAnnounced();
-    void displayTextIsPaintedOnTheGroove();
+    void positionsFollowThePrecision_data()
+    {
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<int>("maximumPosition");
+        QTest::addColumn<bool>("defaultKeys");
+        QTest::addColumn<int>("threshold");
+
+        QTest::newRow("0 decimals") << 0 << 100 << true << 1;
+        QTest::newRow("2 decimals") << 2 << 10000 << true << 1;
+        QTest::newRow("3 decimals") << 3 << 100000 << true << 1;
+        QTest::newRow("5 decimals") << 5 << 100000 << false << 100;
+    }
+
+    void positionsFollowThePrecision()
+    {
+        QFETCH(int, precision);
+        QFETCH(int, maximumPosition);
+
+        Slider slider;
+        slider.SetValue(25.0);
+        QSignalSpy changed(&slider, &Slider::ValueChanged);
+        slider.SetDecimalPrecision(precision);
+        SliderControl* control = slider.GetSliderControl();
+        QCOMPARE(control->maximum(), maximumPosition);
+        QCOMPARE(control->value(), maximumPosition / 4);
+        QTEST(control->DefaultKeyHandling(), "defaultKeys");
+        QTEST(control->KeyThreshold(), "threshold");
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void typedValuesEmitPressedChangedReleased_data()
+    {
+        QTest::addColumn<int>("unitType");
+        QTest::addColumn<int>("symbol");
+        QTest::addColumn<double>("maximum");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("expected");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<bool>("asFloat");
+
+        const int none = int(Units::eUnitless), mm = int(Units::eMillimeter);
+        const int plain = int(units::kSymbolUnitless), mmSymbol = int(units::kSymbolMillimeter);
+        QTest::newRow("plain number") << none << plain << 100.0 << "42.5" << 42.5 << 4250 << false;
+        QTest::newRow("above the maximum") << none << plain << 100.0 << "500" << 100.0 << 10000 << false;
+        QTest::newRow("below the minimum") << none << plain << 100.0 << "-3" << 0.0 << 0 << false;
+        QTest::newRow("inches into millimetres") << mm << mmSymbol << 1000.0 << "2 in" << 50.8 << 5080 << false;
+        QTest::newRow("shown in inches") << mm << int(units::kSymbolInch) << 1000.0 << "254mm" << 254.0 << 1000
+                                         << false;
+        QTest::newRow("treated as float") << none << plain << 100.0 << "0.1" << double(0.1f) << 10 << true;
+        // Nothing is announced for these: the value stays at 10.
+        QTest::newRow("within tolerance") << none << plain << 100.0 << "10.0000000001" << 10.0 << 1000 << false;
+        QTest::newRow("not a number") << none << plain << 100.0 << "not a number" << 10.0 << 1000 << false;
+    }
+
+    void typedValuesEmitPressedChangedReleased()
+    {
+        QFETCH(int, unitType);
+        QFETCH(int, symbol);
+        QFETCH(double, maximum);
+        QFETCH(QString, typed);
+        QFETCH(double, expected);
+        QFETCH(bool, asFloat);
+
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetUnitType(Units::teType(unitType));
+        slider->SetUnitSymbolType(units::UnitSymbol(symbol));
+        slider->SetMaximum(maximum);
+        slider->SetTreatValueAsFloat(asFloat);
+        slider->SetValue(10.0);
+        SignalLog log(slider);
+        QSignalSpy moved(slider, &Slider::SliderMoved);
+
+        NumericField* field = slider->GetNumericField();
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, typed);
+        QVERIFY(log.mEntries.isEmpty());
+        QTest::keyClick(field, Qt::Key_Return);
+
+        QVERIFY2(qAbs(slider->GetValue() - expected) < 1e-9, qPrintable(QString::number(slider->GetValue(), 'g', 17)));
+        QTEST(slider->GetSliderControl()->value(), "position");
+        QStringList expectedLog{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(slider->GetValue()),
+                                QStringLiteral("released")};
+        if (expected == 10.0) {
+            expectedLog.clear();
+            QCOMPARE(field->text(), QStringLiteral("10.00"));
+        }
+        QCOMPARE(log.mEntries, expectedLog);
+        QCOMPARE(moved.count(), 0);
+        QVERIFY(!slider->IsModified());
+        QCOMPARE(field->selectedText(), field->text());
+
+        // Leaving the field finishes no second edit.
+        slider->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+        QTRY_VERIFY(!field->hasFocus());
+        QCOMPARE(log.mEntries, expectedLog);
+    }
+
+    void arrowKeysStepTheValueFinely_data()
+    {
+        QTest::addColumn<int>("angleUnit"); // 0 for a plain number
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("presses");
+        QTest::addColumn<double>("valueStep");
+        QTest::addColumn<int>("positionMove");
+
+        QTest::newRow("2 decimals, right") << 0 << 2 << int(Qt::Key_Right) << 3 << 0.01 << 3;
+        QTest::newRow("2 decimals, page up") << 0 << 2 << int(Qt::Key_PageUp) << 2 << 0.1 << 20;
+        QTest::newRow("2 decimals, down") << 0 << 2 << int(Qt::Key_Down) << 4 << -0.01 << -4;
+        QTest::newRow("5 decimals, up") << 0 << 5 << int(Qt::Key_Up) << 100 << 0.00001 << 1;
+        QTest::newRow("5 decimals, 99 up") << 0 << 5 << int(Qt::Key_Up) << 99 << 0.00001 << 0;
+        QTest::newRow("5 decimals, page up") << 0 << 5 << int(Qt::Key_PageUp) << 10 << 0.0001 << 1;
+        // Going down, the thumb moves on the first press and then every hundredth.
+        QTest::newRow("5 decimals, left") << 0 << 5 << int(Qt::Key_Left) << 101 << -0.00001 << -2;
+        QTest::newRow("5 decimals, page down") << 0 << 5 << int(Qt::Key_PageDown) << 3 << -0.0001 << -1;
+        // Degrees, minutes and seconds step by the shown part: seconds, or tenths of a second.
+        QTest::newRow("seconds, up") << int(Units::eDegree) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
+        QTest::newRow("seconds, page down")
+            << int(Units::eDegree) << 4 << int(Qt::Key_PageDown) << 1 << -10.0 / 3600 << -1;
+        QTest::newRow("tenths of a second, up")
+            << int(Units::eDegree) << 5 << int(Qt::Key_Up) << 2 << 1.0 / 36000 << -1;
+        QTest::newRow("tenths of a second, page down")
+            << int(Units::eDegree) << 5 << int(Qt::Key_PageDown) << 1 << -1.0 / 3600 << -1;
+        // The step is added to the value as it is, whatever unit the value is held in.
+        QTest::newRow("seconds on a value in radians")
+            << int(Units::eRadian) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
+    }
+
+    void arrowKeysStepTheValueFinely()
+    {
+        QFETCH(int, angleUnit);
+        const bool degrees = angleUnit != 0;
+        QFETCH(int, precision);
+        QFETCH(int, key);
+        QFETCH(int, presses);
+        QFETCH(double, valueStep);
+
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        if (degrees) {
+            slider->SetUnitType(Units::teType(angleUnit));
+            slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
+            slider->SetRange(0.0, 360.0);
+        }
+        slider->SetDecimalPrecision(precision);
+        slider->SetValue(50.0);
+        SliderControl* control = slider->GetSliderControl();
+        if (degrees)
+            QVERIFY(!control->DefaultKeyHandling());
+        const int startPosition = control->value();
+        QSignalSpy changed(slider, &Slider::ValueChanged);
+        QSignalSpy pressed(slider, &Slider::SliderPressed);
+        QSignalSpy released(slider, &Slider::SliderReleased);
+        control->setFocus();
+        for (int i = 0; i < presses; ++i) {
+            QTest::keyClick(control, Qt::Key(key));
+            QVERIFY(qAbs(slider->GetValue() - (50.0 + (i + 1) * valueStep)) < qAbs(valueStep) / 100);
+        }
+        if (!degrees)
+            QTEST(control->value() - startPosition, "positionMove");
+        QCOMPARE(changed.count(), presses);
+        QCOMPARE(pressed.count(), presses);
+        QCOMPARE(released.count(), presses);
+        QCOMPARE(changed.last().at(0).toDouble(), slider->GetValue());
+    }
+
+    void escapeDuringAKeyboardDragCancels()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetValue(20.0);
+        SliderControl* control = slider->GetSliderControl();
+        control->setFocus();
+        SignalLog log(slider);
+        QTest::keyPress(control, Qt::Key_Right);
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(control, &repeat);
+        QCOMPARE(control->HeldInputs(), QList<int>{Qt::Key_Right});
+        QTest::keyClick(control, Qt::Key_Escape);
+        QVERIFY(control->HeldInputs().isEmpty());
+        // The key let go after the cancel ends nothing more.
+        QTest::keyRelease(control, Qt::Key_Right);
+        QCOMPARE(log.mEntries, QStringList({"pressed", "changed 20.01", "changed 20.02", "cancelled"}));
+    }
+
+    void wheelNotchAwayFromTheUserLowersThePosition()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetValue(40.0);
+        SliderControl* control = slider->GetSliderControl();
+        SignalLog log(slider);
+        const QPointF centre = QRectF(control->rect()).center();
+        const auto wheel = [&](int delta) {
+            QWheelEvent event(centre, control->mapToGlobal(centre), QPoint(), QPoint(0, delta), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(control, &event);
+        };
+        wheel(120);
+        QCOMPARE(control->value(), 3999);
+        QCOMPARE(slider->GetValue(), 39.99);
+        wheel(-240);
+        QCOMPARE(control->value(), 4001);
+        // Less than a notch does nothing.
+        wheel(60);
+        QCOMPARE(control->value(), 4001);
+        QCOMPARE(log.mEntries,
+                 QStringList({"pressed", "changed 39.99", "released", "pressed", "changed 40.01", "released"}));
+    }
+
+    void dragStartsWhereTheThumbIsAndFollowsTheMouse()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetDecimalPrecision(0);
+        slider->SetValue(50.0);
+        SliderControl* control = slider->GetSliderControl();
+        SignalLog log(slider);
+        QSignalSpy moved(slider, &Slider::SliderMoved);
+
+        const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+        const QPoint press(groove.left() + groove.width() / 5, groove.center().y());
+        QTest::mousePress(control, Qt::LeftButton, {}, press);
+        QCOMPARE(slider->GetValue(), 50.0);
+        QCOMPARE(log.mEntries, QStringList({"pressed"}));
+
+        QStyleOptionSlider option;
+        option.initFrom(control);
+        option.orientation = Qt::Horizontal;
+        const int space = control->style()->pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, control);
+        const int handle = control->style()->pixelMetric(QStyle::PM_SliderLength, &option, control);
+        const float pixelsPerPosition = float(space - handle) / 100.0f;
+        const int dx = 40;
+        QMouseEvent move(QEvent::MouseMove, QPointF(press + QPoint(dx, 0)), control->mapToGlobal(QPointF(press)),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(control, &move);
+        const int expected = 50 + int(float(dx) / pixelsPerPosition);
+        QCOMPARE(control->value(), expected);
+        QCOMPARE(slider->GetValue(), double(expected));
+        QCOMPARE(moved.count(), 1);
+        QCOMPARE(moved.last().at(0).toInt(), expected);
+
+        QTest::mouseRelease(control, Qt::LeftButton, {}, press + QPoint(dx, 0));
+        QCOMPARE(log.mEntries, (QStringList{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(expected),
+                                            QStringLiteral("released")}));
+        QVERIFY(control->HeldInputs().isEmpty());
+    }
+
+    void rightButtonDragsAndOtherButtonsDoNothing()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetDecimalPrecision(0);
+        slider->SetRange(-100.0, 100.0);
+        slider->SetValue(0.0);
+        SliderControl* control = slider->GetSliderControl();
+        QCOMPARE(control->GetStoredMinimum(), -100);
+        SignalLog log(slider);
+        const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+        const QPoint press = groove.center();
+
+        QTest::mousePress(control, Qt::MiddleButton, {}, press);
+        QTest::mouseRelease(control, Qt::MiddleButton, {}, press);
+        QVERIFY(log.mEntries.isEmpty());
+        QCOMPARE(slider->GetValue(), 0.0);
+
+        QTest::mousePress(control, Qt::RightButton, {}, press);
+        // The left button is ignored while the right one drags.
+        QTest::mousePress(control, Qt::LeftButton, {}, press);
+        QCOMPARE(control->HeldInputs(), QList<int>{SliderControl::MouseInput});
+        QMouseEvent move(QEvent::MouseMove, QPointF(groove.left(), press.y()), control->mapToGlobal(QPointF(press)),
+                         Qt::NoButton, Qt::RightButton, Qt::NoModifier);
+        QApplication::sendEvent(control, &move);
+        QVERIFY(slider->GetValue() < 0.0);
+        QCOMPARE(control->minimum(), -100);
+        QCOMPARE(control->maximum(), 100);
+        QTest::mouseRelease(control, Qt::RightButton, {}, QPoint(groove.left(), press.y()));
+        QCOMPARE(log.mEntries.first(), QStringLiteral("pressed"));
+        QCOMPARE(log.mEntries.last(), QStringLiteral("released"));
+        QCOMPARE(log.mEntries.count(), 3);
+    }
+
+    void refusedValuesLeaveValueAndPosition()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetValue(30.0);
+        SliderControl* control = slider->GetSliderControl();
+        connect(slider, &Slider::ValidateChangingValue, slider, [](double& value, bool& valid) {
+            if (value > 30.0)
+                valid = false;
+        });
+        QSignalSpy changed(slider, &Slider::ValueChanged);
+        control->setFocus();
+        QTest::keyClick(control, Qt::Key_Right);
+        QCOMPARE(slider->GetValue(), 30.0);
+        QCOMPARE(control->value(), 3000);
+        QTest::keyClick(control, Qt::Key_Left);
+        QCOMPARE(slider->GetValue(), 29.99);
+
+        TypeAndConfirm(slider->GetNumericField(), QStringLiteral("55"));
+        QCOMPARE(slider->GetValue(), 29.99);
+        QCOMPARE(slider->GetNumericField()->text(), QStringLiteral("29.99"));
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void valueFromCodeMovesSilentlyAndRangeChangesClamp()
+    {
+        Slider slider;
+        slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+        SignalLog log(&slider);
+        QSignalSpy validate(&slider, &Slider::ValidateChangingValue);
+        slider.SetValue(33.33);
+        QCOMPARE(slider.GetSliderControl()->value(), 3333);
+        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("33.33"));
+        QCOMPARE(slider.GetNumericField()->cursorPosition(), 0);
+        // Outside the range the value stays as set; the thumb stops at the end.
+        slider.SetValue(150.0);
+        QCOMPARE(slider.GetValue(), 150.0);
+        QCOMPARE(slider.GetSliderControl()->value(), 10000);
+        QVERIFY(log.mEntries.isEmpty());
+        QCOMPARE(validate.count(), 0);
+
+        slider.SetValue(80.0);
+        QSignalSpy changed(&slider, &Slider::ValueChanged);
+        slider.SetRange(-50.0, 200.0);
+        QCOMPARE(slider.GetSliderControl()->minimum(), -5000);
+        QCOMPARE(slider.GetSliderControl()->maximum(), 20000);
+        QCOMPARE(slider.GetSliderControl()->value(), 8000);
+        QCOMPARE(changed.count(), 0);
+        slider.SetMaximum(60.0);
+        QCOMPARE(slider.GetValue(), 60.0);
+        QCOMPARE(changed.count(), 1);
+        slider.setProperty("minimum", 10.0);
+        QCOMPARE(slider.GetMinimum(), 10.0);
+        QCOMPARE(slider.GetSliderControl()->minimum(), 1000);
+    }
+
+    void deferredUpdatesWaitForUpdateForUnits()
+    {
+        Slider slider;
+        slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
+        slider.SetUnitType(Units::eMillimeter);
+        slider.SetRange(0.0, 1000.0);
+        slider.SetValue(254.0);
+        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
+        QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
+
+        slider.SetDeferUpdateForUnits(true);
+        // The number format is not among the changes the slider follows.
+        slider.SetNumberFormatId(units::kNumberFormatFractional);
+        slider.SetNumberFormatId(units::kNumberFormatDecimal);
+        QVERIFY(!slider.HaveDeferredUpdatesForUnits());
+        slider.SetDecimalPrecision(1);
+        slider.SetUnitSymbolType(units::kSymbolInch);
+        slider.SetDecimalSeparator(QStringLiteral(","));
+        QVERIFY(slider.HaveDeferredUpdatesForUnits());
+        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
+        QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
+        QCOMPARE(slider.GetUnitSymbolLabel(), QString());
+        // Still deferring: the call only marks.
+        slider.UpdateForUnits();
+        QVERIFY(slider.HaveDeferredUpdatesForUnits());
+
+        slider.SetDeferUpdateForUnits(false);
+        slider.UpdateForUnits();
+        QVERIFY(!slider.HaveDeferredUpdatesForUnits());
+        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("10,0"));
+        QCOMPARE(slider.GetSliderControl()->maximum(), 394);
+        QCOMPARE(slider.GetSliderControl()->value(), 100);
+        QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Inches"));
+    }
+
+    void unitSymbolLabelShowsTheDisplayName()
+    {
+        Slider slider;
+        QLabel* label = slider.findChild<QLabel*>();
+        QVERIFY(label);
+        slider.SetUnitType(Units::eMillimeter);
+        slider.SetUnitSymbolType(units::kSymbolMillimeter);
+        QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Millimeters"));
+        QVERIFY(!label->isVisibleTo(&slider));
+        slider.ShowUnitSymbolLabel(true);
+        QVERIFY(label->isVisibleTo(&slider));
+        slider.SetUnitSymbolLabel(QString());
+        QVERIFY(!label->isVisibleTo(&slider));
+        slider.SetUnitSymbolLabel(QStringLiteral("mm"));
+        QVERIFY(label->isVisibleTo(&slider));
+        slider.ShowUnitSymbolLabel(false);
+        QVERIFY(!label->isVisibleTo(&slider));
+    }
+
+    void focusLossIsAnnounced()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        QSignalSpy focusOut(slider, &Slider::SliderFocusOut);
+        QLineEdit* other = slider->window()->findChild<QLineEdit*>(QStringLiteral("other"));
+        SliderControl* control = slider->GetSliderControl();
+        QVERIFY(Probe::Focus(control));
+        QTest::keyPress(control, Qt::Key_Up);
+        other->setFocus();
+        QTRY_COMPARE(focusOut.count(), 1);
+        QVERIFY(control->HeldInputs().isEmpty());
+        QVERIFY(Probe::Focus(slider->GetNumericField()));
+        other->setFocus();
+        QTRY_COMPARE(focusOut.count(), 2);
+    }
+
+    void displayTextIsPaintedOnTheGroove()
+    {
+        Slider* slider = shownSlider();
+        QVERIFY(slider);
+        slider->SetNumFieldVisible(false);
+        SliderControl* control = slider->GetSliderControl();
+        slider->SetValue(0.0);
+        const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
+        const QImage before = Probe::Grab(control);
+        slider->SetDisplayText(QStringLiteral("Opacity"));
+        QCOMPARE(control->property("attributeTextTerm").toString(), QStringLiteral("Opacity"));
+        const QImage after = Probe::Grab(control);
+        QCOMPARE(after.size(), before.size());
+        // The text changes pixels around the groove's middle, and nowhere near the ends.
+        const qreal ratio = after.devicePixelRatio();
+        const QColor text = Probe::ThemeColor(ThemeFileKey::FontNormal1);
+        int changed = 0;
+        int nearText = 0;
+        for (int y = 0; y < after.height(); ++y) {
+            for (int x = 0; x < after.width(); ++x) {
+                if (after.pixel(x, y) == before.pixel(x, y))
+                    continue;
+                ++changed;
+                QVERIFY(x / ratio > groove.left() + 5 && x / ratio < groove.right() - 5);
+                const QColor c = after.pixelColor(x, y);
+                if (qAbs(c.red() - text.red()) + qAbs(c.green() - text.green()) + qAbs(c.blue() - text.blue()) < 60)
+                    ++nearText;
+            }
+        }
+        QVERIFY2(changed > 20, qPrintable(QString::number(changed)));
+        QVERIFY2(nearText > 5, qPrintable(QString::number(nearText)));
+    }
 
 private:
-    Slider* shownSlider();
+    Slider* shownSlider()
+    {
+        Slider* slider = Probe::ShownWithOther<Slider>(mWidgets, QSize(320, 90));
+        if (slider)
+            slider->SetSeparators(QStringLiteral("."), QStringLiteral(","));
+        return slider;
+    }
+
     QList<QWidget*> mWidgets;
 };
-
-void tst_Slider::cleanup()
-{
-    qDeleteAll(mWidgets);
-    mWidgets.clear();
-    QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light")));
-}
-
-Slider* tst_Slider::shownSlider()
-{
-    Slider* slider = Probe::ShownWithOther<Slider>(mWidgets, QSize(320, 90));
-    if (slider)
-        slider->SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    return slider;
-}
-
-void tst_Slider::positionsFollowThePrecision_data()
-{
-    QTest::addColumn<int>("precision");
-    QTest::addColumn<int>("maximumPosition");
-    QTest::addColumn<bool>("defaultKeys");
-    QTest::addColumn<int>("threshold");
-
-    QTest::newRow("0 decimals") << 0 << 100 << true << 1;
-    QTest::newRow("2 decimals") << 2 << 10000 << true << 1;
-    QTest::newRow("3 decimals") << 3 << 100000 << true << 1;
-    QTest::newRow("5 decimals") << 5 << 100000 << false << 100;
-}
-
-void tst_Slider::positionsFollowThePrecision()
-{
-    QFETCH(int, precision);
-    QFETCH(int, maximumPosition);
-    QFETCH(bool, defaultKeys);
-    QFETCH(int, threshold);
-
-    Slider slider;
-    slider.SetValue(25.0);
-    QSignalSpy changed(&slider, &Slider::ValueChanged);
-    slider.SetDecimalPrecision(precision);
-    SliderControl* control = slider.GetSliderControl();
-    QCOMPARE(control->maximum(), maximumPosition);
-    QCOMPARE(control->value(), maximumPosition / 4);
-    QCOMPARE(control->DefaultKeyHandling(), defaultKeys);
-    QCOMPARE(control->KeyThreshold(), threshold);
-    QCOMPARE(changed.count(), 0);
-}
-
-void tst_Slider::typedValuesEmitPressedChangedReleased_data()
-{
-    QTest::addColumn<int>("unitType");
-    QTest::addColumn<int>("symbol");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<double>("expected");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<bool>("asFloat");
-
-    const int none = int(Units::eUnitless), mm = int(Units::eMillimeter);
-    const int plain = int(units::kSymbolUnitless), mmSymbol = int(units::kSymbolMillimeter);
-    QTest::newRow("plain number") << none << plain << 100.0 << "42.5" << 42.5 << 4250 << false;
-    QTest::newRow("above the maximum") << none << plain << 100.0 << "500" << 100.0 << 10000 << false;
-    QTest::newRow("below the minimum") << none << plain << 100.0 << "-3" << 0.0 << 0 << false;
-    QTest::newRow("inches into millimetres") << mm << mmSymbol << 1000.0 << "2 in" << 50.8 << 5080 << false;
-    QTest::newRow("shown in inches") << mm << int(units::kSymbolInch) << 1000.0 << "254mm" << 254.0 << 1000 << false;
-    QTest::newRow("treated as float") << none << plain << 100.0 << "0.1" << double(0.1f) << 10 << true;
-    // Nothing is announced for these: the value stays at 10.
-    QTest::newRow("within tolerance") << none << plain << 100.0 << "10.0000000001" << 10.0 << 1000 << false;
-    QTest::newRow("not a number") << none << plain << 100.0 << "not a number" << 10.0 << 1000 << false;
-}
-
-void tst_Slider::typedValuesEmitPressedChangedReleased()
-{
-    QFETCH(int, unitType);
-    QFETCH(int, symbol);
-    QFETCH(double, maximum);
-    QFETCH(QString, typed);
-    QFETCH(double, expected);
-    QFETCH(int, position);
-    QFETCH(bool, asFloat);
-
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetUnitType(Units::teType(unitType));
-    slider->SetUnitSymbolType(units::UnitSymbol(symbol));
-    slider->SetMaximum(maximum);
-    slider->SetTreatValueAsFloat(asFloat);
-    slider->SetValue(10.0);
-    SignalLog log(slider);
-    QSignalSpy moved(slider, &Slider::SliderMoved);
-
-    NumericField* field = slider->GetNumericField();
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClicks(field, typed);
-    QVERIFY(log.mEntries.isEmpty());
-    QTest::keyClick(field, Qt::Key_Return);
-
-    QVERIFY2(qAbs(slider->GetValue() - expected) < 1e-9, qPrintable(QString::number(slider->GetValue(), 'g', 17)));
-    QCOMPARE(slider->GetSliderControl()->value(), position);
-    QStringList expectedLog{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(slider->GetValue()),
-                            QStringLiteral("released")};
-    if (expected == 10.0) {
-        expectedLog.clear();
-        QCOMPARE(field->text(), QStringLiteral("10.00"));
-    }
-    QCOMPARE(log.mEntries, expectedLog);
-    QCOMPARE(moved.count(), 0);
-    QVERIFY(!slider->IsModified());
-    QCOMPARE(field->selectedText(), field->text());
-
-    // Leaving the field finishes no second edit.
-    slider->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-    QTRY_VERIFY(!field->hasFocus());
-    QCOMPARE(log.mEntries, expectedLog);
-}
-
-void tst_Slider::arrowKeysStepTheValueFinely_data()
-{
-    QTest::addColumn<int>("angleUnit"); // 0 for a plain number
-    QTest::addColumn<int>("precision");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("presses");
-    QTest::addColumn<double>("valueStep");
-    QTest::addColumn<int>("positionMove");
-
-    QTest::newRow("2 decimals, right") << 0 << 2 << int(Qt::Key_Right) << 3 << 0.01 << 3;
-    QTest::newRow("2 decimals, page up") << 0 << 2 << int(Qt::Key_PageUp) << 2 << 0.1 << 20;
-    QTest::newRow("2 decimals, down") << 0 << 2 << int(Qt::Key_Down) << 4 << -0.01 << -4;
-    QTest::newRow("5 decimals, up") << 0 << 5 << int(Qt::Key_Up) << 100 << 0.00001 << 1;
-    QTest::newRow("5 decimals, 99 up") << 0 << 5 << int(Qt::Key_Up) << 99 << 0.00001 << 0;
-    QTest::newRow("5 decimals, page up") << 0 << 5 << int(Qt::Key_PageUp) << 10 << 0.0001 << 1;
-    // Going down, the thumb moves on the first press and then every hundredth.
-    QTest::newRow("5 decimals, left") << 0 << 5 << int(Qt::Key_Left) << 101 << -0.00001 << -2;
-    QTest::newRow("5 decimals, page down") << 0 << 5 << int(Qt::Key_PageDown) << 3 << -0.0001 << -1;
-    // Degrees, minutes and seconds step by the shown part: seconds, or tenths of a second.
-    QTest::newRow("seconds, up") << int(Units::eDegree) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
-    QTest::newRow("seconds, page down") << int(Units::eDegree) << 4 << int(Qt::Key_PageDown) << 1 << -10.0 / 3600 << -1;
-    QTest::newRow("tenths of a second, up") << int(Units::eDegree) << 5 << int(Qt::Key_Up) << 2 << 1.0 / 36000 << -1;
-    QTest::newRow("tenths of a second, page down")
-        << int(Units::eDegree) << 5 << int(Qt::Key_PageDown) << 1 << -1.0 / 3600 << -1;
-    // The step is added to the value as it is, whatever unit the value is held in.
-    QTest::newRow("seconds on a value in radians")
-        << int(Units::eRadian) << 4 << int(Qt::Key_Up) << 2 << 1.0 / 3600 << -1;
-}
-
-void tst_Slider::arrowKeysStepTheValueFinely()
-{
-    QFETCH(int, angleUnit);
-    const bool degrees = angleUnit != 0;
-    QFETCH(int, precision);
-    QFETCH(int, key);
-    QFETCH(int, presses);
-    QFETCH(double, valueStep);
-    QFETCH(int, positionMove);
-
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    if (degrees) {
-        slider->SetUnitType(Units::teType(angleUnit));
-        slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
-        slider->SetRange(0.0, 360.0);
-    }
-    slider->SetDecimalPrecision(precision);
-    slider->SetValue(50.0);
-    SliderControl* control = slider->GetSliderControl();
-    if (degrees)
-        QVERIFY(!control->DefaultKeyHandling());
-    const int startPosition = control->value();
-    QSignalSpy changed(slider, &Slider::ValueChanged);
-    QSignalSpy pressed(slider, &Slider::SliderPressed);
-    QSignalSpy released(slider, &Slider::SliderReleased);
-    control->setFocus();
-    for (int i = 0; i < presses; ++i) {
-        QTest::keyClick(control, Qt::Key(key));
-        QVERIFY(qAbs(slider->GetValue() - (50.0 + (i + 1) * valueStep)) < qAbs(valueStep) / 100);
-    }
-    if (!degrees)
-        QCOMPARE(control->value() - startPosition, positionMove);
-    QCOMPARE(changed.count(), presses);
-    QCOMPARE(pressed.count(), presses);
-    QCOMPARE(released.count(), presses);
-    QCOMPARE(changed.last().at(0).toDouble(), slider->GetValue());
-}
-
-void tst_Slider::escapeDuringAKeyboardDragCancels()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetValue(20.0);
-    SliderControl* control = slider->GetSliderControl();
-    control->setFocus();
-    SignalLog log(slider);
-    QTest::keyPress(control, Qt::Key_Right);
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
-    QApplication::sendEvent(control, &repeat);
-    QCOMPARE(control->HeldInputs(), QList<int>{Qt::Key_Right});
-    QTest::keyClick(control, Qt::Key_Escape);
-    QVERIFY(control->HeldInputs().isEmpty());
-    // The key let go after the cancel ends nothing more.
-    QTest::keyRelease(control, Qt::Key_Right);
-    QCOMPARE(log.mEntries, QStringList({"pressed", "changed 20.01", "changed 20.02", "cancelled"}));
-}
-
-void tst_Slider::wheelNotchAwayFromTheUserLowersThePosition()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetValue(40.0);
-    SliderControl* control = slider->GetSliderControl();
-    SignalLog log(slider);
-    const QPointF centre = QRectF(control->rect()).center();
-    const auto wheel = [&](int delta) {
-        QWheelEvent event(centre, control->mapToGlobal(centre), QPoint(), QPoint(0, delta), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(control, &event);
-    };
-    wheel(120);
-    QCOMPARE(control->value(), 3999);
-    QCOMPARE(slider->GetValue(), 39.99);
-    wheel(-240);
-    QCOMPARE(control->value(), 4001);
-    // Less than a notch does nothing.
-    wheel(60);
-    QCOMPARE(control->value(), 4001);
-    QCOMPARE(log.mEntries,
-             QStringList({"pressed", "changed 39.99", "released", "pressed", "changed 40.01", "released"}));
-}
-
-void tst_Slider::dragStartsWhereTheThumbIsAndFollowsTheMouse()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetDecimalPrecision(0);
-    slider->SetValue(50.0);
-    SliderControl* control = slider->GetSliderControl();
-    SignalLog log(slider);
-    QSignalSpy moved(slider, &Slider::SliderMoved);
-
-    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
-    const QPoint press(groove.left() + groove.width() / 5, groove.center().y());
-    QTest::mousePress(control, Qt::LeftButton, {}, press);
-    QCOMPARE(slider->GetValue(), 50.0);
-    QCOMPARE(log.mEntries, QStringList({"pressed"}));
-
-    QStyleOptionSlider option;
-    option.initFrom(control);
-    option.orientation = Qt::Horizontal;
-    const int space = control->style()->pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, control);
-    const int handle = control->style()->pixelMetric(QStyle::PM_SliderLength, &option, control);
-    const float pixelsPerPosition = float(space - handle) / 100.0f;
-    const int dx = 40;
-    QMouseEvent move(QEvent::MouseMove, QPointF(press + QPoint(dx, 0)), control->mapToGlobal(QPointF(press)),
-                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(control, &move);
-    const int expected = 50 + int(float(dx) / pixelsPerPosition);
-    QCOMPARE(control->value(), expected);
-    QCOMPARE(slider->GetValue(), double(expected));
-    QCOMPARE(moved.count(), 1);
-    QCOMPARE(moved.last().at(0).toInt(), expected);
-
-    QTest::mouseRelease(control, Qt::LeftButton, {}, press + QPoint(dx, 0));
-    QCOMPARE(log.mEntries, (QStringList{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(expected),
-                                        QStringLiteral("released")}));
-    QVERIFY(control->HeldInputs().isEmpty());
-}
-
-void tst_Slider::rightButtonDragsAndOtherButtonsDoNothing()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetDecimalPrecision(0);
-    slider->SetRange(-100.0, 100.0);
-    slider->SetValue(0.0);
-    SliderControl* control = slider->GetSliderControl();
-    QCOMPARE(control->GetStoredMinimum(), -100);
-    SignalLog log(slider);
-    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
-    const QPoint press = groove.center();
-
-    QTest::mousePress(control, Qt::MiddleButton, {}, press);
-    QTest::mouseRelease(control, Qt::MiddleButton, {}, press);
-    QVERIFY(log.mEntries.isEmpty());
-    QCOMPARE(slider->GetValue(), 0.0);
-
-    QTest::mousePress(control, Qt::RightButton, {}, press);
-    // The left button is ignored while the right one drags.
-    QTest::mousePress(control, Qt::LeftButton, {}, press);
-    QCOMPARE(control->HeldInputs(), QList<int>{SliderControl::MouseInput});
-    QMouseEvent move(QEvent::MouseMove, QPointF(groove.left(), press.y()), control->mapToGlobal(QPointF(press)),
-                     Qt::NoButton, Qt::RightButton, Qt::NoModifier);
-    QApplication::sendEvent(control, &move);
-    QVERIFY(slider->GetValue() < 0.0);
-    QCOMPARE(control->minimum(), -100);
-    QCOMPARE(control->maximum(), 100);
-    QTest::mouseRelease(control, Qt::RightButton, {}, QPoint(groove.left(), press.y()));
-    QCOMPARE(log.mEntries.first(), QStringLiteral("pressed"));
-    QCOMPARE(log.mEntries.last(), QStringLiteral("released"));
-    QCOMPARE(log.mEntries.count(), 3);
-}
-
-void tst_Slider::refusedValuesLeaveValueAndPosition()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetValue(30.0);
-    SliderControl* control = slider->GetSliderControl();
-    connect(slider, &Slider::ValidateChangingValue, slider, [](double& value, bool& valid) {
-        if (value > 30.0)
-            valid = false;
-    });
-    QSignalSpy changed(slider, &Slider::ValueChanged);
-    control->setFocus();
-    QTest::keyClick(control, Qt::Key_Right);
-    QCOMPARE(slider->GetValue(), 30.0);
-    QCOMPARE(control->value(), 3000);
-    QTest::keyClick(control, Qt::Key_Left);
-    QCOMPARE(slider->GetValue(), 29.99);
-
-    TypeAndConfirm(slider->GetNumericField(), QStringLiteral("55"));
-    QCOMPARE(slider->GetValue(), 29.99);
-    QCOMPARE(slider->GetNumericField()->text(), QStringLiteral("29.99"));
-    QCOMPARE(changed.count(), 1);
-}
-
-void tst_Slider::valueFromCodeMovesSilentlyAndRangeChangesClamp()
-{
-    Slider slider;
-    slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    SignalLog log(&slider);
-    QSignalSpy validate(&slider, &Slider::ValidateChangingValue);
-    slider.SetValue(33.33);
-    QCOMPARE(slider.GetSliderControl()->value(), 3333);
-    QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("33.33"));
-    QCOMPARE(slider.GetNumericField()->cursorPosition(), 0);
-    // Outside the range the value stays as set; the thumb stops at the end.
-    slider.SetValue(150.0);
-    QCOMPARE(slider.GetValue(), 150.0);
-    QCOMPARE(slider.GetSliderControl()->value(), 10000);
-    QVERIFY(log.mEntries.isEmpty());
-    QCOMPARE(validate.count(), 0);
-
-    slider.SetValue(80.0);
-    QSignalSpy changed(&slider, &Slider::ValueChanged);
-    slider.SetRange(-50.0, 200.0);
-    QCOMPARE(slider.GetSliderControl()->minimum(), -5000);
-    QCOMPARE(slider.GetSliderControl()->maximum(), 20000);
-    QCOMPARE(slider.GetSliderControl()->value(), 8000);
-    QCOMPARE(changed.count(), 0);
-    slider.SetMaximum(60.0);
-    QCOMPARE(slider.GetValue(), 60.0);
-    QCOMPARE(changed.count(), 1);
-    slider.setProperty("minimum", 10.0);
-    QCOMPARE(slider.GetMinimum(), 10.0);
-    QCOMPARE(slider.GetSliderControl()->minimum(), 1000);
-}
-
-void tst_Slider::deferredUpdatesWaitForUpdateForUnits()
-{
-    Slider slider;
-    slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-    slider.SetUnitType(Units::eMillimeter);
-    slider.SetRange(0.0, 1000.0);
-    slider.SetValue(254.0);
-    QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
-    QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
-
-    slider.SetDeferUpdateForUnits(true);
-    // The number format is not among the changes the slider follows.
-    slider.SetNumberFormatId(units::kNumberFormatFractional);
-    slider.SetNumberFormatId(units::kNumberFormatDecimal);
-    QVERIFY(!slider.HaveDeferredUpdatesForUnits());
-    slider.SetDecimalPrecision(1);
-    slider.SetUnitSymbolType(units::kSymbolInch);
-    slider.SetDecimalSeparator(QStringLiteral(","));
-    QVERIFY(slider.HaveDeferredUpdatesForUnits());
-    QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
-    QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
-    QCOMPARE(slider.GetUnitSymbolLabel(), QString());
-    // Still deferring: the call only marks.
-    slider.UpdateForUnits();
-    QVERIFY(slider.HaveDeferredUpdatesForUnits());
-
-    slider.SetDeferUpdateForUnits(false);
-    slider.UpdateForUnits();
-    QVERIFY(!slider.HaveDeferredUpdatesForUnits());
-    QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("10,0"));
-    QCOMPARE(slider.GetSliderControl()->maximum(), 394);
-    QCOMPARE(slider.GetSliderControl()->value(), 100);
-    QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Inches"));
-}
-
-void tst_Slider::unitSymbolLabelShowsTheDisplayName()
-{
-    Slider slider;
-    QLabel* label = slider.findChild<QLabel*>();
-    QVERIFY(label);
-    slider.SetUnitType(Units::eMillimeter);
-    slider.SetUnitSymbolType(units::kSymbolMillimeter);
-    QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Millimeters"));
-    QVERIFY(!label->isVisibleTo(&slider));
-    slider.ShowUnitSymbolLabel(true);
-    QVERIFY(label->isVisibleTo(&slider));
-    slider.SetUnitSymbolLabel(QString());
-    QVERIFY(!label->isVisibleTo(&slider));
-    slider.SetUnitSymbolLabel(QStringLiteral("mm"));
-    QVERIFY(label->isVisibleTo(&slider));
-    slider.ShowUnitSymbolLabel(false);
-    QVERIFY(!label->isVisibleTo(&slider));
-}
-
-void tst_Slider::focusLossIsAnnounced()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    QSignalSpy focusOut(slider, &Slider::SliderFocusOut);
-    QLineEdit* other = slider->window()->findChild<QLineEdit*>(QStringLiteral("other"));
-    SliderControl* control = slider->GetSliderControl();
-    control->setFocus();
-    QTRY_VERIFY(control->hasFocus());
-    QTest::keyPress(control, Qt::Key_Up);
-    other->setFocus();
-    QTRY_COMPARE(focusOut.count(), 1);
-    QVERIFY(control->HeldInputs().isEmpty());
-    slider->GetNumericField()->setFocus();
-    QTRY_VERIFY(slider->GetNumericField()->hasFocus());
-    other->setFocus();
-    QTRY_COMPARE(focusOut.count(), 2);
-}
-
-void tst_Slider::displayTextIsPaintedOnTheGroove()
-{
-    Slider* slider = shownSlider();
-    QVERIFY(slider);
-    slider->SetNumFieldVisible(false);
-    SliderControl* control = slider->GetSliderControl();
-    slider->SetValue(0.0);
-    const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
-    const QImage before = Probe::Grab(control);
-    slider->SetDisplayText(QStringLiteral("Opacity"));
-    QCOMPARE(control->property("attributeTextTerm").toString(), QStringLiteral("Opacity"));
-    const QImage after = Probe::Grab(control);
-    QCOMPARE(after.size(), before.size());
-    // The text changes pixels around the groove's middle, and nowhere near the ends.
-    const qreal ratio = after.devicePixelRatio();
-    const QColor text = Probe::ThemeColor(ThemeFileKey::FontNormal1);
-    int changed = 0;
-    int nearText = 0;
-    for (int y = 0; y < after.height(); ++y) {
-        for (int x = 0; x < after.width(); ++x) {
-            if (after.pixel(x, y) == before.pixel(x, y))
-                continue;
-            ++changed;
-            QVERIFY(x / ratio > groove.left() + 5 && x / ratio < groove.right() - 5);
-            const QColor c = after.pixelColor(x, y);
-            if (qAbs(c.red() - text.red()) + qAbs(c.green() - text.green()) + qAbs(c.blue() - text.blue()) < 60)
-                ++nearText;
-        }
-    }
-    QVERIFY2(changed > 20, qPrintable(QString::number(changed)));
-    QVERIFY2(nearText > 5, qPrintable(QString::number(nearText)));
-}
 
 QTEST_MAIN(tst_Slider)
 #include "tst_slider.moc"

@@ -108,139 +108,133 @@ private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
     void cleanup() { QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light"))); }
 
-    void everyControlFollowsTheThemeOncePerSwitch_data();
-    void everyControlFollowsTheThemeOncePerSwitch();
-    void keysMissingFromTheThemeFallBackToTheEnabledLook();
-    void alternateLookAndCustomColours();
-    void paletteIsWrittenOnlyWhenTheColourDiffers();
+    void everyControlFollowsTheThemeOncePerSwitch_data()
+    {
+        QTest::addColumn<int>("control");
+        const QStringList names = {
+            "Label",        "TextLabel",     "CheckBox", "PushButton",          "ToolButton",          "RadioButton",
+            "ProgressBar",  "NumericField",  "LineEdit", "LineEdit (embedded)", "DoubleSpinBox field", "Slider field",
+            "Slider label", "SliderControl", "DropDown", "TextBox editor"};
+        QCOMPARE(names.size(), Controls().size());
+        for (int i = 0; i < names.size(); ++i)
+            QTest::newRow(qPrintable(names.at(i))) << i;
+    }
+
+    void everyControlFollowsTheThemeOncePerSwitch()
+    {
+        QFETCH(int, control);
+        const Control& row = Controls().at(control);
+        ThemeManager* themes = ThemeManager::GetInstance();
+
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        QWidget* part = row.make(&window);
+        QVERIFY(part);
+        for (QWidget* top = part; top && top != &window; top = top->parentWidget()) {
+            if (top->parentWidget() == &window)
+                layout->addWidget(top);
+        }
+        QVERIFY(Probe::Shown(&window));
+        ThemedColor* color = ThemedColor::Of(part);
+        QVERIFY(color);
+        QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
+
+        // A switch, with the global style sheet's repolish, writes the palette once.
+        int applied = color->GetApplyCount();
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
+        QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
+        QCOMPARE(color->GetApplyCount() - applied, 1);
+        // A host that sets its style sheet again repolishes every widget.
+        qApp->setStyleSheet(qApp->styleSheet());
+        QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
+
+        // Custom colours and keys survive the next switch.
+        QColor expected = Theme(ThemeFileKey::FontNormal1);
+        if (row.custom == Custom::TextColor) {
+            qobject_cast<LineEdit*>(part)->SetTextColor(Qt::red);
+            QCOMPARE(ShownText(part), QColor(Qt::red));
+        } else if (row.custom == Custom::ThemeKey) {
+            QVERIFY(part->setProperty("textColorThemeKey", ThemeFileKey::FontNormal3));
+            QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal3));
+        }
+        applied = color->GetApplyCount();
+        QVERIFY(themes->SetCurrentTheme(QStringLiteral("HIGLight")));
+        if (row.custom == Custom::TextColor)
+            expected = Qt::red;
+        else if (row.custom == Custom::ThemeKey)
+            expected = Theme(row.keyAfterSwitch);
+        else
+            expected = Theme(ThemeFileKey::FontNormal1);
+        QCOMPARE(ShownText(part), expected);
+        // A control that returns to its default key on a switch writes once more.
+        const bool keyReturns = row.custom == Custom::ThemeKey && row.keyAfterSwitch != ThemeFileKey::FontNormal3;
+        QVERIFY(color->GetApplyCount() - applied <= (keyReturns ? 2 : 1));
+
+        // Disabled, the text takes the disabled colour (the progress bar keeps its own).
+        window.setEnabled(false);
+        const QColor disabled = row.followsDisabledKey ? Theme(ThemeFileKey::FontColorDisabled) : expected;
+        QCOMPARE(part->palette().color(QPalette::Disabled, QPalette::Text), disabled);
+        QCOMPARE(color->GetColor(), disabled);
+        window.setEnabled(true);
+        // A label takes "FontNormal1" again when it is enabled, whatever its key was.
+        QCOMPARE(ShownText(part), qobject_cast<Label*>(part) ? Theme(ThemeFileKey::FontNormal1) : expected);
+    }
+
+    void keysMissingFromTheThemeFallBackToTheEnabledLook()
+    {
+        QLabel label;
+        ThemedColor color(&label, ThemeFileKey::FontNormal1, QStringLiteral("NoSuchDisabledKey"));
+        color.SetAlternateKey(QStringLiteral("NoSuchAlternateKey"));
+        color.SetAlternateActive(true);
+        QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
+        label.setEnabled(false);
+        QCOMPARE(color.GetColor(), Theme(ThemeFileKey::FontNormal1));
+        QCOMPARE(label.palette().color(QPalette::Disabled, QPalette::WindowText), Theme(ThemeFileKey::FontNormal1));
+    }
+
+    void alternateLookAndCustomColours()
+    {
+        QLabel label;
+        ThemedColor color(&label);
+        color.SetAlternateKey(ThemeFileKey::FontGroupHeader);
+        QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
+        color.SetAlternateActive(true);
+        QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontGroupHeader));
+        color.SetAlternateCustomColor(Qt::blue);
+        QCOMPARE(ShownText(&label), QColor(Qt::blue));
+        QCOMPARE(color.GetEnabledColor(false), Theme(ThemeFileKey::FontNormal1));
+        color.SetAlternateActive(false);
+        color.SetCustomColor(Qt::green);
+        QCOMPARE(ShownText(&label), QColor(Qt::green));
+        QVERIFY(!color.IsDefault());
+        // An invalid colour returns to the key.
+        color.SetCustomColor(QColor());
+        QVERIFY(color.IsDefault());
+        QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
+        // The disabled key wins over every custom colour.
+        color.SetCustomColor(Qt::green);
+        label.setEnabled(false);
+        QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontColorDisabled));
+    }
+
+    void paletteIsWrittenOnlyWhenTheColourDiffers()
+    {
+        QLabel label;
+        ThemedColor color(&label);
+        const int applied = color.GetApplyCount();
+        color.Apply();
+        color.SetKey(ThemeFileKey::FontNormal1);
+        QCOMPARE(color.GetApplyCount(), applied);
+        // A palette someone else wrote is not fought over until the next reaction.
+        QPalette palette = label.palette();
+        palette.setColor(QPalette::WindowText, Qt::magenta);
+        label.setPalette(palette);
+        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
+        color.Apply();
+        QCOMPARE(label.palette().color(QPalette::WindowText), Theme(ThemeFileKey::FontNormal1));
+        QCOMPARE(color.GetApplyCount(), applied + 1);
+    }
 };
-
-void tst_ThemedColor::everyControlFollowsTheThemeOncePerSwitch_data()
-{
-    QTest::addColumn<int>("control");
-    const QStringList names = {
-        "Label",        "TextLabel",     "CheckBox", "PushButton",          "ToolButton",          "RadioButton",
-        "ProgressBar",  "NumericField",  "LineEdit", "LineEdit (embedded)", "DoubleSpinBox field", "Slider field",
-        "Slider label", "SliderControl", "DropDown", "TextBox editor"};
-    QCOMPARE(names.size(), Controls().size());
-    for (int i = 0; i < names.size(); ++i)
-        QTest::newRow(qPrintable(names.at(i))) << i;
-}
-
-void tst_ThemedColor::everyControlFollowsTheThemeOncePerSwitch()
-{
-    QFETCH(int, control);
-    const Control& row = Controls().at(control);
-    ThemeManager* themes = ThemeManager::GetInstance();
-
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    QWidget* part = row.make(&window);
-    QVERIFY(part);
-    for (QWidget* top = part; top && top != &window; top = top->parentWidget()) {
-        if (top->parentWidget() == &window)
-            layout->addWidget(top);
-    }
-    QVERIFY(Probe::Shown(&window));
-    ThemedColor* color = ThemedColor::Of(part);
-    QVERIFY(color);
-    QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
-
-    // A switch, with the global style sheet's repolish, writes the palette once.
-    int applied = color->GetApplyCount();
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("Dark")));
-    QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
-    QCOMPARE(color->GetApplyCount() - applied, 1);
-    // A host that sets its style sheet again repolishes every widget.
-    qApp->setStyleSheet(qApp->styleSheet());
-    QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal1));
-
-    // Custom colours and keys survive the next switch.
-    QColor expected = Theme(ThemeFileKey::FontNormal1);
-    if (row.custom == Custom::TextColor) {
-        qobject_cast<LineEdit*>(part)->SetTextColor(Qt::red);
-        QCOMPARE(ShownText(part), QColor(Qt::red));
-    } else if (row.custom == Custom::ThemeKey) {
-        QVERIFY(part->setProperty("textColorThemeKey", ThemeFileKey::FontNormal3));
-        QCOMPARE(ShownText(part), Theme(ThemeFileKey::FontNormal3));
-    }
-    applied = color->GetApplyCount();
-    QVERIFY(themes->SetCurrentTheme(QStringLiteral("HIGLight")));
-    if (row.custom == Custom::TextColor)
-        expected = Qt::red;
-    else if (row.custom == Custom::ThemeKey)
-        expected = Theme(row.keyAfterSwitch);
-    else
-        expected = Theme(ThemeFileKey::FontNormal1);
-    QCOMPARE(ShownText(part), expected);
-    // A control that returns to its default key on a switch writes once more.
-    const bool keyReturns = row.custom == Custom::ThemeKey && row.keyAfterSwitch != ThemeFileKey::FontNormal3;
-    QVERIFY(color->GetApplyCount() - applied <= (keyReturns ? 2 : 1));
-
-    // Disabled, the text takes the disabled colour (the progress bar keeps its own).
-    window.setEnabled(false);
-    const QColor disabled = row.followsDisabledKey ? Theme(ThemeFileKey::FontColorDisabled) : expected;
-    QCOMPARE(part->palette().color(QPalette::Disabled, QPalette::Text), disabled);
-    QCOMPARE(color->GetColor(), disabled);
-    window.setEnabled(true);
-    // A label takes "FontNormal1" again when it is enabled, whatever its key was.
-    QCOMPARE(ShownText(part), qobject_cast<Label*>(part) ? Theme(ThemeFileKey::FontNormal1) : expected);
-}
-
-void tst_ThemedColor::keysMissingFromTheThemeFallBackToTheEnabledLook()
-{
-    QLabel label;
-    ThemedColor color(&label, ThemeFileKey::FontNormal1, QStringLiteral("NoSuchDisabledKey"));
-    color.SetAlternateKey(QStringLiteral("NoSuchAlternateKey"));
-    color.SetAlternateActive(true);
-    QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
-    label.setEnabled(false);
-    QCOMPARE(color.GetColor(), Theme(ThemeFileKey::FontNormal1));
-    QCOMPARE(label.palette().color(QPalette::Disabled, QPalette::WindowText), Theme(ThemeFileKey::FontNormal1));
-}
-
-void tst_ThemedColor::alternateLookAndCustomColours()
-{
-    QLabel label;
-    ThemedColor color(&label);
-    color.SetAlternateKey(ThemeFileKey::FontGroupHeader);
-    QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
-    color.SetAlternateActive(true);
-    QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontGroupHeader));
-    color.SetAlternateCustomColor(Qt::blue);
-    QCOMPARE(ShownText(&label), QColor(Qt::blue));
-    QCOMPARE(color.GetEnabledColor(false), Theme(ThemeFileKey::FontNormal1));
-    color.SetAlternateActive(false);
-    color.SetCustomColor(Qt::green);
-    QCOMPARE(ShownText(&label), QColor(Qt::green));
-    QVERIFY(!color.IsDefault());
-    // An invalid colour returns to the key.
-    color.SetCustomColor(QColor());
-    QVERIFY(color.IsDefault());
-    QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontNormal1));
-    // The disabled key wins over every custom colour.
-    color.SetCustomColor(Qt::green);
-    label.setEnabled(false);
-    QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontColorDisabled));
-}
-
-void tst_ThemedColor::paletteIsWrittenOnlyWhenTheColourDiffers()
-{
-    QLabel label;
-    ThemedColor color(&label);
-    const int applied = color.GetApplyCount();
-    color.Apply();
-    color.SetKey(ThemeFileKey::FontNormal1);
-    QCOMPARE(color.GetApplyCount(), applied);
-    // A palette someone else wrote is not fought over until the next reaction.
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, Qt::magenta);
-    label.setPalette(palette);
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
-    color.Apply();
-    QCOMPARE(label.palette().color(QPalette::WindowText), Theme(ThemeFileKey::FontNormal1));
-    QCOMPARE(color.GetApplyCount(), applied + 1);
-}
 
 QTEST_MAIN(tst_ThemedColor)
 #include "tst_themedcolor.moc"

@@ -1,3 +1,5 @@
+#include "../PaintProbe.h"
+
 #include <KvUICore/widgets/Widget.h>
 #include <KvUICore/widgets/WidgetImp.h>
 
@@ -11,10 +13,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
-
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
 
 using namespace Kavrel::UICore;
 
@@ -74,19 +72,6 @@ public:
     void Replace(void* imp) { SetImpObj(imp); }
 };
 
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeAll(const QString& path, const QByteArray& data)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(data);
-}
-
 QDomElement elementAt(const QDomDocument& document, const QStringList& tags)
 {
     QDomElement current = document.documentElement();
@@ -98,7 +83,7 @@ QDomElement elementAt(const QDomDocument& document, const QStringList& tags)
 QDomDocument parse(const QString& path)
 {
     QDomDocument document;
-    document.setContent(readAll(path));
+    document.setContent(Probe::ReadFile(path));
     return document;
 }
 
@@ -262,14 +247,12 @@ private Q_SLOTS:
     void attributes()
     {
         QFETCH(QString, xml);
-        QFETCH(int, intValue);
-        QFETCH(bool, boolValue);
         QDomDocument document;
         QVERIFY(document.setContent(xml));
         QDomElement element = document.documentElement();
         StateWidget imp;
-        QCOMPARE(imp.ReadInt(element, QStringLiteral("a"), 42), intValue);
-        QCOMPARE(imp.ReadBool(element, QStringLiteral("a"), true), boolValue);
+        QTEST(imp.ReadInt(element, QStringLiteral("a"), 42), "intValue");
+        QTEST(imp.ReadBool(element, QStringLiteral("a"), true), "boolValue");
     }
 
     void stateFileKeepsOtherWidgetsStates()
@@ -320,7 +303,7 @@ private Q_SLOTS:
         QDomDocument document = parse(path);
         elementAt(document, {QStringLiteral("A"), QStringLiteral("B")})
             .setAttribute(QStringLiteral("stale"), QStringLiteral("x"));
-        writeAll(path, document.toByteArray());
+        QVERIFY(Probe::WriteFile(path, document.toByteArray()));
 
         imp.msNote = QStringLiteral("second");
         QVERIFY(imp.SaveState(path, QStringLiteral("A/B")));
@@ -349,10 +332,10 @@ private Q_SLOTS:
         StateFile file;
         const QString& path = file.path;
         const QByteArray original = "<Root><Other value=\"7\"/></Root>\n";
-        writeAll(path, original);
+        QVERIFY(Probe::WriteFile(path, original));
         StateWidget imp;
         QVERIFY(!imp.SaveState(path, nodePath));
-        QCOMPARE(readAll(path), original);
+        QCOMPARE(Probe::ReadFile(path), original);
         QVERIFY(!imp.LoadState(path, nodePath));
 
         // A missing file is not created either.
@@ -392,23 +375,13 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QFETCH(QString, special);
-        QFETCH(bool, loads);
         QFETCH(bool, saves);
         StateFile file;
-        QString path = file.path;
-        if (special == QLatin1String("folder"))
-            QVERIFY(QDir().mkpath(path));
-        else if (special == QLatin1String("missing folder"))
-            path = file.dir.filePath(QStringLiteral("missing/state.xml"));
-#ifdef Q_OS_UNIX
-        else if (special == QLatin1String("fifo"))
-            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-#endif
-        else if (special.isEmpty())
-            writeAll(path, content);
+        const QString path = Probe::HostileFile(file.path, special, content);
+        QVERIFY(!path.isEmpty());
 
         StateWidget reader;
-        QCOMPARE(reader.LoadState(path, QStringLiteral("A")), loads);
+        QTEST(reader.LoadState(path, QStringLiteral("A")), "loads");
         StateWidget imp;
         imp.miValue = 9;
         QCOMPARE(imp.SaveState(path, QStringLiteral("A/B")), saves);
@@ -421,7 +394,7 @@ private Q_SLOTS:
                      QString::fromLatin1(content.contains("Other") ? "1" : ""));
         } else if (special.isEmpty()) {
             // A file that can't be read back is never replaced.
-            QCOMPARE(readAll(path), content);
+            QCOMPARE(Probe::ReadFile(path), content);
         }
     }
 

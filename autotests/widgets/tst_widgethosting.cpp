@@ -130,265 +130,252 @@ class tst_WidgetHosting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void embedsIntoForeignWindow();
-    void positionIsReportedInParentPixels();
-    void resizeScalesOnlyThePosition();
-    void resizeWithoutPositionIsUnscaled();
-    void wrapperIsDeletedLater();
-    void tabbingPastTheLastFieldHandsFocusToHost();
-    void noFocusedChildLeavesFocusToHost();
-    void parentWidgetForNativeHandle();
-    void hostWindowGoingFirstIsSurvived();
-    void handleOfNoWindowIsSurvived();
-    void messageBoxOverForeignWindow();
+    void initTestCase()
+    {
+        QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
+        ForeignWindow probe(10, 10);
+        QVERIFY2(probe.IsValid(), "no X server");
+    }
+
+    void embedsIntoForeignWindow()
+    {
+        ForeignWindow host(640, 480);
+        WidgetImp imp(host.Handle());
+        QVERIFY(imp.IsParentWindowsNativeWindow());
+        auto* wrapper = qobject_cast<Platform::WinWidget*>(imp.parentWidget());
+        QVERIFY(wrapper);
+        QVERIFY(wrapper->IsEmbedded());
+        QCOMPARE(wrapper->parentWindow(), host.Handle());
+        QCOMPARE(wrapper->windowTitle(), QStringLiteral("WinWidget"));
+        QVERIFY(wrapper->testAttribute(Qt::WA_AlwaysShowToolTips));
+        QCOMPARE(wrapper->layout()->indexOf(&imp), 0);
+        QCOMPARE(imp.GetWinId(), Platform::HandleFromWId(wrapper->winId()));
+
+        imp.Resize(0, 0, 200, 100);
+        imp.Show();
+        QVERIFY(imp.IsVisible());
+        QTRY_COMPARE(host.ParentOf(wrapper->winId()), host.Window());
+        // The content fills the wrapper.
+        QTRY_COMPARE(imp.geometry(), QRect(0, 0, 200, 100));
+    }
+
+    void positionIsReportedInParentPixels()
+    {
+        ForeignWindow host(640, 480);
+        WidgetImp imp(host.Handle());
+        imp.Show();
+        // Move is never scaled: the position is logical, reported in native pixels.
+        imp.Move(300, 150);
+        QCOMPARE(imp.parentWidget()->pos(), QPoint(300, 150));
+        QTRY_COMPARE(host.PositionOf(imp.parentWidget()->winId()), QPoint(scaled(300, Ratio()), scaled(150, Ratio())));
+        QCOMPARE(imp.GetX(), scaled(300, Ratio()));
+        QCOMPARE(imp.GetY(), scaled(150, Ratio()));
+    }
+
+    void resizeScalesOnlyThePosition()
+    {
+        ForeignWindow host(900, 700);
+        WidgetImp imp(host.Handle());
+        imp.Show();
+        QWidget* wrapper = imp.parentWidget();
+        wrapper->setGeometry(0, 0, 10, 10);
+        QRect geometryWhenSignalled;
+        QSignalSpy spy(&imp, &WidgetImp::Resizing);
+        connect(&imp, &WidgetImp::Resizing, this, [&] { geometryWhenSignalled = wrapper->geometry(); });
+
+        imp.Resize(300, 150, 400, 200);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0), (QVariantList{400, 200}));
+        QCOMPARE(geometryWhenSignalled, QRect(0, 0, 10, 10));
+
+        if (qFuzzyCompare(Ratio(), 1.5)) {
+            QCOMPARE(wrapper->geometry(), QRect(200, 100, 400, 200));
+        } else {
+            QCOMPARE(Ratio(), 1.0);
+            QCOMPARE(wrapper->geometry(), QRect(300, 150, 400, 200));
+        }
+        // The host sees its own numbers again.
+        QTRY_COMPARE(QPoint(imp.GetX(), imp.GetY()), QPoint(300, 150));
+        QCOMPARE(imp.GetWidth(), 400);
+        QCOMPARE(imp.GetHeight(), 200);
+        QTRY_COMPARE(host.SizeOf(wrapper->winId()), QSize(scaled(400, Ratio()), scaled(200, Ratio())));
+    }
+
+    void resizeWithoutPositionIsUnscaled()
+    {
+        ForeignWindow host(900, 700);
+        WidgetImp imp(host.Handle());
+        QSignalSpy spy(&imp, &WidgetImp::Resizing);
+        imp.Resize(333, 222);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(imp.parentWidget()->size(), QSize(333, 222));
+        QCOMPARE(imp.GetWidth(), 333);
+        imp.Show();
+        imp.Resize(111, 99);
+        QTRY_COMPARE(host.SizeOf(imp.parentWidget()->winId()), QSize(scaled(111, Ratio()), scaled(99, Ratio())));
+    }
+
+    void wrapperIsDeletedLater()
+    {
+        ForeignWindow host(300, 200);
+        auto* first = new WidgetImp(host.Handle());
+        QPointer<QWidget> firstWrapper(first->parentWidget());
+        first->Show();
+        delete first;
+        QVERIFY(!firstWrapper.isNull());
+        QTRY_VERIFY(firstWrapper.isNull());
+
+        // A new wrapper flushes the deletions still pending.
+        auto* second = new WidgetImp(host.Handle());
+        QPointer<QWidget> secondWrapper(second->parentWidget());
+        delete second;
+        QVERIFY(!secondWrapper.isNull());
+        WidgetImp third(host.Handle());
+        QVERIFY(secondWrapper.isNull());
+        // The host's window survives its guests.
+        host.Sync();
+        QCOMPARE(host.PositionOf(WId(host.Window())), QPoint(0, 0));
+    }
+
+    void tabbingPastTheLastFieldHandsFocusToHost()
+    {
+        ForeignWindow host(400, 300);
+        WidgetImp imp(host.Handle());
+        auto* layout = new QVBoxLayout(&imp);
+        auto* first = new QLineEdit(&imp);
+        auto* second = new QLineEdit(&imp);
+        layout->addWidget(first);
+        layout->addWidget(second);
+        imp.Resize(0, 0, 300, 120);
+        imp.Show();
+        QWidget* wrapper = imp.parentWidget();
+        QTRY_COMPARE(host.ParentOf(wrapper->winId()), host.Window());
+
+        // The host hands keyboard focus to the embedded window.
+        host.GiveFocusTo(wrapper->winId());
+        QTRY_VERIFY(wrapper->isActiveWindow());
+        first->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(first->hasFocus());
+
+        QTest::keyClick(first, Qt::Key_Tab);
+        QTRY_VERIFY(second->hasFocus());
+        QCOMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
+        QTest::keyClick(second, Qt::Key_Tab);
+        QTRY_COMPARE(host.FocusWindow(), host.Window());
+
+        // Backwards out of the first field as well.
+        host.GiveFocusTo(wrapper->winId());
+        QTRY_COMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
+        first->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(first->hasFocus());
+        QTest::keyClick(first, Qt::Key_Backtab, Qt::ShiftModifier);
+        QTRY_COMPARE(host.FocusWindow(), host.Window());
+        QVERIFY(!second->hasFocus());
+    }
+
+    void noFocusedChildLeavesFocusToHost()
+    {
+        ForeignWindow host(400, 300);
+        ProbeWinWidget wrapper(host.Handle());
+        auto* edit = new QLineEdit(&wrapper);
+        Q_UNUSED(edit);
+        QVERIFY(!wrapper.focusWidget());
+        QVERIFY(!wrapper.MoveFocus(true));
+        QVERIFY(!wrapper.MoveFocus(false));
+    }
+
+    void parentWidgetForNativeHandle()
+    {
+        QVERIFY(!Internal::ParentWidgetForNativeHandle(nullptr));
+
+        QWidget own;
+        QCOMPARE(Internal::ParentWidgetForNativeHandle(Platform::HandleFromWId(own.winId())), &own);
+
+        ForeignWindow host(600, 300);
+        QWidget* wrapper = Internal::ParentWidgetForNativeHandle(host.Handle());
+        auto* owner = qobject_cast<Platform::WinWidget*>(wrapper);
+        QVERIFY(owner);
+        QCOMPARE(owner->GetRole(), Platform::WinWidget::Role::DialogOwner);
+        QVERIFY(!wrapper->isVisible());
+        QVERIFY(!wrapper->internalWinId());
+        // Covering the host window on the screen, so dialogs centre on it.
+        QCOMPARE(wrapper->geometry(),
+                 QRect(qRound(20 / Ratio()), qRound(20 / Ratio()), qRound(600 / Ratio()), qRound(300 / Ratio())));
+        delete wrapper;
+    }
+
+    void hostWindowGoingFirstIsSurvived()
+    {
+        auto host = std::make_unique<ForeignWindow>(300, 200);
+        auto* imp = new WidgetImp(host->Handle());
+        QPointer<QWidget> wrapper(imp->parentWidget());
+        imp->Show();
+        QTRY_COMPARE(host->ParentOf(wrapper->winId()), host->Window());
+        // The server destroys the embedded window with the host's; Qt may report
+        // the stale window id, which is harmless.
+        host.reset();
+        QTest::qWait(50);
+        delete imp;
+        QTRY_VERIFY(wrapper.isNull());
+    }
+
+    void handleOfNoWindowIsSurvived()
+    {
+        // An id no window has: X reports errors, nothing else happens.
+        auto* imp = new WidgetImp(Platform::HandleFromWId(WId(0x7ffffff)));
+        QVERIFY(imp->IsParentWindowsNativeWindow());
+        imp->Resize(10, 10, 100, 50);
+        imp->GetX();
+        QCOMPARE(imp->GetWidth(), 100);
+        QPointer<QWidget> wrapper(imp->parentWidget());
+        delete imp;
+        QTRY_VERIFY(wrapper.isNull());
+    }
+
+    void messageBoxOverForeignWindow()
+    {
+        CoreUIManager::Initialize();
+        ForeignWindow host(700, 500);
+        QWidget* parent = nullptr;
+        QPoint boxCentre;
+        QWindow* transientParent = nullptr;
+        auto* timer = new QTimer(this);
+        timer->setInterval(10);
+        connect(timer, &QTimer::timeout, this, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            timer->stop();
+            parent = box->parentWidget();
+            transientParent = box->windowHandle()->transientParent();
+            boxCentre = box->frameGeometry().center();
+            box->button(QMessageBox::Ok)->click();
+        });
+        timer->start();
+        {
+            KvMessageBox box;
+            box.SetMainInstruction(L"Over a native window");
+            QCOMPARE(box.Show(host.Handle()), 1);
+        }
+        auto* owner = qobject_cast<Platform::WinWidget*>(parent);
+        QVERIFY(owner);
+        // Above the host's window, and centred on it (the host sits at 20, 20).
+        QVERIFY(transientParent);
+        QCOMPARE(transientParent, owner->ForeignParent());
+        QCOMPARE(transientParent->winId(), WId(host.Window()));
+        const QPoint hostCentre(qRound((20 + 350) / Ratio()), qRound((20 + 250) / Ratio()));
+        // QMessageBox settles its size after it was placed.
+        QVERIFY2((boxCentre - hostCentre).manhattanLength() < 80,
+                 qPrintable(QStringLiteral("%1,%2").arg(boxCentre.x()).arg(boxCentre.y())));
+        // The owner goes by itself once its box is gone.
+        QPointer<QWidget> guard(parent);
+        QTRY_VERIFY(guard.isNull());
+        CoreUIManager::Uninitialize();
+    }
 
 private:
     qreal Ratio() const { return qApp->devicePixelRatio(); }
 };
-
-void tst_WidgetHosting::initTestCase()
-{
-    QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
-    ForeignWindow probe(10, 10);
-    QVERIFY2(probe.IsValid(), "no X server");
-}
-
-void tst_WidgetHosting::embedsIntoForeignWindow()
-{
-    ForeignWindow host(640, 480);
-    WidgetImp imp(host.Handle());
-    QVERIFY(imp.IsParentWindowsNativeWindow());
-    auto* wrapper = qobject_cast<Platform::WinWidget*>(imp.parentWidget());
-    QVERIFY(wrapper);
-    QVERIFY(wrapper->IsEmbedded());
-    QCOMPARE(wrapper->parentWindow(), host.Handle());
-    QCOMPARE(wrapper->windowTitle(), QStringLiteral("WinWidget"));
-    QVERIFY(wrapper->testAttribute(Qt::WA_AlwaysShowToolTips));
-    QCOMPARE(wrapper->layout()->indexOf(&imp), 0);
-    QCOMPARE(imp.GetWinId(), Platform::HandleFromWId(wrapper->winId()));
-
-    imp.Resize(0, 0, 200, 100);
-    imp.Show();
-    QVERIFY(imp.IsVisible());
-    QTRY_COMPARE(host.ParentOf(wrapper->winId()), host.Window());
-    // The content fills the wrapper.
-    QTRY_COMPARE(imp.geometry(), QRect(0, 0, 200, 100));
-}
-
-void tst_WidgetHosting::positionIsReportedInParentPixels()
-{
-    ForeignWindow host(640, 480);
-    WidgetImp imp(host.Handle());
-    imp.Show();
-    // Move is never scaled: the position is logical, reported in native pixels.
-    imp.Move(300, 150);
-    QCOMPARE(imp.parentWidget()->pos(), QPoint(300, 150));
-    QTRY_COMPARE(host.PositionOf(imp.parentWidget()->winId()), QPoint(scaled(300, Ratio()), scaled(150, Ratio())));
-    QCOMPARE(imp.GetX(), scaled(300, Ratio()));
-    QCOMPARE(imp.GetY(), scaled(150, Ratio()));
-}
-
-void tst_WidgetHosting::resizeScalesOnlyThePosition()
-{
-    ForeignWindow host(900, 700);
-    WidgetImp imp(host.Handle());
-    imp.Show();
-    QWidget* wrapper = imp.parentWidget();
-    wrapper->setGeometry(0, 0, 10, 10);
-    QRect geometryWhenSignalled;
-    QSignalSpy spy(&imp, &WidgetImp::Resizing);
-    connect(&imp, &WidgetImp::Resizing, this, [&] { geometryWhenSignalled = wrapper->geometry(); });
-
-    imp.Resize(300, 150, 400, 200);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0), (QVariantList{400, 200}));
-    QCOMPARE(geometryWhenSignalled, QRect(0, 0, 10, 10));
-
-    if (qFuzzyCompare(Ratio(), 1.5)) {
-        QCOMPARE(wrapper->geometry(), QRect(200, 100, 400, 200));
-    } else {
-        QCOMPARE(Ratio(), 1.0);
-        QCOMPARE(wrapper->geometry(), QRect(300, 150, 400, 200));
-    }
-    // The host sees its own numbers again.
-    QTRY_COMPARE(QPoint(imp.GetX(), imp.GetY()), QPoint(300, 150));
-    QCOMPARE(imp.GetWidth(), 400);
-    QCOMPARE(imp.GetHeight(), 200);
-    QTRY_COMPARE(host.SizeOf(wrapper->winId()), QSize(scaled(400, Ratio()), scaled(200, Ratio())));
-}
-
-void tst_WidgetHosting::resizeWithoutPositionIsUnscaled()
-{
-    ForeignWindow host(900, 700);
-    WidgetImp imp(host.Handle());
-    QSignalSpy spy(&imp, &WidgetImp::Resizing);
-    imp.Resize(333, 222);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(imp.parentWidget()->size(), QSize(333, 222));
-    QCOMPARE(imp.GetWidth(), 333);
-    imp.Show();
-    imp.Resize(111, 99);
-    QTRY_COMPARE(host.SizeOf(imp.parentWidget()->winId()), QSize(scaled(111, Ratio()), scaled(99, Ratio())));
-}
-
-void tst_WidgetHosting::wrapperIsDeletedLater()
-{
-    ForeignWindow host(300, 200);
-    auto* first = new WidgetImp(host.Handle());
-    QPointer<QWidget> firstWrapper(first->parentWidget());
-    first->Show();
-    delete first;
-    QVERIFY(!firstWrapper.isNull());
-    QTRY_VERIFY(firstWrapper.isNull());
-
-    // A new wrapper flushes the deletions still pending.
-    auto* second = new WidgetImp(host.Handle());
-    QPointer<QWidget> secondWrapper(second->parentWidget());
-    delete second;
-    QVERIFY(!secondWrapper.isNull());
-    WidgetImp third(host.Handle());
-    QVERIFY(secondWrapper.isNull());
-    // The host's window survives its guests.
-    host.Sync();
-    QCOMPARE(host.PositionOf(WId(host.Window())), QPoint(0, 0));
-}
-
-void tst_WidgetHosting::tabbingPastTheLastFieldHandsFocusToHost()
-{
-    ForeignWindow host(400, 300);
-    WidgetImp imp(host.Handle());
-    auto* layout = new QVBoxLayout(&imp);
-    auto* first = new QLineEdit(&imp);
-    auto* second = new QLineEdit(&imp);
-    layout->addWidget(first);
-    layout->addWidget(second);
-    imp.Resize(0, 0, 300, 120);
-    imp.Show();
-    QWidget* wrapper = imp.parentWidget();
-    QTRY_COMPARE(host.ParentOf(wrapper->winId()), host.Window());
-
-    // The host hands keyboard focus to the embedded window.
-    host.GiveFocusTo(wrapper->winId());
-    QTRY_VERIFY(wrapper->isActiveWindow());
-    first->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(first->hasFocus());
-
-    QTest::keyClick(first, Qt::Key_Tab);
-    QTRY_VERIFY(second->hasFocus());
-    QCOMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
-    QTest::keyClick(second, Qt::Key_Tab);
-    QTRY_COMPARE(host.FocusWindow(), host.Window());
-
-    // Backwards out of the first field as well.
-    host.GiveFocusTo(wrapper->winId());
-    QTRY_COMPARE(host.FocusWindow(), xcb_window_t(wrapper->winId()));
-    first->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(first->hasFocus());
-    QTest::keyClick(first, Qt::Key_Backtab, Qt::ShiftModifier);
-    QTRY_COMPARE(host.FocusWindow(), host.Window());
-    QVERIFY(!second->hasFocus());
-}
-
-void tst_WidgetHosting::noFocusedChildLeavesFocusToHost()
-{
-    ForeignWindow host(400, 300);
-    ProbeWinWidget wrapper(host.Handle());
-    auto* edit = new QLineEdit(&wrapper);
-    Q_UNUSED(edit);
-    QVERIFY(!wrapper.focusWidget());
-    QVERIFY(!wrapper.MoveFocus(true));
-    QVERIFY(!wrapper.MoveFocus(false));
-}
-
-void tst_WidgetHosting::parentWidgetForNativeHandle()
-{
-    QVERIFY(!Internal::ParentWidgetForNativeHandle(nullptr));
-
-    QWidget own;
-    QCOMPARE(Internal::ParentWidgetForNativeHandle(Platform::HandleFromWId(own.winId())), &own);
-
-    ForeignWindow host(600, 300);
-    QWidget* wrapper = Internal::ParentWidgetForNativeHandle(host.Handle());
-    auto* owner = qobject_cast<Platform::WinWidget*>(wrapper);
-    QVERIFY(owner);
-    QCOMPARE(owner->GetRole(), Platform::WinWidget::Role::DialogOwner);
-    QVERIFY(!wrapper->isVisible());
-    QVERIFY(!wrapper->internalWinId());
-    // Covering the host window on the screen, so dialogs centre on it.
-    QCOMPARE(wrapper->geometry(),
-             QRect(qRound(20 / Ratio()), qRound(20 / Ratio()), qRound(600 / Ratio()), qRound(300 / Ratio())));
-    delete wrapper;
-}
-
-void tst_WidgetHosting::hostWindowGoingFirstIsSurvived()
-{
-    auto host = std::make_unique<ForeignWindow>(300, 200);
-    auto* imp = new WidgetImp(host->Handle());
-    QPointer<QWidget> wrapper(imp->parentWidget());
-    imp->Show();
-    QTRY_COMPARE(host->ParentOf(wrapper->winId()), host->Window());
-    // The server destroys the embedded window with the host's; Qt may report
-    // the stale window id, which is harmless.
-    host.reset();
-    QTest::qWait(50);
-    delete imp;
-    QTRY_VERIFY(wrapper.isNull());
-}
-
-void tst_WidgetHosting::handleOfNoWindowIsSurvived()
-{
-    // An id no window has: X reports errors, nothing else happens.
-    auto* imp = new WidgetImp(Platform::HandleFromWId(WId(0x7ffffff)));
-    QVERIFY(imp->IsParentWindowsNativeWindow());
-    imp->Resize(10, 10, 100, 50);
-    imp->GetX();
-    QCOMPARE(imp->GetWidth(), 100);
-    QPointer<QWidget> wrapper(imp->parentWidget());
-    delete imp;
-    QTRY_VERIFY(wrapper.isNull());
-}
-
-void tst_WidgetHosting::messageBoxOverForeignWindow()
-{
-    CoreUIManager::Initialize();
-    ForeignWindow host(700, 500);
-    QWidget* parent = nullptr;
-    QPoint boxCentre;
-    QWindow* transientParent = nullptr;
-    auto* timer = new QTimer(this);
-    timer->setInterval(10);
-    connect(timer, &QTimer::timeout, this, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible())
-            return;
-        timer->stop();
-        parent = box->parentWidget();
-        transientParent = box->windowHandle()->transientParent();
-        boxCentre = box->frameGeometry().center();
-        box->button(QMessageBox::Ok)->click();
-    });
-    timer->start();
-    {
-        KvMessageBox box;
-        box.SetMainInstruction(L"Over a native window");
-        QCOMPARE(box.Show(host.Handle()), 1);
-    }
-    auto* owner = qobject_cast<Platform::WinWidget*>(parent);
-    QVERIFY(owner);
-    // Above the host's window, and centred on it (the host sits at 20, 20).
-    QVERIFY(transientParent);
-    QCOMPARE(transientParent, owner->ForeignParent());
-    QCOMPARE(transientParent->winId(), WId(host.Window()));
-    const QPoint hostCentre(qRound((20 + 350) / Ratio()), qRound((20 + 250) / Ratio()));
-    // QMessageBox settles its size after it was placed.
-    QVERIFY2((boxCentre - hostCentre).manhattanLength() < 80,
-             qPrintable(QStringLiteral("%1,%2").arg(boxCentre.x()).arg(boxCentre.y())));
-    // The owner goes by itself once its box is gone.
-    QPointer<QWidget> guard(parent);
-    QTRY_VERIFY(guard.isNull());
-    CoreUIManager::Uninitialize();
-}
 
 QTEST_MAIN(tst_WidgetHosting)
 #include "tst_widgethosting.moc"

@@ -49,61 +49,58 @@ class tst_WidgetStateFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void concurrentSavesLoseNoState();
-};
-
-void tst_WidgetStateFile::initTestCase()
-{
-    const QString path = qEnvironmentVariable(kFileVariable);
-    if (!path.isEmpty())
-        runSaver(path, qEnvironmentVariable(kNameVariable));
-}
-
-void tst_WidgetStateFile::concurrentSavesLoseNoState()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("state.xml"));
+    void initTestCase()
     {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<Root><Other><Note>keep me</Note></Other></Root>\n");
-    }
-    const QStringList names = {QStringLiteral("a"), QStringLiteral("b")};
-    std::vector<std::unique_ptr<QProcess>> savers;
-    for (const QString& name : names) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QString::fromLatin1(kFileVariable), path);
-        environment.insert(QString::fromLatin1(kNameVariable), name);
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        auto saver = std::make_unique<QProcess>();
-        saver->setProcessEnvironment(environment);
-        saver->start(QCoreApplication::applicationFilePath(), {QStringLiteral("-silent")});
-        QVERIFY2(saver->waitForStarted(), qPrintable(saver->errorString()));
-        savers.push_back(std::move(saver));
-    }
-    for (const auto& saver : savers) {
-        QVERIFY(saver->waitForFinished(240000));
-        QCOMPARE(saver->exitStatus(), QProcess::NormalExit);
-        QCOMPARE(saver->exitCode(), 0);
+        const QString path = qEnvironmentVariable(kFileVariable);
+        if (!path.isEmpty())
+            runSaver(path, qEnvironmentVariable(kNameVariable));
     }
 
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QDomDocument document;
-    QVERIFY(document.setContent(&file));
-    const QDomElement root = document.documentElement();
-    QCOMPARE(root.firstChildElement(QStringLiteral("Other")).text(), QStringLiteral("keep me"));
-    const QDomElement runs = root.firstChildElement(QStringLiteral("Runs"));
-    for (const QString& name : names) {
-        for (int round = 1; round <= kRounds; ++round) {
-            const QDomElement element = runs.firstChildElement(QStringLiteral("%1%2").arg(name).arg(round));
-            QVERIFY2(!element.isNull(), qPrintable(QStringLiteral("lost %1%2").arg(name).arg(round)));
-            QCOMPARE(element.attribute(QStringLiteral("round")).toInt(), round);
+    void concurrentSavesLoseNoState()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("state.xml"));
+        {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("<Root><Other><Note>keep me</Note></Other></Root>\n");
         }
+        const QStringList names = {QStringLiteral("a"), QStringLiteral("b")};
+        std::vector<std::unique_ptr<QProcess>> savers;
+        for (const QString& name : names) {
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QString::fromLatin1(kFileVariable), path);
+            environment.insert(QString::fromLatin1(kNameVariable), name);
+            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+            auto saver = std::make_unique<QProcess>();
+            saver->setProcessEnvironment(environment);
+            saver->start(QCoreApplication::applicationFilePath(), {QStringLiteral("-silent")});
+            QVERIFY2(saver->waitForStarted(), qPrintable(saver->errorString()));
+            savers.push_back(std::move(saver));
+        }
+        for (const auto& saver : savers) {
+            QVERIFY(saver->waitForFinished(240000));
+            QCOMPARE(saver->exitStatus(), QProcess::NormalExit);
+            QCOMPARE(saver->exitCode(), 0);
+        }
+
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QDomDocument document;
+        QVERIFY(document.setContent(&file));
+        const QDomElement root = document.documentElement();
+        QCOMPARE(root.firstChildElement(QStringLiteral("Other")).text(), QStringLiteral("keep me"));
+        const QDomElement runs = root.firstChildElement(QStringLiteral("Runs"));
+        for (const QString& name : names) {
+            for (int round = 1; round <= kRounds; ++round) {
+                const QDomElement element = runs.firstChildElement(QStringLiteral("%1%2").arg(name).arg(round));
+                QVERIFY2(!element.isNull(), qPrintable(QStringLiteral("lost %1%2").arg(name).arg(round)));
+                QCOMPARE(element.attribute(QStringLiteral("round")).toInt(), round);
+            }
+        }
+        QVERIFY(!QFile::exists(path + QStringLiteral(".lock")));
     }
-    QVERIFY(!QFile::exists(path + QStringLiteral(".lock")));
-}
+};
 
 QTEST_MAIN(tst_WidgetStateFile)
 #include "tst_widgetstatefile.moc"
