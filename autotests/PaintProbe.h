@@ -8,6 +8,7 @@
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -112,18 +113,50 @@ template <class Test> int Count(const QImage& image, Test test)
     return count;
 }
 
+// Long enough for a sanitizer build sharing two cores; every wait ends as
+// soon as its state is reached.
+constexpr int kTimeoutMs = 30000;
+
 // Shows a widget and waits until it is on screen.
 inline bool Shown(QWidget* widget)
 {
     widget->show();
-    return QTest::qWaitForWindowExposed(widget);
+    return QTest::qWaitForWindowExposed(widget, kTimeoutMs);
 }
 
-// Gives a widget the focus and waits until it has it.
+// Shows the window and makes it the active one. Under load the platform may
+// confirm activation late or never; then the window is activated on Qt's
+// side, which is what focus handling looks at.
+inline bool ShowActive(QWidget* window)
+{
+    if (!Shown(window))
+        return false;
+    window->activateWindow();
+    window->raise();
+    if (QTest::qWaitForWindowActive(window, 3000))
+        return true;
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(window);
+    QT_WARNING_POP
+    return QTest::qWaitFor([window] { return QApplication::activeWindow() == window; }, kTimeoutMs);
+}
+
+// Gives a widget the focus, activating its window first when another window
+// took over meanwhile, and waits until it has it.
 inline bool Focus(QWidget* widget, Qt::FocusReason reason = Qt::OtherFocusReason)
 {
+    if (QApplication::activeWindow() != widget->window() && !ShowActive(widget->window()))
+        return false;
     widget->setFocus(reason);
-    return QTest::qWaitFor([widget] { return widget->hasFocus(); });
+    return QTest::qWaitFor([widget] { return widget->hasFocus(); }, kTimeoutMs);
+}
+
+// Takes the focus away from a widget and waits until it has gone.
+inline bool Unfocus(QWidget* widget)
+{
+    widget->clearFocus();
+    return QTest::qWaitFor([widget] { return !widget->hasFocus(); }, kTimeoutMs);
 }
 
 // Builds a control in an active window of the given size, above a line edit
@@ -140,11 +173,8 @@ template <class Control, class... Args> Control* ShownWithOther(QList<QWidget*>&
     other->setObjectName(QStringLiteral("other"));
     layout->addWidget(other);
     window->resize(size);
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
+    if (!ShowActive(window) || !Focus(other))
         return nullptr;
-    other->setFocus(Qt::OtherFocusReason);
     return control;
 }
 

@@ -1,5 +1,4 @@
 // test-options: SCALES 1.25 1.5 2 LABELS visual
-#include "../FocusSupport.h"
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -88,7 +87,7 @@ DropDown* tst_DropDown::shownDropDown()
     layout->addStretch();
     // Room for the menus on either side, also on the small screen of a scaled run.
     window->setGeometry(150, 20, 220, 120);
-    if (!Focus::ShowActive(window) || !Focus::Give(dropDown))
+    if (!Probe::ShowActive(window) || !Probe::Focus(dropDown))
         return nullptr;
     return dropDown;
 }
@@ -407,7 +406,7 @@ void tst_DropDown::choosingFromTheMenu()
         QTest::keyClick(dropDown, Qt::Key_Down);
     QTRY_VERIFY_WITH_TIMEOUT(order.contains(QStringLiteral("triggered")) ||
                                  order.contains(QStringLiteral("triggered another")),
-                             Focus::kTimeoutMs);
+                             Probe::kTimeoutMs);
     // The menu opens on the current item; a change is announced before the trigger.
     QCOMPARE(active, dropDown->GetActions().at(0));
     QStringList expectedOrder{QStringLiteral("triggered")};
@@ -417,11 +416,11 @@ void tst_DropDown::choosingFromTheMenu()
     QCOMPARE(dropDown->GetCurrentIndex(), chosen);
     QCOMPARE(dropDown->text(), label);
     QCOMPARE(aboutToShow.count(), 1);
-    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Focus::kTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Probe::kTimeoutMs);
     // Giving the window back its activation after a popup is the platform's
     // part, late on a busy machine; the drop-down's part is to be the
     // window's focus widget again.
-    QTRY_COMPARE_WITH_TIMEOUT(dropDown->window()->focusWidget(), dropDown, Focus::kTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(dropDown->window()->focusWidget(), dropDown, Probe::kTimeoutMs);
     QVERIFY(!dropDown->isDown());
     if (checkable)
         QVERIFY(expected->isChecked() && dropDown->GetActions().at(0)->isChecked());
@@ -456,7 +455,7 @@ void tst_DropDown::menuOpensAlignedToTheButton()
         QTest::keyClick(menu, Qt::Key_Escape);
     });
     QTest::keyClick(dropDown, Qt::Key_Down);
-    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Focus::kTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Probe::kTimeoutMs);
     QVERIFY(geometry.isValid());
     const QPoint bottomLeft = dropDown->mapToGlobal(QPoint(0, dropDown->height()));
     QCOMPARE(geometry.top(), bottomLeft.y());
@@ -498,10 +497,10 @@ void tst_DropDown::deletingFromTriggeredSlotWhileMenuOpen()
         QTest::mousePress(shown, Qt::LeftButton, Qt::NoModifier, shown->rect().center());
     else
         QTest::keyClick(shown, Qt::Key_Down);
-    QTRY_VERIFY_WITH_TIMEOUT(dropDown.isNull(), Focus::kTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(dropDown.isNull(), Probe::kTimeoutMs);
     QCOMPARE(triggered, 1);
     // The menu goes once control is back in the event loop.
-    QTRY_VERIFY_WITH_TIMEOUT(menu.isNull(), Focus::kTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(menu.isNull(), Probe::kTimeoutMs);
     QVERIFY(!QApplication::activePopupWidget());
 }
 
@@ -533,7 +532,7 @@ void tst_DropDown::paintsButtonAndMenuFromTheme()
     QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
     DropDown* dropDown = shownDropDown();
     QVERIFY(dropDown);
-    QVERIFY(Focus::Take(dropDown));
+    QVERIFY(Probe::Unfocus(dropDown));
     dropDown->AddItem(0, QStringLiteral("Header"));
     dropDown->SetItemType(DropDown::GroupLabelItem, 0);
     dropDown->AddItem(1, QStringLiteral("First"));

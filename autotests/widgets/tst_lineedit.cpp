@@ -1,4 +1,3 @@
-#include "../FocusSupport.h"
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
@@ -35,7 +34,7 @@ private Q_SLOTS:
 
 private:
     LineEdit* shownLineEdit();
-    static bool focus(LineEdit* edit) { return Focus::Give(edit, Qt::TabFocusReason); }
+    static bool focus(LineEdit* edit) { return Probe::Focus(edit, Qt::TabFocusReason); }
     QList<QWidget*> mWidgets;
 };
 
@@ -56,7 +55,7 @@ LineEdit* tst_LineEdit::shownLineEdit()
     auto* other = new QLineEdit(window);
     layout->addWidget(other);
     window->resize(160, 80);
-    if (!Focus::ShowActive(window) || !Focus::Give(other))
+    if (!Probe::ShowActive(window) || !Probe::Focus(other))
         return nullptr;
     return edit;
 }
@@ -88,7 +87,7 @@ void tst_LineEdit::promptingShowsInItalicsWhileEmptyAndUnfocused()
     QCOMPARE(edit->text(), QString());
     QVERIFY(!edit->font().italic());
 
-    QVERIFY(Focus::Take(edit));
+    QVERIFY(Probe::Unfocus(edit));
     QTRY_VERIFY(edit->IsPrompting());
 
     // Text set by code ends the prompting and announces the full text once.
@@ -131,7 +130,7 @@ void tst_LineEdit::longTextIsElidedUntilFocused()
 
     QVERIFY(focus(edit));
     QTRY_COMPARE(edit->text(), longText);
-    QVERIFY(Focus::Take(edit));
+    QVERIFY(Probe::Unfocus(edit));
     QTRY_VERIFY(edit->text() != longText);
 
     // Wide enough: shown whole.
@@ -147,9 +146,9 @@ void tst_LineEdit::firstClickSelectsAllOnlyOnce()
     // A click focuses the edit only in the active window; another window may
     // have been activated meanwhile on a busy machine.
     const auto click = [edit] {
-        QVERIFY(Focus::ShowActive(edit->window()));
+        QVERIFY(Probe::ShowActive(edit->window()));
         QTest::mouseClick(edit, Qt::LeftButton, {}, QPoint(5, edit->height() / 2));
-        QTRY_VERIFY_WITH_TIMEOUT(edit->hasFocus(), Focus::kTimeoutMs);
+        QTRY_VERIFY_WITH_TIMEOUT(edit->hasFocus(), Probe::kTimeoutMs);
     };
     click();
     QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
@@ -158,11 +157,11 @@ void tst_LineEdit::firstClickSelectsAllOnlyOnce()
     QCOMPARE(edit->selectedText(), QString());
 
     // Leaving forgets it.
-    QVERIFY(Focus::Take(edit));
+    QVERIFY(Probe::Unfocus(edit));
     click();
     QCOMPARE(edit->selectedText(), QStringLiteral("select me"));
 
-    QVERIFY(Focus::Take(edit));
+    QVERIFY(Probe::Unfocus(edit));
     edit->AllowFocusInSelectAll(false);
     click();
     QCOMPARE(edit->selectedText(), QString());
@@ -244,7 +243,7 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     timer.start();
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(3, 3), edit->mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(edit, &event);
-    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Focus::kTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), Probe::kTimeoutMs);
 
     const QColor background = Probe::ThemeColor(ThemeFileKey::MenuBuiltInBackgroundColor1);
     const QColor border = Probe::ThemeColor(ThemeFileKey::MenuBuiltInBorderColor1);
@@ -259,8 +258,8 @@ void tst_LineEdit::contextMenuFollowsTheThemeAndKeepsTheSelection()
     // Opening the menu took the focus for a moment; the selection is still
     // there. (The window's activation comes back through the platform, which
     // may be late on a busy machine.)
-    QVERIFY(Focus::ShowActive(edit->window()));
-    QTRY_VERIFY_WITH_TIMEOUT(edit->hasFocus(), Focus::kTimeoutMs);
+    QVERIFY(Probe::ShowActive(edit->window()));
+    QTRY_VERIFY_WITH_TIMEOUT(edit->hasFocus(), Probe::kTimeoutMs);
     QCOMPARE(edit->selectedText(), QStringLiteral("keep me selected"));
 }
 

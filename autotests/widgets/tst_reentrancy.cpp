@@ -3,7 +3,6 @@
 // signals, driven by real mouse and key events, and being deleted while it
 // has the focus. Under the sanitizer build a control that touches itself
 // after such an emit fails here.
-#include "../FocusSupport.h"
 #include "../PaintProbe.h"
 
 #include <KvUICore/widgets/CheckBox.h>
@@ -191,7 +190,7 @@ void tst_Reentrancy::controlDeletedFromItsOwnSignal()
     auto* other = new QLineEdit(&window);
     layout->addWidget(other);
     window.resize(320, 160);
-    QVERIFY(Focus::ShowActive(&window));
+    QVERIFY(Probe::ShowActive(&window));
 
     Deleter deleter;
     deleter.mpTarget = made;
@@ -231,22 +230,22 @@ void tst_Reentrancy::controlDeletedFromItsOwnSignal()
     case Input::SpaceOnCheckBox: {
         auto* box = target->findChild<QCheckBox*>();
         QVERIFY(box);
-        QVERIFY(Focus::Give(box));
+        QVERIFY(Probe::Focus(box));
         QTest::keyClick(box, Qt::Key_Space);
         break;
     }
     case Input::TypeReturn:
     case Input::TypeLeave:
-        QVERIFY(Focus::Give(target, Qt::TabFocusReason));
+        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
         key(Qt::Key_1);
         key(Qt::Key_2);
         if (input == Input::TypeReturn)
             key(Qt::Key_Return);
         else if (alive)
-            QVERIFY(Focus::Give(other, Qt::TabFocusReason));
+            QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
         break;
     case Input::KeyRight:
-        QVERIFY(Focus::Give(target, Qt::TabFocusReason));
+        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
         key(Qt::Key_Right);
         break;
     case Input::Drag:
@@ -254,7 +253,7 @@ void tst_Reentrancy::controlDeletedFromItsOwnSignal()
         const QPoint start = target->rect().center();
         QTest::mousePress(target, Qt::LeftButton, {}, start);
         if (input == Input::DragEscape) {
-            QVERIFY(Focus::Give(target, Qt::MouseFocusReason));
+            QVERIFY(Probe::Focus(target, Qt::MouseFocusReason));
             key(Qt::Key_Escape);
             break;
         }
@@ -270,7 +269,7 @@ void tst_Reentrancy::controlDeletedFromItsOwnSignal()
         break;
     }
     case Input::Focus:
-        QVERIFY(Focus::Give(target, Qt::TabFocusReason));
+        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
         delete made;
         break;
     }
@@ -279,7 +278,7 @@ void tst_Reentrancy::controlDeletedFromItsOwnSignal()
     if (!signal.isEmpty())
         QCOMPARE(deleter.miCalls, 1);
     // The window goes on working after the control has gone.
-    QVERIFY(Focus::Give(other, Qt::TabFocusReason));
+    QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
     QTest::keyClick(other, Qt::Key_A);
     QCOMPARE(other->text(), QStringLiteral("a"));
 }
