@@ -66,12 +66,23 @@ public:
     QSize mLaidOutSize;
     qint64 miLaidOutIcon = 0;
 
-    // The text cut to the text rectangle and laid out once.
+    // The width the text is painted in. Beside an icon the text rectangle
+    // ends at the preferred block's edge, a little short of the text itself
+    // (the tool tip rule measures against it); painting may use the room up
+    // to the button's own edge, so a button that has the room shows its text.
+    int PaintedTextWidth() const
+    {
+        if (miLayoutKind != kIconAndTextLayout)
+            return mTextRect.width();
+        return std::max(mTextRect.width(), mpOwner->rect().right() - mTextRect.left() + 1);
+    }
+
+    // The text cut to the width it is painted in and laid out once.
     const QStaticText& ShownText()
     {
         const QString text = mpOwner->text();
         const QFont font = mpOwner->font();
-        const int width = mTextRect.width();
+        const int width = PaintedTextWidth();
         if (width != miShownWidth || text != msShownSource || font != mShownFont) {
             msShownSource = text;
             miShownWidth = width;
