@@ -496,21 +496,20 @@ private Q_SLOTS:
 
     void editorDeletedFromHandlers_data()
     {
-        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<QMetaMethod>("signal");
         QTest::addColumn<bool>("byEdit");
-
-        QTest::newRow("BindingModified, source change") << QByteArray(SIGNAL(BindingModified())) << false;
-        QTest::newRow("AttributeChanged, source change") << QByteArray(SIGNAL(AttributeChanged(QString))) << false;
-        QTest::newRow("AttributesChanged, source change") << QByteArray(SIGNAL(AttributesChanged())) << false;
-        QTest::newRow("AttributeChanged, edit") << QByteArray(SIGNAL(AttributeChanged(QString))) << true;
-        QTest::newRow("ValueChanged, edit") << QByteArray(SIGNAL(ValueChanged())) << true;
-        QTest::newRow("PropertyModified, edit")
-            << QByteArray(SIGNAL(PropertyModified(PropertyEditorElement*, QString))) << true;
+        using E = PropertyEditorElement;
+        QTest::newRow("BindingModified, source change") << QMetaMethod::fromSignal(&E::BindingModified) << false;
+        QTest::newRow("AttributeChanged, source change") << QMetaMethod::fromSignal(&E::AttributeChanged) << false;
+        QTest::newRow("AttributesChanged, source change") << QMetaMethod::fromSignal(&E::AttributesChanged) << false;
+        QTest::newRow("AttributeChanged, edit") << QMetaMethod::fromSignal(&E::AttributeChanged) << true;
+        QTest::newRow("ValueChanged, edit") << QMetaMethod::fromSignal(&E::ValueChanged) << true;
+        QTest::newRow("PropertyModified, edit") << QMetaMethod::fromSignal(&PropertyEditor::PropertyModified) << true;
     }
 
     void editorDeletedFromHandlers()
     {
-        QFETCH(QByteArray, signal);
+        QFETCH(QMetaMethod, signal);
         QFETCH(bool, byEdit);
 
         QPointer<PropertyEditor> editor = new PropertyEditor();
@@ -518,9 +517,11 @@ private Q_SLOTS:
             "<CheckBoxElement Id=\"source\"/><CheckBoxElement Id=\"c\" IsChecked=\"Binding(source.IsChecked)\"/>"))));
         Build(*editor);
         auto* element = Find<CheckBoxElement>(*editor, "c");
-        QObject* sender = signal.contains("PropertyModified") ? static_cast<QObject*>(editor.data()) : element;
+        const bool fromEditor = signal.enclosingMetaObject() == &PropertyEditor::staticMetaObject;
+        QObject* sender = fromEditor ? static_cast<QObject*>(editor.data()) : element;
         Deleter deleter(editor);
-        QVERIFY(connect(sender, signal.constData(), &deleter, SLOT(DeleteEditor())));
+        const QMetaObject* deleterType = deleter.metaObject();
+        QVERIFY(connect(sender, signal, &deleter, deleterType->method(deleterType->indexOfSlot("DeleteEditor()"))));
         if (byEdit) {
             auto* box = qobject_cast<QCheckBox*>(element->GetWidget());
             box->blockSignals(true);
