@@ -788,8 +788,7 @@ private Q_SLOTS:
 
         // A load into the shown page builds its new widgets while the page is
         // hidden; the page shows again with them, and the focus stays.
-        editor.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        QVERIFY(Probe::ShowActive(&editor));
         QWidget* focused = Find(editor, "t0")->GetWidget();
         focused->setFocus();
         QTRY_VERIFY(focused->hasFocus() || focused->isAncestorOf(QApplication::focusWidget()));
@@ -889,8 +888,7 @@ private Q_SLOTS:
             PropertyEditor editor;
             editor.resize(500, 300);
             QVERIFY(editor.LoadUIFile(fileName, QString(), QString()));
-            editor.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&editor));
+            QVERIFY(Probe::Shown(&editor));
             QTRY_VERIFY(editor.GetPage()->GetWidget());
             auto* group = Find<GroupElement>(editor, "g");
             QWidget* gridWidget = group->GetGridLayout()->parentWidget();

@@ -646,9 +646,7 @@ private Q_SLOTS:
         if (declaration.startsWith(QLatin1String("x-")))
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Unsupported encoding")));
         QVERIFY(filer.Save(path));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = Probe::ReadFile(path);
         QVERIFY2(bytes.contains(expectedBytes), bytes.constData());
         const QRegularExpression encoding(QStringLiteral("^<\\?xml [^>]*encoding=[\"']%1[\"']").arg(expectedEncoding));
         QVERIFY2(encoding.match(QString::fromLatin1(bytes)).hasMatch(), bytes.constData());
@@ -760,9 +758,7 @@ private Q_SLOTS:
             QVERIFY(filer.WriteInt(QStringLiteral("changed"), 1));
             QVERIFY(!filer.Save());
         }
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), original);
+        QCOMPARE(Probe::ReadFile(path), original);
 #endif
     }
 
@@ -849,9 +845,7 @@ private Q_SLOTS:
         if (!updatable) {
             // Refused files are never written over.
             QVERIFY(updater.SaveIfModified());
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QVERIFY(file.readAll() == content);
+            QCOMPARE(Probe::ReadFile(path), content);
             return;
         }
         // What opens saves, and reads back as it was.
@@ -899,9 +893,7 @@ private Q_SLOTS:
         Diagnostics diagnostics;
         QVERIFY(!filer.Save());
         QVERIFY(diagnostics.Contains(path, QStringLiteral("Failed to save")));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), original);
+        QCOMPARE(Probe::ReadFile(path), original);
     }
 
     void twoFilersKeepEachOthersChanges()

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <memory>
+
 using namespace Kavrel::UICore;
 
 class tst_ColorWheel : public QObject
@@ -17,6 +19,11 @@ class tst_ColorWheel : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init()
+    {
+        mWheel = std::make_unique<ColorWheel>();
+        mWheel->resize(200, 200);
+    }
 
     void colourSetComesBackUnchanged_data()
     {
@@ -30,50 +37,44 @@ private Q_SLOTS:
     void colourSetComesBackUnchanged()
     {
         QFETCH(QColor, color);
-        ColorWheel wheel;
-        QSignalSpy changed(&wheel, &ColorWheel::ColorChanged);
-        wheel.SetColor(color);
-        QCOMPARE(wheel.GetColor(), color);
+        QSignalSpy changed(mWheel.get(), &ColorWheel::ColorChanged);
+        mWheel->SetColor(color);
+        QCOMPARE(mWheel->GetColor(), color);
         QCOMPARE(changed.count(), 0);
     }
 
     void greyKeepsTheHueOnTheRing()
     {
-        ColorWheel wheel;
-        wheel.SetHsv(200.0, 0.5, 0.5);
-        wheel.SetColor(QColor(90, 90, 90));
-        QCOMPARE(wheel.GetHue(), 200.0);
+        mWheel->SetHsv(200.0, 0.5, 0.5);
+        mWheel->SetColor(QColor(90, 90, 90));
+        QCOMPARE(mWheel->GetHue(), 200.0);
     }
 
     void dragChangesThenCommitsOnRelease()
     {
-        ColorWheel wheel;
-        wheel.resize(200, 200);
-        wheel.SetHsv(0.0, 0.0, 0.0);
-        QSignalSpy changed(&wheel, &ColorWheel::ColorChanged);
-        QSignalSpy committed(&wheel, &ColorWheel::ColorCommitted);
-        const QPoint start = wheel.PointForSaturationValue(0.2, 0.2).toPoint();
-        const QPoint end = wheel.PointForSaturationValue(1.0, 1.0).toPoint() + QPoint(30, -30);
-        QTest::mousePress(&wheel, Qt::LeftButton, {}, start);
-        QMouseEvent move(QEvent::MouseMove, QPointF(end), wheel.mapToGlobal(QPointF(end)), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(&wheel, &move);
+        mWheel->SetHsv(0.0, 0.0, 0.0);
+        QSignalSpy changed(mWheel.get(), &ColorWheel::ColorChanged);
+        QSignalSpy committed(mWheel.get(), &ColorWheel::ColorCommitted);
+        const QPoint start = mWheel->PointForSaturationValue(0.2, 0.2).toPoint();
+        const QPoint end = mWheel->PointForSaturationValue(1.0, 1.0).toPoint() + QPoint(30, -30);
+        QTest::mousePress(mWheel.get(), Qt::LeftButton, {}, start);
+        QMouseEvent move(QEvent::MouseMove, QPointF(end), mWheel->mapToGlobal(QPointF(end)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(mWheel.get(), &move);
         QVERIFY(changed.count() >= 2);
         QCOMPARE(committed.count(), 0);
-        QTest::mouseRelease(&wheel, Qt::LeftButton, {}, end);
+        QTest::mouseRelease(mWheel.get(), Qt::LeftButton, {}, end);
         QCOMPARE(committed.count(), 1);
         // Beyond the square's corner the marker stays on it: pure red.
-        QCOMPARE(wheel.GetColor(), QColor(255, 0, 0));
+        QCOMPARE(mWheel->GetColor(), QColor(255, 0, 0));
         QCOMPARE(committed.first().first().value<QColor>(), QColor(255, 0, 0));
     }
 
     void ringPressPicksHue()
     {
-        ColorWheel wheel;
-        wheel.resize(200, 200);
-        wheel.SetHsv(0.0, 1.0, 1.0);
-        QTest::mouseClick(&wheel, Qt::LeftButton, {}, wheel.PointForHue(120.0).toPoint());
-        QVERIFY(std::abs(wheel.GetHue() - 120.0) < 1.0);
+        mWheel->SetHsv(0.0, 1.0, 1.0);
+        QTest::mouseClick(mWheel.get(), Qt::LeftButton, {}, mWheel->PointForHue(120.0).toPoint());
+        QVERIFY(std::abs(mWheel->GetHue() - 120.0) < 1.0);
     }
 
     void keys_data()
@@ -101,60 +102,53 @@ private Q_SLOTS:
         QFETCH(double, hue);
         QFETCH(double, saturation);
         QFETCH(double, value);
-        ColorWheel wheel;
-        wheel.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        wheel.SetHsv(100.0, 0.5, 0.5);
-        QSignalSpy changed(&wheel, &ColorWheel::ColorChanged);
-        QSignalSpy committed(&wheel, &ColorWheel::ColorCommitted);
-        QTest::keyClick(&wheel, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-        QVERIFY(qFuzzyCompare(wheel.GetHue(), hue));
-        QVERIFY(qFuzzyCompare(wheel.GetSaturation(), saturation));
-        QVERIFY(qFuzzyCompare(wheel.GetValue(), value));
+        mWheel->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        mWheel->SetHsv(100.0, 0.5, 0.5);
+        QSignalSpy changed(mWheel.get(), &ColorWheel::ColorChanged);
+        QSignalSpy committed(mWheel.get(), &ColorWheel::ColorCommitted);
+        QTest::keyClick(mWheel.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        QVERIFY(qFuzzyCompare(mWheel->GetHue(), hue));
+        QVERIFY(qFuzzyCompare(mWheel->GetSaturation(), saturation));
+        QVERIFY(qFuzzyCompare(mWheel->GetValue(), value));
         QCOMPARE(changed.count(), 1);
         QCOMPARE(committed.count(), 1);
     }
 
     void rightToLeftMirrorsTheSquare()
     {
-        ColorWheel wheel;
-        wheel.resize(200, 200);
-        const qreal ltr = wheel.PointForSaturationValue(1.0, 1.0).x();
-        wheel.setLayoutDirection(Qt::RightToLeft);
-        QVERIFY(wheel.PointForSaturationValue(1.0, 1.0).x() < ltr);
-        QCOMPARE(wheel.PointForSaturationValue(1.0, 1.0).x(), wheel.SquareRect().left());
+        const qreal ltr = mWheel->PointForSaturationValue(1.0, 1.0).x();
+        mWheel->setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(mWheel->PointForSaturationValue(1.0, 1.0).x() < ltr);
+        QCOMPARE(mWheel->PointForSaturationValue(1.0, 1.0).x(), mWheel->SquareRect().left());
     }
 
     void imagesRenderOnlyWhenNeeded()
     {
-        ColorWheel wheel;
-        wheel.resize(200, 200);
-        wheel.SetHsv(10.0, 0.5, 0.5);
-        wheel.grab();
-        QCOMPARE(wheel.GetRingRenderCount(), 1);
-        QCOMPARE(wheel.GetSquareRenderCount(), 1);
-        wheel.SetHsv(10.0, 0.9, 0.2);
-        wheel.grab();
-        QCOMPARE(wheel.GetSquareRenderCount(), 1);
-        wheel.SetHsv(50.0, 0.9, 0.2);
-        wheel.grab();
-        QCOMPARE(wheel.GetRingRenderCount(), 1);
-        QCOMPARE(wheel.GetSquareRenderCount(), 2);
-        wheel.resize(240, 240);
-        wheel.grab();
-        QCOMPARE(wheel.GetRingRenderCount(), 2);
-        QCOMPARE(wheel.GetSquareRenderCount(), 3);
+        mWheel->SetHsv(10.0, 0.5, 0.5);
+        mWheel->grab();
+        QCOMPARE(mWheel->GetRingRenderCount(), 1);
+        QCOMPARE(mWheel->GetSquareRenderCount(), 1);
+        mWheel->SetHsv(10.0, 0.9, 0.2);
+        mWheel->grab();
+        QCOMPARE(mWheel->GetSquareRenderCount(), 1);
+        mWheel->SetHsv(50.0, 0.9, 0.2);
+        mWheel->grab();
+        QCOMPARE(mWheel->GetRingRenderCount(), 1);
+        QCOMPARE(mWheel->GetSquareRenderCount(), 2);
+        mWheel->resize(240, 240);
+        mWheel->grab();
+        QCOMPARE(mWheel->GetRingRenderCount(), 2);
+        QCOMPARE(mWheel->GetSquareRenderCount(), 3);
     }
 
     void paintsHueAndSquareCrisply()
     {
-        ColorWheel wheel;
-        wheel.resize(200, 200);
-        wheel.SetHsv(240.0, 0.0, 1.0);
-        const QImage image = Probe::Grab(&wheel);
+        mWheel->SetHsv(240.0, 0.0, 1.0);
+        const QImage image = Probe::Grab(mWheel.get());
         // The ring at hue 60 (away from the marker) is yellow.
-        QVERIFY(Probe::Near(Probe::PixelAt(image, wheel.PointForHue(60.0).toPoint()), QColor(255, 255, 0), 6));
+        QVERIFY(Probe::Near(Probe::PixelAt(image, mWheel->PointForHue(60.0).toPoint()), QColor(255, 255, 0), 6));
         // The square's top-right corner is the pure hue, its bottom black, at any scale.
-        const QRectF square = wheel.SquareRect();
+        const QRectF square = mWheel->SquareRect();
         const QPoint topRight = (square.topRight() + QPointF(-2, 2)).toPoint();
         QVERIFY(Probe::Near(Probe::PixelAt(image, topRight), QColor(0, 0, 255), 12));
         QVERIFY(
@@ -163,17 +157,19 @@ private Q_SLOTS:
 
     void accessibleValueIsTheHue()
     {
-        ColorWheel wheel;
-        wheel.SetColor(QColor(255, 0, 0));
-        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&wheel);
+        mWheel->SetColor(QColor(255, 0, 0));
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(mWheel.get());
         QVERIFY(iface);
         QCOMPARE(iface->role(), QAccessible::ColorChooser);
         QVERIFY(iface->text(QAccessible::Value).startsWith(QStringLiteral("#ff0000")));
-        QSignalSpy committed(&wheel, &ColorWheel::ColorCommitted);
+        QSignalSpy committed(mWheel.get(), &ColorWheel::ColorCommitted);
         iface->valueInterface()->setCurrentValue(120.0);
-        QCOMPARE(wheel.GetColor(), QColor(0, 255, 0));
+        QCOMPARE(mWheel->GetColor(), QColor(0, 255, 0));
         QCOMPARE(committed.count(), 1);
     }
+
+private:
+    std::unique_ptr<ColorWheel> mWheel;
 };
 
 QTEST_MAIN(tst_ColorWheel)

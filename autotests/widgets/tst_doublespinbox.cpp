@@ -52,6 +52,7 @@ class tst_DoubleSpinBox : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init() { QVERIFY(mSpin = shownSpinBox()); }
     void cleanup()
     {
         qDeleteAll(mWidgets);
@@ -87,63 +88,57 @@ private Q_SLOTS:
         QFETCH(double, expected);
         QFETCH(QString, shown);
 
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        spin->SetUnitType(Units::teType(unitType));
-        spin->SetUnitSymbolType(units::UnitSymbol(symbol));
+        mSpin->SetUnitType(Units::teType(unitType));
+        mSpin->SetUnitSymbolType(units::UnitSymbol(symbol));
         // Changing the symbol installs the number-only display; this brings the unit text back.
-        spin->SetUnitSymbolDisplayEnabled(true);
-        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-        QSignalSpy finished(spin, &QAbstractSpinBox::editingFinished);
+        mSpin->SetUnitSymbolDisplayEnabled(true);
+        QSignalSpy changed(mSpin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        QSignalSpy finished(mSpin, &QAbstractSpinBox::editingFinished);
 
-        spin->setFocus();
-        spin->GetNumericField()->selectAll();
-        QTest::keyClicks(spin, typed);
+        mSpin->setFocus();
+        mSpin->GetNumericField()->selectAll();
+        QTest::keyClicks(mSpin, typed);
         QCOMPARE(changed.count(), 0); // keyboard tracking is off
-        QTest::keyClick(spin, Qt::Key_Return);
+        QTest::keyClick(mSpin, Qt::Key_Return);
 
         QCOMPARE(finished.count(), 1);
-        QVERIFY2(qAbs(spin->value() - expected) < 1e-9, qPrintable(QString::number(spin->value())));
-        QCOMPARE(spin->GetValue(), spin->value());
-        QCOMPARE(spin->GetAcceptedValue(), spin->value());
+        QVERIFY2(qAbs(mSpin->value() - expected) < 1e-9, qPrintable(QString::number(mSpin->value())));
+        QCOMPARE(mSpin->GetValue(), mSpin->value());
+        QCOMPARE(mSpin->GetAcceptedValue(), mSpin->value());
         if (!shown.contains(QChar(0xB0)))
-            QCOMPARE(spin->GetNumericField()->text(), shown);
+            QCOMPARE(mSpin->GetNumericField()->text(), shown);
         QCOMPARE(changed.count(), expected == 0.0 ? 0 : 1);
     }
 
     void unreadableTextRestoresTheAcceptedValue()
     {
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        spin->SetUnitType(Units::eMillimeter);
-        spin->SetUnitSymbolType(units::kSymbolMillimeter);
-        spin->SetUnitSymbolDisplayEnabled(true);
-        spin->setFocus();
-        spin->TypeAndConfirm(QStringLiteral("40"));
-        QCOMPARE(spin->value(), 40.0);
+        mSpin->SetUnitType(Units::eMillimeter);
+        mSpin->SetUnitSymbolType(units::kSymbolMillimeter);
+        mSpin->SetUnitSymbolDisplayEnabled(true);
+        mSpin->setFocus();
+        mSpin->TypeAndConfirm(QStringLiteral("40"));
+        QCOMPARE(mSpin->value(), 40.0);
 
         // Stepping changes the value but finishes no editing.
-        QTest::keyClick(spin, Qt::Key_Up);
-        QCOMPARE(spin->value(), 40.01);
-        QCOMPARE(spin->GetAcceptedValue(), 40.0);
+        QTest::keyClick(mSpin, Qt::Key_Up);
+        QCOMPARE(mSpin->value(), 40.01);
+        QCOMPARE(mSpin->GetAcceptedValue(), 40.0);
 
-        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        QSignalSpy changed(mSpin, qOverload<double>(&QDoubleSpinBox::valueChanged));
         // A unit of another group is as unreadable as words.
         for (const char* unreadable : {"twelve furlongs", "3 kg"}) {
-            spin->TypeAndConfirm(QString::fromLatin1(unreadable));
-            QCOMPARE(spin->value(), 40.0);
-            QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
+            mSpin->TypeAndConfirm(QString::fromLatin1(unreadable));
+            QCOMPARE(mSpin->value(), 40.0);
+            QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("40.00 mm"));
         }
         QCOMPARE(changed.count(), 1);
     }
 
     void listenersCanAdjustOrRefuseTypedValues()
     {
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
         bool refuse = false;
         QList<double> seen;
-        connect(spin, &DoubleSpinBox::ValidateChangingValue, spin, [&](double& value, bool& valid) {
+        connect(mSpin, &DoubleSpinBox::ValidateChangingValue, mSpin, [&](double& value, bool& valid) {
             seen << value;
             QVERIFY(valid);
             if (refuse)
@@ -151,19 +146,19 @@ private Q_SLOTS:
             else
                 value = value * 2;
         });
-        spin->setFocus();
-        spin->TypeAndConfirm(QStringLiteral("21"));
+        mSpin->setFocus();
+        mSpin->TypeAndConfirm(QStringLiteral("21"));
         QCOMPARE(seen, QList<double>{21.0});
-        QCOMPARE(spin->value(), 42.0);
+        QCOMPARE(mSpin->value(), 42.0);
 
         refuse = true;
-        spin->TypeAndConfirm(QStringLiteral("7"));
-        QCOMPARE(spin->value(), 42.0);
-        QCOMPARE(spin->GetNumericField()->text(), QStringLiteral("42.00"));
+        mSpin->TypeAndConfirm(QStringLiteral("7"));
+        QCOMPARE(mSpin->value(), 42.0);
+        QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("42.00"));
 
         // Text that does not parse never reaches the listeners.
         seen.clear();
-        spin->TypeAndConfirm(QStringLiteral("abc"));
+        mSpin->TypeAndConfirm(QStringLiteral("abc"));
         QVERIFY(seen.isEmpty());
     }
 
@@ -206,135 +201,123 @@ private Q_SLOTS:
         QFETCH(int, precision);
         QFETCH(double, step);
 
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        spin->SetNumberFormatId(units::NumberFormat(format));
-        spin->SetDecimalPrecision(precision);
-        QVERIFY(qFuzzyCompare(spin->singleStep(), step));
-        QCOMPARE(spin->decimals(), precision);
-        QVERIFY(qFuzzyCompare(spin->CalculateSingleStep(precision), step));
+        mSpin->SetNumberFormatId(units::NumberFormat(format));
+        mSpin->SetDecimalPrecision(precision);
+        QVERIFY(qFuzzyCompare(mSpin->singleStep(), step));
+        QCOMPARE(mSpin->decimals(), precision);
+        QVERIFY(qFuzzyCompare(mSpin->CalculateSingleStep(precision), step));
 
         // Keys and arrow buttons step by it.
         const bool decimal = format == int(units::kNumberFormatDecimal);
-        spin->setValue(1.0);
-        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
-        spin->setFocus();
+        mSpin->setValue(1.0);
+        QSignalSpy changed(mSpin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        mSpin->setFocus();
 
-        QTest::keyClick(spin, Qt::Key_Up);
-        QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
-        QCOMPARE(spin->GetValue(), spin->value());
-        QTest::keyClick(spin, Qt::Key_PageUp);
-        QVERIFY(qAbs(spin->value() - (1.0 + 11 * step)) < step / 100);
-        QTest::keyClick(spin, Qt::Key_PageDown);
-        QTest::keyClick(spin, Qt::Key_Down);
-        QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+        QTest::keyClick(mSpin, Qt::Key_Up);
+        QVERIFY(qAbs(mSpin->value() - (1.0 + step)) < step / 100);
+        QCOMPARE(mSpin->GetValue(), mSpin->value());
+        QTest::keyClick(mSpin, Qt::Key_PageUp);
+        QVERIFY(qAbs(mSpin->value() - (1.0 + 11 * step)) < step / 100);
+        QTest::keyClick(mSpin, Qt::Key_PageDown);
+        QTest::keyClick(mSpin, Qt::Key_Down);
+        QVERIFY(qAbs(mSpin->value() - 1.0) < step / 100);
         QCOMPARE(changed.count(), 4);
-        QCOMPARE(changed.last().at(0).toDouble(), spin->value()); // announced on the display grid
+        QCOMPARE(changed.last().at(0).toDouble(), mSpin->value()); // announced on the display grid
         if (decimal)
-            QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
+            QCOMPARE(mSpin->GetNumericField()->text(), QString::number(1.0, 'f', precision));
 
-        const QRect up = spin->SubControl(QStyle::SC_SpinBoxUp);
+        const QRect up = mSpin->SubControl(QStyle::SC_SpinBoxUp);
         QVERIFY(up.isValid());
-        QTest::mouseClick(spin, Qt::LeftButton, {}, up.center());
-        QVERIFY(qAbs(spin->value() - (1.0 + step)) < step / 100);
+        QTest::mouseClick(mSpin, Qt::LeftButton, {}, up.center());
+        QVERIFY(qAbs(mSpin->value() - (1.0 + step)) < step / 100);
         if (decimal)
-            QCOMPARE(spin->GetNumericField()->text(), QString::number(1.0 + step, 'f', precision));
-        const QRect down = spin->SubControl(QStyle::SC_SpinBoxDown);
-        QTest::mouseClick(spin, Qt::LeftButton, {}, down.center());
-        QVERIFY(qAbs(spin->value() - 1.0) < step / 100);
+            QCOMPARE(mSpin->GetNumericField()->text(), QString::number(1.0 + step, 'f', precision));
+        const QRect down = mSpin->SubControl(QStyle::SC_SpinBoxDown);
+        QTest::mouseClick(mSpin, Qt::LeftButton, {}, down.center());
+        QVERIFY(qAbs(mSpin->value() - 1.0) < step / 100);
     }
 
     void precisionChangeKeepsQtDecimalsWhenAsked()
     {
-        TestSpinBox spin;
-        spin.SetDecimalPrecision(4);
-        QCOMPARE(spin.decimals(), 4);
-        spin.SetCanChangeQtDecimals(false);
-        spin.SetDecimalPrecision(1);
-        QCOMPARE(spin.decimals(), 4);
-        QVERIFY(qFuzzyCompare(spin.singleStep(), 0.1));
+        mSpin->SetDecimalPrecision(4);
+        QCOMPARE(mSpin->decimals(), 4);
+        mSpin->SetCanChangeQtDecimals(false);
+        mSpin->SetDecimalPrecision(1);
+        QCOMPARE(mSpin->decimals(), 4);
+        QVERIFY(qFuzzyCompare(mSpin->singleStep(), 0.1));
     }
 
     void deferredUpdatesWaitForUpdateForUnits()
     {
-        TestSpinBox spin;
-        spin.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-        spin.setValue(2.5);
-        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
+        mSpin->setValue(2.5);
+        QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("2.50"));
 
-        spin.SetDeferUpdateForUnits(true);
-        spin.SetDecimalSeparator(QStringLiteral(","));
-        spin.ShowPositiveNumberSign(true);
-        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("2.50"));
-        QVERIFY(spin.HaveDeferredUpdatesForUnits());
+        mSpin->SetDeferUpdateForUnits(true);
+        mSpin->SetDecimalSeparator(QStringLiteral(","));
+        mSpin->ShowPositiveNumberSign(true);
+        QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("2.50"));
+        QVERIFY(mSpin->HaveDeferredUpdatesForUnits());
 
-        spin.SetDeferUpdateForUnits(false);
-        QVERIFY(spin.HaveDeferredUpdatesForUnits());
-        spin.UpdateForUnits();
-        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2,50"));
-        QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+        mSpin->SetDeferUpdateForUnits(false);
+        QVERIFY(mSpin->HaveDeferredUpdatesForUnits());
+        mSpin->UpdateForUnits();
+        QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("+2,50"));
+        QVERIFY(!mSpin->HaveDeferredUpdatesForUnits());
 
         // Without deferring every change shows at once.
-        spin.SetDecimalSeparator(QStringLiteral("."));
-        QCOMPARE(spin.GetNumericField()->text(), QStringLiteral("+2.50"));
-        QVERIFY(!spin.HaveDeferredUpdatesForUnits());
+        mSpin->SetDecimalSeparator(QStringLiteral("."));
+        QCOMPARE(mSpin->GetNumericField()->text(), QStringLiteral("+2.50"));
+        QVERIFY(!mSpin->HaveDeferredUpdatesForUnits());
     }
 
     void wheelIsIgnoredWhileDisabled()
     {
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        spin->setValue(5.0);
-        const QPointF centre = QRectF(spin->rect()).center();
+        mSpin->setValue(5.0);
+        const QPointF centre = QRectF(mSpin->rect()).center();
         const auto wheel = [&] {
-            QWheelEvent event(centre, spin->mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-                              Qt::NoScrollPhase, false);
-            return spin->event(&event);
+            QWheelEvent event(centre, mSpin->mapToGlobal(centre), QPoint(), QPoint(0, 120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            return mSpin->event(&event);
         };
-        spin->setFocus();
+        mSpin->setFocus();
         QVERIFY(wheel());
-        QCOMPARE(spin->value(), 5.01);
+        QCOMPARE(mSpin->value(), 5.01);
 
-        spin->setEnabled(false);
-        QSignalSpy changed(spin, qOverload<double>(&QDoubleSpinBox::valueChanged));
+        mSpin->setEnabled(false);
+        QSignalSpy changed(mSpin, qOverload<double>(&QDoubleSpinBox::valueChanged));
         QVERIFY(!wheel());
-        QCOMPARE(spin->value(), 5.01);
+        QCOMPARE(mSpin->value(), 5.01);
         QCOMPARE(changed.count(), 0);
     }
 
     void focusChangesTheFieldBackground()
     {
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        QLineEdit* edit = spin->GetNumericField();
+        QLineEdit* edit = mSpin->GetNumericField();
         const auto background = [edit](QPalette::ColorGroup group) {
             return edit->palette().brush(group, edit->backgroundRole()).color();
         };
-        QVERIFY(Probe::Focus(spin));
+        QVERIFY(Probe::Focus(mSpin));
         QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
         QCOMPARE(background(QPalette::Inactive), Probe::ThemeColor(ThemeFileKey::ActiveContainer1));
-        spin->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-        QTRY_VERIFY(!spin->hasFocus());
+        QVERIFY(Probe::Focus(mSpin->window()->findChild<QLineEdit*>(QStringLiteral("other"))));
         QCOMPARE(background(QPalette::Active), Probe::ThemeColor(ThemeFileKey::WidgetContainer3));
     }
 
     void returnSelectsAllAndModifiedFlagIsStickyUntilCleared()
     {
-        TestSpinBox* spin = shownSpinBox();
-        QVERIFY(spin);
-        QVERIFY(Probe::Focus(spin));
-        QVERIFY(!spin->IsModified());
-        spin->GetNumericField()->selectAll();
-        QTest::keyClicks(spin, QStringLiteral("8"));
-        QVERIFY(spin->IsModified());
+        QVERIFY(Probe::Focus(mSpin));
+        QVERIFY(!mSpin->IsModified());
+        mSpin->GetNumericField()->selectAll();
+        QTest::keyClicks(mSpin, QStringLiteral("8"));
+        QVERIFY(mSpin->IsModified());
         // Return rewrites the text and selects it all; the flag stays.
-        QTest::keyClick(spin, Qt::Key_End);
-        QTest::keyClick(spin, Qt::Key_Return);
-        QCOMPARE(spin->GetNumericField()->selectedText(), QStringLiteral("8.00"));
-        QVERIFY(!spin->GetNumericField()->isModified());
-        QVERIFY(spin->IsModified());
-        spin->ClearModified();
-        QVERIFY(!spin->IsModified());
+        QTest::keyClick(mSpin, Qt::Key_End);
+        QTest::keyClick(mSpin, Qt::Key_Return);
+        QCOMPARE(mSpin->GetNumericField()->selectedText(), QStringLiteral("8.00"));
+        QVERIFY(!mSpin->GetNumericField()->isModified());
+        QVERIFY(mSpin->IsModified());
+        mSpin->ClearModified();
+        QVERIFY(!mSpin->IsModified());
     }
 
     void anyTextIsAcceptableAndSizeHints()
@@ -364,6 +347,7 @@ private:
     }
 
     QList<QWidget*> mWidgets;
+    TestSpinBox* mSpin = nullptr;
 };
 
 QTEST_MAIN(tst_DoubleSpinBox)

@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <memory>
 
 using namespace Kavrel::UICore;
 
@@ -35,6 +36,11 @@ class tst_GradientSwatch : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init()
+    {
+        mSwatch = std::make_unique<GradientSwatch>();
+        mSwatch->resize(220, 40);
+    }
 
     void stopsAreCleanedUp_data()
     {
@@ -50,25 +56,22 @@ private Q_SLOTS:
     void stopsAreCleanedUp()
     {
         QFETCH(QGradientStops, stops);
-        GradientSwatch swatch;
-        QSignalSpy changed(&swatch, &GradientSwatch::GradientChanged);
-        swatch.SetStops(stops);
-        QTEST(Positions(swatch.GetStops()), "positions");
+        QSignalSpy changed(mSwatch.get(), &GradientSwatch::GradientChanged);
+        mSwatch->SetStops(stops);
+        QTEST(Positions(mSwatch->GetStops()), "positions");
         QCOMPARE(changed.count(), 0);
     }
 
     void clickOnTheBarAddsTheColourThere()
     {
-        GradientSwatch swatch;
-        swatch.resize(220, 40);
-        swatch.SetStops(kThreeStops);
-        QSignalSpy changed(&swatch, &GradientSwatch::GradientChanged);
-        const QRect bar = swatch.BarRect();
+        mSwatch->SetStops(kThreeStops);
+        QSignalSpy changed(mSwatch.get(), &GradientSwatch::GradientChanged);
+        const QRect bar = mSwatch->BarRect();
         const QPoint at(bar.left() + (bar.width() - 1) / 4, bar.center().y());
-        QTest::mouseClick(&swatch, Qt::LeftButton, {}, at);
-        QCOMPARE(swatch.GetStops().size(), 4);
-        QCOMPARE(swatch.GetSelectedStop(), 1);
-        const QGradientStop added = swatch.GetStops().at(1);
+        QTest::mouseClick(mSwatch.get(), Qt::LeftButton, {}, at);
+        QCOMPARE(mSwatch->GetStops().size(), 4);
+        QCOMPARE(mSwatch->GetSelectedStop(), 1);
+        const QGradientStop added = mSwatch->GetStops().at(1);
         QVERIFY(std::abs(added.first - 0.25) < 0.01);
         QVERIFY(Probe::Near(added.second, QColor(128, 0, 0), 3));
         QCOMPARE(changed.count(), 1);
@@ -91,19 +94,17 @@ private Q_SLOTS:
         QFETCH(int, stop);
         QFETCH(double, target);
         QFETCH(double, expected);
-        GradientSwatch swatch;
-        swatch.resize(220, 40);
-        swatch.SetStops(kThreeStops);
-        const QRect bar = swatch.BarRect();
-        const QPoint from = swatch.NodePoint(stop) + QPoint(0, 6);
+        mSwatch->SetStops(kThreeStops);
+        const QRect bar = mSwatch->BarRect();
+        const QPoint from = mSwatch->NodePoint(stop) + QPoint(0, 6);
         const QPoint to(bar.left() + int(std::lround(target * (bar.width() - 1))), from.y());
-        QTest::mousePress(&swatch, Qt::LeftButton, {}, from);
-        QCOMPARE(swatch.GetSelectedStop(), stop);
-        QMouseEvent move(QEvent::MouseMove, QPointF(to), swatch.mapToGlobal(QPointF(to)), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(&swatch, &move);
-        QTest::mouseRelease(&swatch, Qt::LeftButton, {}, to);
-        const QGradientStops stops = swatch.GetStops();
+        QTest::mousePress(mSwatch.get(), Qt::LeftButton, {}, from);
+        QCOMPARE(mSwatch->GetSelectedStop(), stop);
+        QMouseEvent move(QEvent::MouseMove, QPointF(to), mSwatch->mapToGlobal(QPointF(to)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(mSwatch.get(), &move);
+        QTest::mouseRelease(mSwatch.get(), Qt::LeftButton, {}, to);
+        const QGradientStops stops = mSwatch->GetStops();
         QVERIFY(std::abs(stops.at(stop).first - expected) < 0.006);
         QCOMPARE(stops.size(), 3);
         QVERIFY(std::is_sorted(stops.begin(), stops.end(),
@@ -132,41 +133,36 @@ private Q_SLOTS:
         QFETCH(int, modifiers);
         QFETCH(bool, rightToLeft);
         QFETCH(QList<double>, positions);
-        GradientSwatch swatch;
-        swatch.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        swatch.SetStops(kThreeStops);
-        swatch.SetSelectedStop(1);
-        QTest::keyClick(&swatch, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-        const QList<double> actual = Positions(swatch.GetStops());
+        mSwatch->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        mSwatch->SetStops(kThreeStops);
+        mSwatch->SetSelectedStop(1);
+        QTest::keyClick(mSwatch.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        const QList<double> actual = Positions(mSwatch->GetStops());
         QCOMPARE(actual.size(), positions.size());
         for (int i = 0; i < actual.size(); ++i)
             QVERIFY(qFuzzyCompare(1.0 + actual.at(i), 1.0 + positions.at(i)));
-        QTEST(swatch.GetSelectedStop(), "selected");
+        QTEST(mSwatch->GetSelectedStop(), "selected");
     }
 
     void neverFewerThanTwoStops()
     {
-        GradientSwatch swatch;
-        swatch.resize(220, 40);
-        QSignalSpy changed(&swatch, &GradientSwatch::GradientChanged);
-        QTest::keyClick(&swatch, Qt::Key_Delete);
-        QTest::mouseClick(&swatch, Qt::LeftButton, {}, swatch.DeleteButtonRect().center());
-        QCOMPARE(swatch.GetStops().size(), 2);
+        QSignalSpy changed(mSwatch.get(), &GradientSwatch::GradientChanged);
+        QTest::keyClick(mSwatch.get(), Qt::Key_Delete);
+        QTest::mouseClick(mSwatch.get(), Qt::LeftButton, {}, mSwatch->DeleteButtonRect().center());
+        QCOMPARE(mSwatch->GetStops().size(), 2);
         QCOMPARE(changed.count(), 0);
-        swatch.AddStop(0.5);
-        QTest::mouseClick(&swatch, Qt::LeftButton, {}, swatch.DeleteButtonRect().center());
-        QCOMPARE(swatch.GetStops().size(), 2);
+        mSwatch->AddStop(0.5);
+        QTest::mouseClick(mSwatch.get(), Qt::LeftButton, {}, mSwatch->DeleteButtonRect().center());
+        QCOMPARE(mSwatch->GetStops().size(), 2);
         QCOMPARE(changed.count(), 2);
     }
 
     void doubleClickEditsTheStopColour()
     {
-        GradientSwatch swatch;
-        swatch.resize(220, 40);
-        swatch.SetStops(kThreeStops);
-        QVERIFY(Probe::Shown(&swatch));
-        QTest::mouseDClick(&swatch, Qt::LeftButton, {}, swatch.NodePoint(1) + QPoint(0, 6));
-        ColorPicker* picker = swatch.GetPicker();
+        mSwatch->SetStops(kThreeStops);
+        QVERIFY(Probe::Shown(mSwatch.get()));
+        QTest::mouseDClick(mSwatch.get(), Qt::LeftButton, {}, mSwatch->NodePoint(1) + QPoint(0, 6));
+        ColorPicker* picker = mSwatch->GetPicker();
         QVERIFY(picker);
         QCOMPARE(picker->GetColor(), QColor(Qt::red));
         auto* hex = picker->findChild<NumericField*>("hex");
@@ -174,31 +170,31 @@ private Q_SLOTS:
         hex->selectAll();
         QTest::keyClicks(hex, QStringLiteral("#00ff0080"));
         QTest::keyClick(hex, Qt::Key_Tab);
-        QCOMPARE(swatch.GetStops().at(1).second, QColor(0, 255, 0, 128));
-        QTest::keyClick(swatch.findChild<ColorPickerPopup*>(), Qt::Key_Escape);
-        QCOMPARE(swatch.GetStops().at(1).second, QColor(Qt::red));
+        QCOMPARE(mSwatch->GetStops().at(1).second, QColor(0, 255, 0, 128));
+        QTest::keyClick(mSwatch->findChild<ColorPickerPopup*>(), Qt::Key_Escape);
+        QCOMPARE(mSwatch->GetStops().at(1).second, QColor(Qt::red));
     }
 
     void barPaintsTheGradient()
     {
-        GradientSwatch swatch;
-        swatch.resize(220, 40);
-        swatch.SetStops({{0.0, QColor(0, 0, 255)}, {1.0, QColor(0, 0, 255)}});
-        const QImage image = Probe::Grab(&swatch);
-        PROBE_COMPARE_COLOR(Probe::PixelAt(image, swatch.BarRect().center()), QColor(0, 0, 255));
+        mSwatch->SetStops({{0.0, QColor(0, 0, 255)}, {1.0, QColor(0, 0, 255)}});
+        const QImage image = Probe::Grab(mSwatch.get());
+        PROBE_COMPARE_COLOR(Probe::PixelAt(image, mSwatch->BarRect().center()), QColor(0, 0, 255));
     }
 
     void accessibleValueCountsTheStops()
     {
-        GradientSwatch swatch;
-        swatch.SetStops(kThreeStops);
-        swatch.SetSelectedStop(1);
-        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&swatch);
+        mSwatch->SetStops(kThreeStops);
+        mSwatch->SetSelectedStop(1);
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(mSwatch.get());
         QVERIFY(iface->text(QAccessible::Value).startsWith(QStringLiteral("3 stops")));
         QCOMPARE(iface->valueInterface()->currentValue().toDouble(), 50.0);
         iface->valueInterface()->setCurrentValue(25.0);
-        QCOMPARE(swatch.GetStops().at(1).first, 0.25);
+        QCOMPARE(mSwatch->GetStops().at(1).first, 0.25);
     }
+
+private:
+    std::unique_ptr<GradientSwatch> mSwatch;
 };
 
 QTEST_MAIN(tst_GradientSwatch)

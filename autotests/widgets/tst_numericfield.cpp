@@ -18,6 +18,7 @@ class tst_NumericField : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init() { QVERIFY(mField = shownField()); }
     void cleanup()
     {
         qDeleteAll(mWidgets);
@@ -27,45 +28,42 @@ private Q_SLOTS:
 
     void firstClickSelectsAllOncePerFocusAndFocusOutIsAnnounced()
     {
-        NumericField* field = shownField();
-        QVERIFY(field);
-        QSignalSpy focusOut(field, &NumericField::FocusOut);
-        const QPoint inside = field->rect().center();
-        QTest::mouseClick(field, Qt::LeftButton, {}, inside);
-        QTRY_VERIFY(field->hasFocus());
-        QCOMPARE(field->selectedText(), QStringLiteral("1234.5"));
-        QTest::mouseClick(field, Qt::LeftButton, {}, inside);
-        QVERIFY(!field->hasSelectedText());
+        QSignalSpy focusOut(mField, &NumericField::FocusOut);
+        const QPoint inside = mField->rect().center();
+        QTest::mouseClick(mField, Qt::LeftButton, {}, inside);
+        QTRY_VERIFY(mField->hasFocus());
+        QCOMPARE(mField->selectedText(), QStringLiteral("1234.5"));
+        QTest::mouseClick(mField, Qt::LeftButton, {}, inside);
+        QVERIFY(!mField->hasSelectedText());
         QCOMPARE(focusOut.count(), 0);
 
         // A new focus period starts over.
-        moveFocusAway(field);
+        QVERIFY(Probe::Focus(mField->window()->findChild<QLineEdit*>(QStringLiteral("other"))));
         QCOMPARE(focusOut.count(), 1);
-        QTest::mouseClick(field, Qt::LeftButton, {}, inside);
-        QCOMPARE(field->selectedText(), QStringLiteral("1234.5"));
+        QTest::mouseClick(mField, Qt::LeftButton, {}, inside);
+        QCOMPARE(mField->selectedText(), QStringLiteral("1234.5"));
     }
 
     void modifiedFlagIsStickyFromFocusInUntilCleared()
     {
-        NumericField* field = shownField(true);
-        QVERIFY(field);
-        QTest::keyClick(field, Qt::Key_End);
-        QVERIFY(!field->IsModified());
-        QTest::keyClick(field, Qt::Key_0);
-        QVERIFY(field->IsModified());
+        QVERIFY(Probe::Focus(mField));
+        QTest::keyClick(mField, Qt::Key_End);
+        QVERIFY(!mField->IsModified());
+        QTest::keyClick(mField, Qt::Key_0);
+        QVERIFY(mField->IsModified());
         // Text written by the owner resets Qt's flag, not the sticky one.
-        field->setText(QStringLiteral("5"));
-        QVERIFY(!field->isModified());
-        QVERIFY(field->IsModified());
-        field->ClearModified();
-        QVERIFY(!field->IsModified());
+        mField->setText(QStringLiteral("5"));
+        QVERIFY(!mField->isModified());
+        QVERIFY(mField->IsModified());
+        mField->ClearModified();
+        QVERIFY(!mField->IsModified());
 
         // Focus-in starts clean even when the line edit still counts as modified.
-        QTest::keyClick(field, Qt::Key_1);
-        moveFocusAway(field);
-        QVERIFY(field->IsModified());
-        QVERIFY(Probe::Focus(field));
-        QVERIFY(!field->IsModified());
+        QTest::keyClick(mField, Qt::Key_1);
+        QVERIFY(Probe::Focus(mField->window()->findChild<QLineEdit*>(QStringLiteral("other"))));
+        QVERIFY(mField->IsModified());
+        QVERIFY(Probe::Focus(mField));
+        QVERIFY(!mField->IsModified());
     }
 
     void pageKeysReachTheOwnerInTheSpinBoxField()
@@ -87,34 +85,31 @@ private Q_SLOTS:
 
     void pageKeysMoveTheCursorAndReturnSelectsAllAndFinishesEditing()
     {
-        NumericField* field = shownField(true);
-        QVERIFY(field);
-        QSignalSpy finished(field, &QLineEdit::editingFinished);
-        field->setCursorPosition(3);
-        QTest::keyClick(field, Qt::Key_PageUp);
-        QCOMPARE(field->cursorPosition(), 0);
-        QTest::keyClick(field, Qt::Key_PageDown);
-        QCOMPARE(field->cursorPosition(), 6);
-        QVERIFY(!field->IsModified());
-        QTest::keyClick(field, Qt::Key_7);
-        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(Probe::Focus(mField));
+        QSignalSpy finished(mField, &QLineEdit::editingFinished);
+        mField->setCursorPosition(3);
+        QTest::keyClick(mField, Qt::Key_PageUp);
+        QCOMPARE(mField->cursorPosition(), 0);
+        QTest::keyClick(mField, Qt::Key_PageDown);
+        QCOMPARE(mField->cursorPosition(), 6);
+        QVERIFY(!mField->IsModified());
+        QTest::keyClick(mField, Qt::Key_7);
+        QTest::keyClick(mField, Qt::Key_Return);
         QCOMPARE(finished.count(), 1);
-        QCOMPARE(field->selectedText(), QStringLiteral("1234.57"));
+        QCOMPARE(mField->selectedText(), QStringLiteral("1234.57"));
     }
 
     void hoverStateFollowsThePointer()
     {
-        NumericField* field = shownField();
-        QVERIFY(field);
-        QCOMPARE(field->HoverState(), 0);
-        enter(field);
-        QCOMPARE(field->HoverState(), 1);
-        QTest::mousePress(field, Qt::LeftButton, {}, field->rect().center());
-        QCOMPARE(field->HoverState(), 2);
-        QTest::mouseRelease(field, Qt::LeftButton, {}, field->rect().center());
+        QCOMPARE(mField->HoverState(), 0);
+        enter(mField);
+        QCOMPARE(mField->HoverState(), 1);
+        QTest::mousePress(mField, Qt::LeftButton, {}, mField->rect().center());
+        QCOMPARE(mField->HoverState(), 2);
+        QTest::mouseRelease(mField, Qt::LeftButton, {}, mField->rect().center());
         QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(field, &leave);
-        QCOMPARE(field->HoverState(), 0);
+        QApplication::sendEvent(mField, &leave);
+        QCOMPARE(mField->HoverState(), 0);
     }
 
     void frameIsPaintedFromTheTheme_data()
@@ -143,50 +138,40 @@ private Q_SLOTS:
         QFETCH(QString, background);
 
         QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
-        NumericField* field = shownField(state == QLatin1String("focused"));
-        QVERIFY(field);
-        field->clear();
-        field->resize(120, 24);
+        if (state == QLatin1String("focused"))
+            QVERIFY(Probe::Focus(mField));
+        mField->clear();
+        mField->resize(120, 24);
         if (state == QLatin1String("hovered"))
-            enter(field);
-        const QImage image = Probe::Grab(field);
+            enter(mField);
+        const QImage image = Probe::Grab(mField);
         const auto at = [&](int x, int y) { return Probe::PixelAt(image, QPoint(x, y)).rgb(); };
-        const int middle = field->height() / 2;
+        const int middle = mField->height() / 2;
         // Right of the (empty) text the interior is plain background.
-        QCOMPARE(at(field->width() - 6, middle), Probe::ThemeColor(background).rgb());
-        QCOMPARE(at(field->width() / 2, 0), Probe::ThemeColor(outline).rgb());
+        QCOMPARE(at(mField->width() - 6, middle), Probe::ThemeColor(background).rgb());
+        QCOMPARE(at(mField->width() / 2, 0), Probe::ThemeColor(outline).rgb());
         QCOMPARE(at(0, middle), Probe::ThemeColor(outline).rgb());
         if (!inner.isEmpty())
-            QCOMPARE(at(field->width() / 2, 1), Probe::ThemeColor(inner).rgb());
+            QCOMPARE(at(mField->width() / 2, 1), Probe::ThemeColor(inner).rgb());
     }
 
 private:
     // A shown window holding a field with "1234.5" and a second line edit that has the focus.
-    NumericField* shownField(bool focused = false)
+    NumericField* shownField()
     {
         NumericField* field = Probe::ShownWithOther<NumericField>(mWidgets, QSize(200, 80));
-        if (!field)
-            return nullptr;
-        field->setText(QStringLiteral("1234.5"));
-        if (focused) {
-            field->setFocus();
-            if (!QTest::qWaitFor([field] { return field->hasFocus(); }))
-                return nullptr;
-        }
+        if (field)
+            field->setText(QStringLiteral("1234.5"));
         return field;
     }
 
-    static void moveFocusAway(NumericField* field)
-    {
-        field->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-        QTRY_VERIFY(!field->hasFocus());
-    }
     static void enter(QWidget* widget)
     {
         QEnterEvent event(QPointF(2, 2), QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)));
         QApplication::sendEvent(widget, &event);
     }
     QList<QWidget*> mWidgets;
+    NumericField* mField = nullptr;
 };
 
 QTEST_MAIN(tst_NumericField)

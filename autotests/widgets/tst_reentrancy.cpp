@@ -66,6 +66,7 @@ QWidget* MakeControl(const QString& kind, QWidget* parent)
         button->setCheckable(true);
         return button;
     }
+
     if (kind == QLatin1String("CheckBox"))
         return new CheckBox(QStringLiteral("Visible"), parent);
     if (kind == QLatin1String("LineEdit"))
@@ -80,6 +81,7 @@ QWidget* MakeControl(const QString& kind, QWidget* parent)
         spinBox->setValue(5);
         return spinBox;
     }
+
     if (kind == QLatin1String("Slider")) {
         auto* slider = new Slider(parent);
         slider->SetRange(0, 100);
@@ -87,6 +89,7 @@ QWidget* MakeControl(const QString& kind, QWidget* parent)
         slider->setMinimumWidth(240);
         return slider;
     }
+
     if (kind == QLatin1String("RolloutContainer")) {
         auto* container = new RolloutContainer(parent);
         container->SetTitle(QStringLiteral("Surface"));
@@ -95,6 +98,7 @@ QWidget* MakeControl(const QString& kind, QWidget* parent)
         layout->addWidget(new QLineEdit(container));
         return container;
     }
+
     return nullptr;
 }
 
@@ -106,6 +110,7 @@ QWidget* InputWidget(QWidget* control, Input input)
             return slider->GetNumericField();
         return slider->GetSliderControl();
     }
+
     return control;
 }
 
@@ -119,169 +124,166 @@ class tst_Reentrancy : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
-    void controlDeletedFromItsOwnSignal_data();
-    void controlDeletedFromItsOwnSignal();
-};
+    void controlDeletedFromItsOwnSignal_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<Input>("input");
 
-void tst_Reentrancy::controlDeletedFromItsOwnSignal_data()
-{
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<Input>("input");
-
-    // Not in the table: signals that Qt emits in the middle of its own work
-    // and then goes on using the widget: the line edit's textEdited and
-    // cursorPositionChanged, a button's toggled (and what follows from it:
-    // stateChanged, a container's CheckBoxToggled), after which
-    // QAbstractButton::setChecked still reports to accessibility, and a
-    // slider's SliderFocusOut, which deletes the focus widget's parent while
-    // QWidget::setFocus is still walking it. And
-    // ValidateChangingValue, which asks the listeners a question while a
-    // value is being read.
-    const auto row = [](const char* control, const char* signal, Input input, const char* how) {
-        QTest::addRow("%s %s %s", control, signal[0] ? signal : "(none)", how)
-            << QString::fromLatin1(control) << QByteArray(signal) << input;
-    };
-    row("PushButton", "pressed()", Input::Click, "click");
-    row("PushButton", "released()", Input::Click, "click");
-    row("PushButton", "clicked(bool)", Input::Click, "click");
-    row("CheckBox", "clicked(bool)", Input::Click, "click");
-    row("LineEdit", "returnPressed()", Input::TypeReturn, "Return");
-    row("LineEdit", "editingFinished()", Input::TypeReturn, "Return");
-    row("LineEdit", "editingFinished()", Input::TypeLeave, "focus loss");
-    row("LineEdit", "", Input::Focus, "while focused");
-    row("NumericField", "returnPressed()", Input::TypeReturn, "Return");
-    row("NumericField", "editingFinished()", Input::TypeReturn, "Return");
-    row("NumericField", "editingFinished()", Input::TypeLeave, "focus loss");
-    row("NumericField", "FocusOut()", Input::TypeLeave, "focus loss");
-    row("TextBox", "ReturnPressed()", Input::TypeReturn, "Return");
-    row("TextBox", "EditingFinished()", Input::TypeReturn, "Return");
-    row("TextBox", "EditingFinished()", Input::TypeLeave, "focus loss");
-    row("TextBox", "FocusOut()", Input::TypeLeave, "focus loss");
-    row("TextBox", "", Input::Focus, "while focused");
-    row("DoubleSpinBox", "editingFinished()", Input::TypeReturn, "Return");
-    row("DoubleSpinBox", "editingFinished()", Input::TypeLeave, "focus loss");
-    row("DoubleSpinBox", "valueChanged(double)", Input::TypeReturn, "Return");
-    row("DoubleSpinBox", "", Input::Focus, "while focused");
-    row("Slider", "SliderPressed()", Input::Drag, "drag");
-    row("Slider", "SliderMoved(int)", Input::Drag, "drag");
-    row("Slider", "ValueChanged(double)", Input::Drag, "drag");
-    row("Slider", "SliderReleased()", Input::Drag, "drag");
-    row("Slider", "SliderChangeCancelled()", Input::DragEscape, "Escape");
-    row("Slider", "ValueChanged(double)", Input::KeyRight, "Right");
-    row("Slider", "ValueChanged(double)", Input::TypeReturn, "Return");
-    row("Slider", "SliderReleased()", Input::TypeReturn, "Return");
-    row("Slider", "", Input::Focus, "while focused");
-    row("RolloutContainer", "Collapsed(bool)", Input::ClickTitle, "click");
-    row("RolloutContainer", "CheckBoxClicked(bool)", Input::SpaceOnCheckBox, "Space");
-}
-
-void tst_Reentrancy::controlDeletedFromItsOwnSignal()
-{
-    QFETCH(QString, control);
-    QFETCH(QByteArray, signal);
-    QFETCH(Input, input);
-
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    QWidget* made = MakeControl(control, &window);
-    QVERIFY(made);
-    layout->addWidget(made);
-    auto* other = new QLineEdit(&window);
-    layout->addWidget(other);
-    window.resize(320, 160);
-    QVERIFY(Probe::ShowActive(&window));
-
-    Deleter deleter;
-    deleter.mpTarget = made;
-    if (!signal.isEmpty()) {
-        const QMetaObject* meta = made->metaObject();
-        const int index = meta->indexOfSignal(QMetaObject::normalizedSignature(signal.constData()));
-        QVERIFY2(index >= 0, signal.constData());
-        const QMetaMethod slot = deleter.metaObject()->method(deleter.metaObject()->indexOfSlot("DeleteTarget()"));
-        QVERIFY(QObject::connect(made, meta->method(index), &deleter, slot));
+        // Not in the table: signals that Qt emits in the middle of its own work
+        // and then goes on using the widget: the line edit's textEdited and
+        // cursorPositionChanged, a button's toggled (and what follows from it:
+        // stateChanged, a container's CheckBoxToggled), after which
+        // QAbstractButton::setChecked still reports to accessibility, and a
+        // slider's SliderFocusOut, which deletes the focus widget's parent while
+        // QWidget::setFocus is still walking it. And
+        // ValidateChangingValue, which asks the listeners a question while a
+        // value is being read.
+        const auto row = [](const char* control, const char* signal, Input input, const char* how) {
+            QTest::addRow("%s %s %s", control, signal[0] ? signal : "(none)", how)
+                << QString::fromLatin1(control) << QByteArray(signal) << input;
+        };
+        row("PushButton", "pressed()", Input::Click, "click");
+        row("PushButton", "released()", Input::Click, "click");
+        row("PushButton", "clicked(bool)", Input::Click, "click");
+        row("CheckBox", "clicked(bool)", Input::Click, "click");
+        row("LineEdit", "returnPressed()", Input::TypeReturn, "Return");
+        row("LineEdit", "editingFinished()", Input::TypeReturn, "Return");
+        row("LineEdit", "editingFinished()", Input::TypeLeave, "focus loss");
+        row("LineEdit", "", Input::Focus, "while focused");
+        row("NumericField", "returnPressed()", Input::TypeReturn, "Return");
+        row("NumericField", "editingFinished()", Input::TypeReturn, "Return");
+        row("NumericField", "editingFinished()", Input::TypeLeave, "focus loss");
+        row("NumericField", "FocusOut()", Input::TypeLeave, "focus loss");
+        row("TextBox", "ReturnPressed()", Input::TypeReturn, "Return");
+        row("TextBox", "EditingFinished()", Input::TypeReturn, "Return");
+        row("TextBox", "EditingFinished()", Input::TypeLeave, "focus loss");
+        row("TextBox", "FocusOut()", Input::TypeLeave, "focus loss");
+        row("TextBox", "", Input::Focus, "while focused");
+        row("DoubleSpinBox", "editingFinished()", Input::TypeReturn, "Return");
+        row("DoubleSpinBox", "editingFinished()", Input::TypeLeave, "focus loss");
+        row("DoubleSpinBox", "valueChanged(double)", Input::TypeReturn, "Return");
+        row("DoubleSpinBox", "", Input::Focus, "while focused");
+        row("Slider", "SliderPressed()", Input::Drag, "drag");
+        row("Slider", "SliderMoved(int)", Input::Drag, "drag");
+        row("Slider", "ValueChanged(double)", Input::Drag, "drag");
+        row("Slider", "SliderReleased()", Input::Drag, "drag");
+        row("Slider", "SliderChangeCancelled()", Input::DragEscape, "Escape");
+        row("Slider", "ValueChanged(double)", Input::KeyRight, "Right");
+        row("Slider", "ValueChanged(double)", Input::TypeReturn, "Return");
+        row("Slider", "SliderReleased()", Input::TypeReturn, "Return");
+        row("Slider", "", Input::Focus, "while focused");
+        row("RolloutContainer", "Collapsed(bool)", Input::ClickTitle, "click");
+        row("RolloutContainer", "CheckBoxClicked(bool)", Input::SpaceOnCheckBox, "Space");
     }
 
-    QWidget* target = InputWidget(made, input);
-    const QPointer<QWidget> alive(target);
-    // Events go on only while what they are sent to is still there.
-    const auto key = [&alive](Qt::Key k) {
-        if (alive && QApplication::focusWidget())
-            QTest::keyClick(QApplication::focusWidget(), k);
-    };
-    switch (input) {
-    case Input::Click:
-    case Input::ClickTitle: {
-        QPoint point = target->rect().center();
-        if (input == Input::ClickTitle) {
-            point = static_cast<RolloutContainer*>(target)->GetTitleRect().center();
-        } else if (auto* box = qobject_cast<QCheckBox*>(target)) {
-            QStyleOptionButton option;
-            option.initFrom(box);
-            option.text = box->text();
-            point = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+    void controlDeletedFromItsOwnSignal()
+    {
+        QFETCH(QString, control);
+        QFETCH(QByteArray, signal);
+        QFETCH(Input, input);
+
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        QWidget* made = MakeControl(control, &window);
+        QVERIFY(made);
+        layout->addWidget(made);
+        auto* other = new QLineEdit(&window);
+        layout->addWidget(other);
+        window.resize(320, 160);
+        QVERIFY(Probe::ShowActive(&window));
+
+        Deleter deleter;
+        deleter.mpTarget = made;
+        if (!signal.isEmpty()) {
+            const QMetaObject* meta = made->metaObject();
+            const int index = meta->indexOfSignal(QMetaObject::normalizedSignature(signal.constData()));
+            QVERIFY2(index >= 0, signal.constData());
+            const QMetaMethod slot = deleter.metaObject()->method(deleter.metaObject()->indexOfSlot("DeleteTarget()"));
+            QVERIFY(QObject::connect(made, meta->method(index), &deleter, slot));
         }
-        // Press and release apart: the press may already delete.
-        QTest::mousePress(target, Qt::LeftButton, {}, point);
-        if (alive)
-            QTest::mouseRelease(target, Qt::LeftButton, {}, point);
-        break;
-    }
-    case Input::SpaceOnCheckBox: {
-        auto* box = target->findChild<QCheckBox*>();
-        QVERIFY(box);
-        QVERIFY(Probe::Focus(box));
-        QTest::keyClick(box, Qt::Key_Space);
-        break;
-    }
-    case Input::TypeReturn:
-    case Input::TypeLeave:
-        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
-        key(Qt::Key_1);
-        key(Qt::Key_2);
-        if (input == Input::TypeReturn)
-            key(Qt::Key_Return);
-        else if (alive)
-            QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
-        break;
-    case Input::KeyRight:
-        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
-        key(Qt::Key_Right);
-        break;
-    case Input::Drag:
-    case Input::DragEscape: {
-        const QPoint start = target->rect().center();
-        QTest::mousePress(target, Qt::LeftButton, {}, start);
-        if (input == Input::DragEscape) {
-            QVERIFY(Probe::Focus(target, Qt::MouseFocusReason));
-            key(Qt::Key_Escape);
+
+        QWidget* target = InputWidget(made, input);
+        const QPointer<QWidget> alive(target);
+        // Events go on only while what they are sent to is still there.
+        const auto key = [&alive](Qt::Key k) {
+            if (alive && QApplication::focusWidget())
+                QTest::keyClick(QApplication::focusWidget(), k);
+        };
+        switch (input) {
+        case Input::Click:
+        case Input::ClickTitle: {
+            QPoint point = target->rect().center();
+            if (input == Input::ClickTitle) {
+                point = static_cast<RolloutContainer*>(target)->GetTitleRect().center();
+            } else if (auto* box = qobject_cast<QCheckBox*>(target)) {
+                QStyleOptionButton option;
+                option.initFrom(box);
+                option.text = box->text();
+                point = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+            }
+            // Press and release apart: the press may already delete.
+            QTest::mousePress(target, Qt::LeftButton, {}, point);
+            if (alive)
+                QTest::mouseRelease(target, Qt::LeftButton, {}, point);
             break;
         }
-        // A real drag moves in steps; each step may be the one that deletes.
-        for (int dx = 4; dx <= 40 && alive; dx += 4) {
-            QMouseEvent move(QEvent::MouseMove, QPointF(start + QPoint(dx, 0)),
-                             target->mapToGlobal(QPointF(start + QPoint(dx, 0))), Qt::NoButton, Qt::LeftButton,
-                             Qt::NoModifier);
-            QApplication::sendEvent(target, &move);
+        case Input::SpaceOnCheckBox: {
+            auto* box = target->findChild<QCheckBox*>();
+            QVERIFY(box);
+            QVERIFY(Probe::Focus(box));
+            QTest::keyClick(box, Qt::Key_Space);
+            break;
         }
-        if (alive)
-            QTest::mouseRelease(target, Qt::LeftButton, {}, start + QPoint(40, 0));
-        break;
-    }
-    case Input::Focus:
-        QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
-        delete made;
-        break;
-    }
+        case Input::TypeReturn:
+        case Input::TypeLeave:
+            QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
+            key(Qt::Key_1);
+            key(Qt::Key_2);
+            if (input == Input::TypeReturn)
+                key(Qt::Key_Return);
+            else if (alive)
+                QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
+            break;
+        case Input::KeyRight:
+            QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
+            key(Qt::Key_Right);
+            break;
+        case Input::Drag:
+        case Input::DragEscape: {
+            const QPoint start = target->rect().center();
+            QTest::mousePress(target, Qt::LeftButton, {}, start);
+            if (input == Input::DragEscape) {
+                QVERIFY(Probe::Focus(target, Qt::MouseFocusReason));
+                key(Qt::Key_Escape);
+                break;
+            }
+            // A real drag moves in steps; each step may be the one that deletes.
+            for (int dx = 4; dx <= 40 && alive; dx += 4) {
+                QMouseEvent move(QEvent::MouseMove, QPointF(start + QPoint(dx, 0)),
+                                 target->mapToGlobal(QPointF(start + QPoint(dx, 0))), Qt::NoButton, Qt::LeftButton,
+                                 Qt::NoModifier);
+                QApplication::sendEvent(target, &move);
+            }
+            if (alive)
+                QTest::mouseRelease(target, Qt::LeftButton, {}, start + QPoint(40, 0));
+            break;
+        }
+        case Input::Focus:
+            QVERIFY(Probe::Focus(target, Qt::TabFocusReason));
+            delete made;
+            break;
+        }
 
-    QTRY_VERIFY(deleter.mpTarget.isNull());
-    if (!signal.isEmpty())
-        QCOMPARE(deleter.miCalls, 1);
-    // The window goes on working after the control has gone.
-    QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
-    QTest::keyClick(other, Qt::Key_A);
-    QCOMPARE(other->text(), QStringLiteral("a"));
-}
+        QTRY_VERIFY(deleter.mpTarget.isNull());
+        if (!signal.isEmpty())
+            QCOMPARE(deleter.miCalls, 1);
+        // The window goes on working after the control has gone.
+        QVERIFY(Probe::Focus(other, Qt::TabFocusReason));
+        QTest::keyClick(other, Qt::Key_A);
+        QCOMPARE(other->text(), QStringLiteral("a"));
+    }
+};
 
 QTEST_MAIN(tst_Reentrancy)
 #include "tst_reentrancy.moc"

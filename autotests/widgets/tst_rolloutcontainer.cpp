@@ -58,6 +58,7 @@ class tst_RolloutContainer : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init() { QVERIFY(mContainer = shownContainer()); }
     void cleanup()
     {
         qDeleteAll(mWidgets);
@@ -162,22 +163,21 @@ private Q_SLOTS:
         QFETCH(QString, state);
         QFETCH(bool, toggles);
 
-        RolloutContainer* container = shownContainer();
-        QVERIFY(container);
-        container->SetIsCollapsed(startCollapsed);
-        container->SetIsExpandableWhenDisabled(state == QLatin1String("disabled expandable"));
-        container->setEnabled(!state.startsWith(QLatin1String("disabled")));
-        container->SetExpandButtonVisible(state != QLatin1String("no button"));
-        QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
+        mContainer->SetIsCollapsed(startCollapsed);
+        mContainer->SetIsExpandableWhenDisabled(state == QLatin1String("disabled expandable"));
+        mContainer->setEnabled(!state.startsWith(QLatin1String("disabled")));
+        mContainer->SetExpandButtonVisible(state != QLatin1String("no button"));
+        QSignalSpy collapsed(mContainer, &RolloutContainer::Collapsed);
 
-        const QRect title = container->GetTitleRect();
+        const QRect title = mContainer->GetTitleRect();
         if (input == QLatin1String("up") || input == QLatin1String("down"))
-            QTest::keyClick(container, input == QLatin1String("up") ? Qt::Key_Up : Qt::Key_Down);
+            QTest::keyClick(mContainer, input == QLatin1String("up") ? Qt::Key_Up : Qt::Key_Down);
         else
-            QTest::mouseClick(
-                container, input == QLatin1String("right") ? Qt::RightButton : Qt::LeftButton, Qt::NoModifier,
-                input == QLatin1String("below") ? QPoint(title.center().x(), container->height() - 3) : title.center());
-        QCOMPARE(container->IsCollapsed(), startCollapsed != toggles);
+            QTest::mouseClick(mContainer, input == QLatin1String("right") ? Qt::RightButton : Qt::LeftButton,
+                              Qt::NoModifier,
+                              input == QLatin1String("below") ? QPoint(title.center().x(), mContainer->height() - 3)
+                                                              : title.center());
+        QCOMPARE(mContainer->IsCollapsed(), startCollapsed != toggles);
         QCOMPARE(collapsed.count(), toggles ? 1 : 0);
         if (toggles)
             QCOMPARE(collapsed.last().at(0).toBool(), !startCollapsed);
@@ -186,73 +186,69 @@ private Q_SLOTS:
 
     void hiddenExpandButtonFreezesTheState()
     {
-        RolloutContainer* container = shownContainer();
-        QVERIFY(container);
-        container->SetIsCollapsed(true);
-        QSignalSpy collapsed(container, &RolloutContainer::Collapsed);
-        container->SetExpandButtonVisible(false);
+        mContainer->SetIsCollapsed(true);
+        QSignalSpy collapsed(mContainer, &RolloutContainer::Collapsed);
+        mContainer->SetExpandButtonVisible(false);
         // Hiding the button expands first.
         QCOMPARE(collapsed.count(), 1);
         QCOMPARE(collapsed.last().at(0).toBool(), false);
-        QVERIFY(!container->IsCollapsed());
+        QVERIFY(!mContainer->IsCollapsed());
         // Nor can code collapse it now.
-        container->SetIsCollapsed(true);
-        QVERIFY(!container->IsCollapsed());
+        mContainer->SetIsCollapsed(true);
+        QVERIFY(!mContainer->IsCollapsed());
         QCOMPARE(collapsed.count(), 1);
 
         // No triangle is painted.
         const QColor triangle = Probe::ThemeColor(ThemeFileKey::Triangle);
         QVERIFY(triangle.isValid());
-        QCOMPARE(firstColumnWithColor(Probe::Grab(container), container->TitleHeight() / 2, triangle), -1);
+        QCOMPARE(firstColumnWithColor(Probe::Grab(mContainer), mContainer->TitleHeight() / 2, triangle), -1);
     }
 
     void checkBoxEnablesContentButKeepsHostDisabledChildren()
     {
-        RolloutContainer* container = shownContainer();
-        QVERIFY(container);
-        QLineEdit* edit = container->findChild<QLineEdit*>();
-        QLabel* label = container->findChild<QLabel*>();
+        QLineEdit* edit = mContainer->findChild<QLineEdit*>();
+        QLabel* label = mContainer->findChild<QLabel*>();
         label->setEnabled(false);
-        QAbstractButton* checkBox = checkBoxOf(container);
+        QAbstractButton* checkBox = checkBoxOf(mContainer);
         QVERIFY(qobject_cast<CheckBox*>(checkBox));
         QVERIFY(checkBox->isHidden());
-        QVERIFY(container->IsChecked());
+        QVERIFY(mContainer->IsChecked());
 
         // Not checkable: SetChecked is ignored.
-        container->SetChecked(false);
-        QVERIFY(container->IsChecked());
+        mContainer->SetChecked(false);
+        QVERIFY(mContainer->IsChecked());
         QVERIFY(edit->isEnabled());
 
-        container->SetIsCheckable(true);
+        mContainer->SetIsCheckable(true);
         QTRY_VERIFY(checkBox->isVisible());
-        container->repaint();
-        QSignalSpy toggled(container, &RolloutContainer::CheckBoxToggled);
-        QSignalSpy clicked(container, &RolloutContainer::CheckBoxClicked);
+        mContainer->repaint();
+        QSignalSpy toggled(mContainer, &RolloutContainer::CheckBoxToggled);
+        QSignalSpy clicked(mContainer, &RolloutContainer::CheckBoxClicked);
         // The check box sits in the title bar, right of the triangle column.
-        QVERIFY(container->GetTitleRect().contains(checkBox->geometry().center()));
+        QVERIFY(mContainer->GetTitleRect().contains(checkBox->geometry().center()));
 
         QTest::mouseClick(checkBox, Qt::LeftButton, Qt::NoModifier, checkBox->rect().center());
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(toggled.count(), 1);
         QCOMPARE(toggled.last().at(0).toBool(), false);
-        QVERIFY(!container->IsChecked());
+        QVERIFY(!mContainer->IsChecked());
         QVERIFY(!edit->isEnabled());
         QVERIFY(!label->isEnabled());
         QVERIFY(checkBox->isEnabled());
 
         QTest::mouseClick(checkBox, Qt::LeftButton, Qt::NoModifier, checkBox->rect().center());
-        QVERIFY(container->IsChecked());
+        QVERIFY(mContainer->IsChecked());
         QVERIFY(edit->isEnabled());
         QVERIFY(!label->isEnabled());
         QCOMPARE(toggled.last().at(0).toBool(), true);
 
         // Through the slot as well; enabling the container again re-applies the check state.
-        container->SetChecked(false);
+        mContainer->SetChecked(false);
         QVERIFY(!edit->isEnabled());
-        container->setEnabled(false);
-        container->setEnabled(true);
+        mContainer->setEnabled(false);
+        mContainer->setEnabled(true);
         QVERIFY(!edit->isEnabled());
-        container->SetChecked(true);
+        mContainer->SetChecked(true);
         QVERIFY(edit->isEnabled());
         QVERIFY(!label->isEnabled());
     }
@@ -355,13 +351,12 @@ private Q_SLOTS:
         // The cleanup reloads the light theme over the value merged into the dark one.
         QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
         QTemporaryDir dir;
-        QFile file(dir.filePath(QStringLiteral("metric.xbel")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QStringLiteral("<xbel version=\"1.0\"><ScalableInt name=\"%1\" value=\"%2\"/></xbel>")
-                       .arg(ThemeFileKey::RolloutcontainerTitleHeight, titleHeight)
-                       .toUtf8());
-        file.close();
-        QVERIFY(ThemeManager::GetInstance()->LoadThemeFile(file.fileName(), true));
+        const QString metric = dir.filePath(QStringLiteral("metric.xbel"));
+        QVERIFY(Probe::WriteFile(metric,
+                                 QStringLiteral("<xbel version=\"1.0\"><ScalableInt name=\"%1\" value=\"%2\"/></xbel>")
+                                     .arg(ThemeFileKey::RolloutcontainerTitleHeight, titleHeight)
+                                     .toUtf8()));
+        QVERIFY(ThemeManager::GetInstance()->LoadThemeFile(metric, true));
 
         RolloutContainer container;
         container.SetTitle(QStringLiteral("Geometry"));
@@ -391,6 +386,7 @@ private:
     }
 
     QList<QWidget*> mWidgets;
+    RolloutContainer* mContainer = nullptr;
 };
 
 QTEST_MAIN(tst_RolloutContainer)

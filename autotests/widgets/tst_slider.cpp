@@ -68,6 +68,7 @@ class tst_Slider : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init() { QVERIFY(mSlider = shownSlider()); }
     void cleanup()
     {
         qDeleteAll(mWidgets);
@@ -138,26 +139,25 @@ private Q_SLOTS:
         QFETCH(double, expected);
         QFETCH(bool, asFloat);
 
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetUnitType(Units::teType(unitType));
-        slider->SetUnitSymbolType(units::UnitSymbol(symbol));
-        slider->SetMaximum(maximum);
-        slider->SetTreatValueAsFloat(asFloat);
-        slider->SetValue(10.0);
-        SignalLog log(slider);
-        QSignalSpy moved(slider, &Slider::SliderMoved);
+        mSlider->SetUnitType(Units::teType(unitType));
+        mSlider->SetUnitSymbolType(units::UnitSymbol(symbol));
+        mSlider->SetMaximum(maximum);
+        mSlider->SetTreatValueAsFloat(asFloat);
+        mSlider->SetValue(10.0);
+        SignalLog log(mSlider);
+        QSignalSpy moved(mSlider, &Slider::SliderMoved);
 
-        NumericField* field = slider->GetNumericField();
+        NumericField* field = mSlider->GetNumericField();
         field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, typed);
         QVERIFY(log.mEntries.isEmpty());
         QTest::keyClick(field, Qt::Key_Return);
 
-        QVERIFY2(qAbs(slider->GetValue() - expected) < 1e-9, qPrintable(QString::number(slider->GetValue(), 'g', 17)));
-        QTEST(slider->GetSliderControl()->value(), "position");
-        QStringList expectedLog{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(slider->GetValue()),
+        QVERIFY2(qAbs(mSlider->GetValue() - expected) < 1e-9,
+                 qPrintable(QString::number(mSlider->GetValue(), 'g', 17)));
+        QTEST(mSlider->GetSliderControl()->value(), "position");
+        QStringList expectedLog{QStringLiteral("pressed"), QStringLiteral("changed %1").arg(mSlider->GetValue()),
                                 QStringLiteral("released")};
         if (expected == 10.0) {
             expectedLog.clear();
@@ -165,12 +165,11 @@ private Q_SLOTS:
         }
         QCOMPARE(log.mEntries, expectedLog);
         QCOMPARE(moved.count(), 0);
-        QVERIFY(!slider->IsModified());
+        QVERIFY(!mSlider->IsModified());
         QCOMPARE(field->selectedText(), field->text());
 
         // Leaving the field finishes no second edit.
-        slider->window()->findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
-        QTRY_VERIFY(!field->hasFocus());
+        QVERIFY(Probe::Focus(mSlider->window()->findChild<QLineEdit*>(QStringLiteral("other"))));
         QCOMPARE(log.mEntries, expectedLog);
     }
 
@@ -214,43 +213,39 @@ private Q_SLOTS:
         QFETCH(int, presses);
         QFETCH(double, valueStep);
 
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
         if (degrees) {
-            slider->SetUnitType(Units::teType(angleUnit));
-            slider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
-            slider->SetRange(0.0, 360.0);
+            mSlider->SetUnitType(Units::teType(angleUnit));
+            mSlider->SetUnitSymbolType(units::kSymbolDegreesMinutesSeconds);
+            mSlider->SetRange(0.0, 360.0);
         }
-        slider->SetDecimalPrecision(precision);
-        slider->SetValue(50.0);
-        SliderControl* control = slider->GetSliderControl();
+        mSlider->SetDecimalPrecision(precision);
+        mSlider->SetValue(50.0);
+        SliderControl* control = mSlider->GetSliderControl();
         if (degrees)
             QVERIFY(!control->DefaultKeyHandling());
         const int startPosition = control->value();
-        QSignalSpy changed(slider, &Slider::ValueChanged);
-        QSignalSpy pressed(slider, &Slider::SliderPressed);
-        QSignalSpy released(slider, &Slider::SliderReleased);
+        QSignalSpy changed(mSlider, &Slider::ValueChanged);
+        QSignalSpy pressed(mSlider, &Slider::SliderPressed);
+        QSignalSpy released(mSlider, &Slider::SliderReleased);
         control->setFocus();
         for (int i = 0; i < presses; ++i) {
             QTest::keyClick(control, Qt::Key(key));
-            QVERIFY(qAbs(slider->GetValue() - (50.0 + (i + 1) * valueStep)) < qAbs(valueStep) / 100);
+            QVERIFY(qAbs(mSlider->GetValue() - (50.0 + (i + 1) * valueStep)) < qAbs(valueStep) / 100);
         }
         if (!degrees)
             QTEST(control->value() - startPosition, "positionMove");
         QCOMPARE(changed.count(), presses);
         QCOMPARE(pressed.count(), presses);
         QCOMPARE(released.count(), presses);
-        QCOMPARE(changed.last().at(0).toDouble(), slider->GetValue());
+        QCOMPARE(changed.last().at(0).toDouble(), mSlider->GetValue());
     }
 
     void escapeDuringAKeyboardDragCancels()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetValue(20.0);
-        SliderControl* control = slider->GetSliderControl();
+        mSlider->SetValue(20.0);
+        SliderControl* control = mSlider->GetSliderControl();
         control->setFocus();
-        SignalLog log(slider);
+        SignalLog log(mSlider);
         QTest::keyPress(control, Qt::Key_Right);
         QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
         QApplication::sendEvent(control, &repeat);
@@ -264,11 +259,9 @@ private Q_SLOTS:
 
     void wheelNotchAwayFromTheUserLowersThePosition()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetValue(40.0);
-        SliderControl* control = slider->GetSliderControl();
-        SignalLog log(slider);
+        mSlider->SetValue(40.0);
+        SliderControl* control = mSlider->GetSliderControl();
+        SignalLog log(mSlider);
         const QPointF centre = QRectF(control->rect()).center();
         const auto wheel = [&](int delta) {
             QWheelEvent event(centre, control->mapToGlobal(centre), QPoint(), QPoint(0, delta), Qt::NoButton,
@@ -277,7 +270,7 @@ private Q_SLOTS:
         };
         wheel(120);
         QCOMPARE(control->value(), 3999);
-        QCOMPARE(slider->GetValue(), 39.99);
+        QCOMPARE(mSlider->GetValue(), 39.99);
         wheel(-240);
         QCOMPARE(control->value(), 4001);
         // Less than a notch does nothing.
@@ -289,18 +282,16 @@ private Q_SLOTS:
 
     void dragStartsWhereTheThumbIsAndFollowsTheMouse()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetDecimalPrecision(0);
-        slider->SetValue(50.0);
-        SliderControl* control = slider->GetSliderControl();
-        SignalLog log(slider);
-        QSignalSpy moved(slider, &Slider::SliderMoved);
+        mSlider->SetDecimalPrecision(0);
+        mSlider->SetValue(50.0);
+        SliderControl* control = mSlider->GetSliderControl();
+        SignalLog log(mSlider);
+        QSignalSpy moved(mSlider, &Slider::SliderMoved);
 
         const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
         const QPoint press(groove.left() + groove.width() / 5, groove.center().y());
         QTest::mousePress(control, Qt::LeftButton, {}, press);
-        QCOMPARE(slider->GetValue(), 50.0);
+        QCOMPARE(mSlider->GetValue(), 50.0);
         QCOMPARE(log.mEntries, QStringList({"pressed"}));
 
         QStyleOptionSlider option;
@@ -315,7 +306,7 @@ private Q_SLOTS:
         QApplication::sendEvent(control, &move);
         const int expected = 50 + int(float(dx) / pixelsPerPosition);
         QCOMPARE(control->value(), expected);
-        QCOMPARE(slider->GetValue(), double(expected));
+        QCOMPARE(mSlider->GetValue(), double(expected));
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.last().at(0).toInt(), expected);
 
@@ -327,21 +318,19 @@ private Q_SLOTS:
 
     void rightButtonDragsAndOtherButtonsDoNothing()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetDecimalPrecision(0);
-        slider->SetRange(-100.0, 100.0);
-        slider->SetValue(0.0);
-        SliderControl* control = slider->GetSliderControl();
+        mSlider->SetDecimalPrecision(0);
+        mSlider->SetRange(-100.0, 100.0);
+        mSlider->SetValue(0.0);
+        SliderControl* control = mSlider->GetSliderControl();
         QCOMPARE(control->GetStoredMinimum(), -100);
-        SignalLog log(slider);
+        SignalLog log(mSlider);
         const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
         const QPoint press = groove.center();
 
         QTest::mousePress(control, Qt::MiddleButton, {}, press);
         QTest::mouseRelease(control, Qt::MiddleButton, {}, press);
         QVERIFY(log.mEntries.isEmpty());
-        QCOMPARE(slider->GetValue(), 0.0);
+        QCOMPARE(mSlider->GetValue(), 0.0);
 
         QTest::mousePress(control, Qt::RightButton, {}, press);
         // The left button is ignored while the right one drags.
@@ -350,7 +339,7 @@ private Q_SLOTS:
         QMouseEvent move(QEvent::MouseMove, QPointF(groove.left(), press.y()), control->mapToGlobal(QPointF(press)),
                          Qt::NoButton, Qt::RightButton, Qt::NoModifier);
         QApplication::sendEvent(control, &move);
-        QVERIFY(slider->GetValue() < 0.0);
+        QVERIFY(mSlider->GetValue() < 0.0);
         QCOMPARE(control->minimum(), -100);
         QCOMPARE(control->maximum(), 100);
         QTest::mouseRelease(control, Qt::RightButton, {}, QPoint(groove.left(), press.y()));
@@ -361,141 +350,130 @@ private Q_SLOTS:
 
     void refusedValuesLeaveValueAndPosition()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetValue(30.0);
-        SliderControl* control = slider->GetSliderControl();
-        connect(slider, &Slider::ValidateChangingValue, slider, [](double& value, bool& valid) {
+        mSlider->SetValue(30.0);
+        SliderControl* control = mSlider->GetSliderControl();
+        connect(mSlider, &Slider::ValidateChangingValue, mSlider, [](double& value, bool& valid) {
             if (value > 30.0)
                 valid = false;
         });
-        QSignalSpy changed(slider, &Slider::ValueChanged);
+        QSignalSpy changed(mSlider, &Slider::ValueChanged);
         control->setFocus();
         QTest::keyClick(control, Qt::Key_Right);
-        QCOMPARE(slider->GetValue(), 30.0);
+        QCOMPARE(mSlider->GetValue(), 30.0);
         QCOMPARE(control->value(), 3000);
         QTest::keyClick(control, Qt::Key_Left);
-        QCOMPARE(slider->GetValue(), 29.99);
+        QCOMPARE(mSlider->GetValue(), 29.99);
 
-        TypeAndConfirm(slider->GetNumericField(), QStringLiteral("55"));
-        QCOMPARE(slider->GetValue(), 29.99);
-        QCOMPARE(slider->GetNumericField()->text(), QStringLiteral("29.99"));
+        TypeAndConfirm(mSlider->GetNumericField(), QStringLiteral("55"));
+        QCOMPARE(mSlider->GetValue(), 29.99);
+        QCOMPARE(mSlider->GetNumericField()->text(), QStringLiteral("29.99"));
         QCOMPARE(changed.count(), 1);
     }
 
     void valueFromCodeMovesSilentlyAndRangeChangesClamp()
     {
-        Slider slider;
-        slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-        SignalLog log(&slider);
-        QSignalSpy validate(&slider, &Slider::ValidateChangingValue);
-        slider.SetValue(33.33);
-        QCOMPARE(slider.GetSliderControl()->value(), 3333);
-        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("33.33"));
-        QCOMPARE(slider.GetNumericField()->cursorPosition(), 0);
+        SignalLog log(mSlider);
+        QSignalSpy validate(mSlider, &Slider::ValidateChangingValue);
+        mSlider->SetValue(33.33);
+        QCOMPARE(mSlider->GetSliderControl()->value(), 3333);
+        QCOMPARE(mSlider->GetNumericField()->text(), QStringLiteral("33.33"));
+        QCOMPARE(mSlider->GetNumericField()->cursorPosition(), 0);
         // Outside the range the value stays as set; the thumb stops at the end.
-        slider.SetValue(150.0);
-        QCOMPARE(slider.GetValue(), 150.0);
-        QCOMPARE(slider.GetSliderControl()->value(), 10000);
+        mSlider->SetValue(150.0);
+        QCOMPARE(mSlider->GetValue(), 150.0);
+        QCOMPARE(mSlider->GetSliderControl()->value(), 10000);
         QVERIFY(log.mEntries.isEmpty());
         QCOMPARE(validate.count(), 0);
 
-        slider.SetValue(80.0);
-        QSignalSpy changed(&slider, &Slider::ValueChanged);
-        slider.SetRange(-50.0, 200.0);
-        QCOMPARE(slider.GetSliderControl()->minimum(), -5000);
-        QCOMPARE(slider.GetSliderControl()->maximum(), 20000);
-        QCOMPARE(slider.GetSliderControl()->value(), 8000);
+        mSlider->SetValue(80.0);
+        QSignalSpy changed(mSlider, &Slider::ValueChanged);
+        mSlider->SetRange(-50.0, 200.0);
+        QCOMPARE(mSlider->GetSliderControl()->minimum(), -5000);
+        QCOMPARE(mSlider->GetSliderControl()->maximum(), 20000);
+        QCOMPARE(mSlider->GetSliderControl()->value(), 8000);
         QCOMPARE(changed.count(), 0);
-        slider.SetMaximum(60.0);
-        QCOMPARE(slider.GetValue(), 60.0);
+        mSlider->SetMaximum(60.0);
+        QCOMPARE(mSlider->GetValue(), 60.0);
         QCOMPARE(changed.count(), 1);
-        slider.setProperty("minimum", 10.0);
-        QCOMPARE(slider.GetMinimum(), 10.0);
-        QCOMPARE(slider.GetSliderControl()->minimum(), 1000);
+        mSlider->setProperty("minimum", 10.0);
+        QCOMPARE(mSlider->GetMinimum(), 10.0);
+        QCOMPARE(mSlider->GetSliderControl()->minimum(), 1000);
     }
 
     void deferredUpdatesWaitForUpdateForUnits()
     {
-        Slider slider;
-        slider.SetSeparators(QStringLiteral("."), QStringLiteral(","));
-        slider.SetUnitType(Units::eMillimeter);
-        slider.SetRange(0.0, 1000.0);
-        slider.SetValue(254.0);
-        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
-        QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
+        mSlider->SetUnitType(Units::eMillimeter);
+        mSlider->SetRange(0.0, 1000.0);
+        mSlider->SetValue(254.0);
+        QCOMPARE(mSlider->GetNumericField()->text(), QStringLiteral("254.00"));
+        QCOMPARE(mSlider->GetSliderControl()->maximum(), 100000);
 
-        slider.SetDeferUpdateForUnits(true);
+        mSlider->SetDeferUpdateForUnits(true);
         // The number format is not among the changes the slider follows.
-        slider.SetNumberFormatId(units::kNumberFormatFractional);
-        slider.SetNumberFormatId(units::kNumberFormatDecimal);
-        QVERIFY(!slider.HaveDeferredUpdatesForUnits());
-        slider.SetDecimalPrecision(1);
-        slider.SetUnitSymbolType(units::kSymbolInch);
-        slider.SetDecimalSeparator(QStringLiteral(","));
-        QVERIFY(slider.HaveDeferredUpdatesForUnits());
-        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("254.00"));
-        QCOMPARE(slider.GetSliderControl()->maximum(), 100000);
-        QCOMPARE(slider.GetUnitSymbolLabel(), QString());
+        mSlider->SetNumberFormatId(units::kNumberFormatFractional);
+        mSlider->SetNumberFormatId(units::kNumberFormatDecimal);
+        QVERIFY(!mSlider->HaveDeferredUpdatesForUnits());
+        mSlider->SetDecimalPrecision(1);
+        mSlider->SetUnitSymbolType(units::kSymbolInch);
+        mSlider->SetDecimalSeparator(QStringLiteral(","));
+        QVERIFY(mSlider->HaveDeferredUpdatesForUnits());
+        QCOMPARE(mSlider->GetNumericField()->text(), QStringLiteral("254.00"));
+        QCOMPARE(mSlider->GetSliderControl()->maximum(), 100000);
+        QCOMPARE(mSlider->GetUnitSymbolLabel(), QString());
         // Still deferring: the call only marks.
-        slider.UpdateForUnits();
-        QVERIFY(slider.HaveDeferredUpdatesForUnits());
+        mSlider->UpdateForUnits();
+        QVERIFY(mSlider->HaveDeferredUpdatesForUnits());
 
-        slider.SetDeferUpdateForUnits(false);
-        slider.UpdateForUnits();
-        QVERIFY(!slider.HaveDeferredUpdatesForUnits());
-        QCOMPARE(slider.GetNumericField()->text(), QStringLiteral("10,0"));
-        QCOMPARE(slider.GetSliderControl()->maximum(), 394);
-        QCOMPARE(slider.GetSliderControl()->value(), 100);
-        QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Inches"));
+        mSlider->SetDeferUpdateForUnits(false);
+        mSlider->UpdateForUnits();
+        QVERIFY(!mSlider->HaveDeferredUpdatesForUnits());
+        QCOMPARE(mSlider->GetNumericField()->text(), QStringLiteral("10,0"));
+        QCOMPARE(mSlider->GetSliderControl()->maximum(), 394);
+        QCOMPARE(mSlider->GetSliderControl()->value(), 100);
+        QCOMPARE(mSlider->GetUnitSymbolLabel(), QStringLiteral("Inches"));
     }
 
     void unitSymbolLabelShowsTheDisplayName()
     {
-        Slider slider;
-        QLabel* label = slider.findChild<QLabel*>();
+        QLabel* label = mSlider->findChild<QLabel*>();
         QVERIFY(label);
-        slider.SetUnitType(Units::eMillimeter);
-        slider.SetUnitSymbolType(units::kSymbolMillimeter);
-        QCOMPARE(slider.GetUnitSymbolLabel(), QStringLiteral("Millimeters"));
-        QVERIFY(!label->isVisibleTo(&slider));
-        slider.ShowUnitSymbolLabel(true);
-        QVERIFY(label->isVisibleTo(&slider));
-        slider.SetUnitSymbolLabel(QString());
-        QVERIFY(!label->isVisibleTo(&slider));
-        slider.SetUnitSymbolLabel(QStringLiteral("mm"));
-        QVERIFY(label->isVisibleTo(&slider));
-        slider.ShowUnitSymbolLabel(false);
-        QVERIFY(!label->isVisibleTo(&slider));
+        mSlider->SetUnitType(Units::eMillimeter);
+        mSlider->SetUnitSymbolType(units::kSymbolMillimeter);
+        QCOMPARE(mSlider->GetUnitSymbolLabel(), QStringLiteral("Millimeters"));
+        QVERIFY(!label->isVisibleTo(mSlider));
+        mSlider->ShowUnitSymbolLabel(true);
+        QVERIFY(label->isVisibleTo(mSlider));
+        mSlider->SetUnitSymbolLabel(QString());
+        QVERIFY(!label->isVisibleTo(mSlider));
+        mSlider->SetUnitSymbolLabel(QStringLiteral("mm"));
+        QVERIFY(label->isVisibleTo(mSlider));
+        mSlider->ShowUnitSymbolLabel(false);
+        QVERIFY(!label->isVisibleTo(mSlider));
     }
 
     void focusLossIsAnnounced()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        QSignalSpy focusOut(slider, &Slider::SliderFocusOut);
-        QLineEdit* other = slider->window()->findChild<QLineEdit*>(QStringLiteral("other"));
-        SliderControl* control = slider->GetSliderControl();
+        QSignalSpy focusOut(mSlider, &Slider::SliderFocusOut);
+        QLineEdit* other = mSlider->window()->findChild<QLineEdit*>(QStringLiteral("other"));
+        SliderControl* control = mSlider->GetSliderControl();
         QVERIFY(Probe::Focus(control));
         QTest::keyPress(control, Qt::Key_Up);
         other->setFocus();
         QTRY_COMPARE(focusOut.count(), 1);
         QVERIFY(control->HeldInputs().isEmpty());
-        QVERIFY(Probe::Focus(slider->GetNumericField()));
+        QVERIFY(Probe::Focus(mSlider->GetNumericField()));
         other->setFocus();
         QTRY_COMPARE(focusOut.count(), 2);
     }
 
     void displayTextIsPaintedOnTheGroove()
     {
-        Slider* slider = shownSlider();
-        QVERIFY(slider);
-        slider->SetNumFieldVisible(false);
-        SliderControl* control = slider->GetSliderControl();
-        slider->SetValue(0.0);
+        mSlider->SetNumFieldVisible(false);
+        SliderControl* control = mSlider->GetSliderControl();
+        mSlider->SetValue(0.0);
         const QRect groove = SubControl(control, QStyle::SC_SliderGroove);
         const QImage before = Probe::Grab(control);
-        slider->SetDisplayText(QStringLiteral("Opacity"));
+        mSlider->SetDisplayText(QStringLiteral("Opacity"));
         QCOMPARE(control->property("attributeTextTerm").toString(), QStringLiteral("Opacity"));
         const QImage after = Probe::Grab(control);
         QCOMPARE(after.size(), before.size());
@@ -529,6 +507,7 @@ private:
     }
 
     QList<QWidget*> mWidgets;
+    Slider* mSlider = nullptr;
 };
 
 QTEST_MAIN(tst_Slider)

@@ -47,6 +47,7 @@ class tst_TextBox : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Probe::UseRepositoryThemes(); }
+    void init() { QVERIFY(mBox = shownBox()); }
     void cleanup()
     {
         qDeleteAll(mWidgets);
@@ -81,49 +82,45 @@ private Q_SLOTS:
     {
         QFETCH(QString, in);
 
-        TextBox box;
-        box.TextValidationInitialize({kTooLong, kForbidden}, 10);
+        mBox->TextValidationInitialize({kTooLong, kForbidden}, 10);
         QString result, message;
-        QTEST(box.ValidateText(in, result, message), "valid");
+        QTEST(mBox->ValidateText(in, result, message), "valid");
         QTEST(result, "out");
         QTEST(message, "error");
     }
 
     void validateCutsAndLooksForAllowedCharacters()
     {
-        TextBox box;
-        box.SetText(QString(300, QLatin1Char('x')));
-        QVERIFY(box.Validate());
-        QCOMPARE(box.GetText().size(), 255);
+        mBox->SetText(QString(300, QLatin1Char('x')));
+        QVERIFY(mBox->Validate());
+        QCOMPARE(mBox->GetText().size(), 255);
 
-        box.SetText(QStringLiteral(":*?"));
-        QVERIFY(!box.Validate());
-        box.SetText(QStringLiteral(":a?"));
-        QVERIFY(box.Validate());
-        box.SetText(QString());
-        QVERIFY(!box.Validate());
+        mBox->SetText(QStringLiteral(":*?"));
+        QVERIFY(!mBox->Validate());
+        mBox->SetText(QStringLiteral(":a?"));
+        QVERIFY(mBox->Validate());
+        mBox->SetText(QString());
+        QVERIFY(!mBox->Validate());
     }
 
     void typedNamesAreTrimmedAndReturnRestoresLastValidText()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        box->SetNeedValidate(true);
-        box->TextValidationInitialize({kTooLong, kForbidden}, 64);
-        box->SetText(QStringLiteral("drawing"));
-        QSignalSpy finished(box, &TextBox::EditingFinished);
-        QSignalSpy returned(box, &TextBox::ReturnPressed);
-        QLineEdit* editor = box->GetLineEdit();
-        QVERIFY(FocusBox(box));
+        mBox->SetNeedValidate(true);
+        mBox->TextValidationInitialize({kTooLong, kForbidden}, 64);
+        mBox->SetText(QStringLiteral("drawing"));
+        QSignalSpy finished(mBox, &TextBox::EditingFinished);
+        QSignalSpy returned(mBox, &TextBox::ReturnPressed);
+        QLineEdit* editor = mBox->GetLineEdit();
+        QVERIFY(FocusBox(mBox));
         editor->selectAll();
         QTest::keyClicks(editor, QStringLiteral(" name "));
         QCOMPARE(editor->text(), QStringLiteral(" name "));
         // Leaving the box ends the editing; the trimmed text becomes the last valid one.
-        FocusElsewhere(box);
+        FocusElsewhere(mBox);
         QTRY_COMPARE(finished.count(), 1);
-        QCOMPARE(box->GetText(), QStringLiteral("name"));
+        QCOMPARE(mBox->GetText(), QStringLiteral("name"));
 
-        QVERIFY(FocusBox(box));
+        QVERIFY(FocusBox(mBox));
         editor->selectAll();
         QTest::keyClicks(editor, QStringLiteral("part:one"));
         QCOMPARE(editor->text(), QStringLiteral("part:one"));
@@ -132,7 +129,7 @@ private Q_SLOTS:
         QTest::keyClick(editor, Qt::Key_Return);
         QCOMPARE(returned.count(), 1);
         QVERIFY(finished.count() >= 2);
-        QCOMPARE(box->GetText(), QStringLiteral("name"));
+        QCOMPARE(mBox->GetText(), QStringLiteral("name"));
 
         // A valid text hides the error again.
         editor->selectAll();
@@ -142,34 +139,31 @@ private Q_SLOTS:
 
     void validationWithoutInitializationRejectsEveryText()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        box->SetNeedValidate(true);
-        QVERIFY(FocusBox(box));
-        QTest::keyClicks(box->GetLineEdit(), QStringLiteral("abc"));
+        mBox->SetNeedValidate(true);
+        QVERIFY(FocusBox(mBox));
+        QTest::keyClicks(mBox->GetLineEdit(), QStringLiteral("abc"));
         // Invalid, but there is no message to show.
         QVERIFY(!QToolTip::isVisible());
-        QTest::keyClick(box->GetLineEdit(), Qt::Key_Return);
-        QCOMPARE(box->GetText(), QString());
+        QTest::keyClick(mBox->GetLineEdit(), Qt::Key_Return);
+        QCOMPARE(mBox->GetText(), QString());
     }
 
     void setTextWithValidationTakesOnlyValidText()
     {
-        TextBox box;
-        box.SetNeedValidate(true);
-        box.TextValidationInitialize({kTooLong, kForbidden}, 8);
-        QSignalSpy changed(&box, &TextBox::TextChanged);
-        QSignalSpy edited(&box, &TextBox::TextEdited);
+        mBox->SetNeedValidate(true);
+        mBox->TextValidationInitialize({kTooLong, kForbidden}, 8);
+        QSignalSpy changed(mBox, &TextBox::TextChanged);
+        QSignalSpy edited(mBox, &TextBox::TextEdited);
         for (const char* text : {"  ok  ", "no|pe", "far too long", "ok"}) {
-            box.SetText(QString::fromLatin1(text));
-            QCOMPARE(box.GetText(), QStringLiteral("ok"));
+            mBox->SetText(QString::fromLatin1(text));
+            QCOMPARE(mBox->GetText(), QStringLiteral("ok"));
         }
         // Only a change is announced, and never as an edit.
         QCOMPARE(changed.count(), 1);
         QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("ok"));
-        box.UpdateText(QStringLiteral("fine"));
-        QCOMPARE(box.GetText(), QStringLiteral("fine"));
-        QCOMPARE(box.GetLineEdit()->cursorPosition(), 0);
+        mBox->UpdateText(QStringLiteral("fine"));
+        QCOMPARE(mBox->GetText(), QStringLiteral("fine"));
+        QCOMPARE(mBox->GetLineEdit()->cursorPosition(), 0);
         QCOMPARE(edited.count(), 0);
     }
 
@@ -195,25 +189,23 @@ private Q_SLOTS:
 
     void editorActivityIsRepublishedAndPageKeysJump()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        QSignalSpy edited(box, &TextBox::TextEdited);
-        QSignalSpy cursor(box, &TextBox::CursorPositionChanged);
-        QSignalSpy selection(box, &TextBox::SelectionChanged);
-        QSignalSpy focusIn(box, &TextBox::FocusIn);
-        QSignalSpy focusOut(box, &TextBox::FocusOut);
-        QSignalSpy escape(box, &TextBox::EscapePressed);
-        LineEdit* editor = box->GetLineEdit();
+        QSignalSpy edited(mBox, &TextBox::TextEdited);
+        QSignalSpy cursor(mBox, &TextBox::CursorPositionChanged);
+        QSignalSpy selection(mBox, &TextBox::SelectionChanged);
+        QSignalSpy focusIn(mBox, &TextBox::FocusIn);
+        QSignalSpy focusOut(mBox, &TextBox::FocusOut);
+        QSignalSpy escape(mBox, &TextBox::EscapePressed);
+        LineEdit* editor = mBox->GetLineEdit();
 
-        box->setTabFocus();
-        QTRY_VERIFY(box->GetLineEdit()->hasFocus());
+        mBox->setTabFocus();
+        QTRY_VERIFY(mBox->GetLineEdit()->hasFocus());
         QCOMPARE(focusIn.count(), 1);
-        QTest::keyClicks(box->GetLineEdit(), QStringLiteral("ab"));
+        QTest::keyClicks(mBox->GetLineEdit(), QStringLiteral("ab"));
         QCOMPARE(edited.count(), 2);
         QCOMPARE(edited.last().at(0).toString(), QStringLiteral("ab"));
         QVERIFY(cursor.count() >= 2);
         QCOMPARE(cursor.last().at(1).toInt(), 2);
-        box->GetLineEdit()->selectAll();
+        mBox->GetLineEdit()->selectAll();
         QVERIFY(selection.count() >= 1);
         QTest::keyClick(editor, Qt::Key_Escape);
         QCOMPARE(escape.count(), 1);
@@ -224,7 +216,7 @@ private Q_SLOTS:
         QTest::keyClick(editor, Qt::Key_PageUp);
         QCOMPARE(editor->cursorPosition(), 0);
 
-        FocusElsewhere(box);
+        FocusElsewhere(mBox);
         QTRY_COMPARE(focusOut.count(), 1);
     }
 
@@ -245,13 +237,11 @@ private Q_SLOTS:
         QFETCH(bool, releaseElsewhere);
         QFETCH(int, triggered);
 
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        auto* action = new QAction(solidIcon(Qt::red), QStringLiteral("Browse"), box);
-        box->SetImageAction(action);
+        auto* action = new QAction(solidIcon(Qt::red), QStringLiteral("Browse"), mBox);
+        mBox->SetImageAction(action);
         QSignalSpy actionSpy(action, &QAction::triggered);
-        QSignalSpy clicked(box, &TextBox::ImageClicked);
-        QWidget* label = box->GetImageLabel();
+        QSignalSpy clicked(mBox, &TextBox::ImageClicked);
+        QWidget* label = mBox->GetImageLabel();
         QTRY_VERIFY(label->isVisible());
         const QPoint press = releaseElsewhere ? QPoint(2, 2) : label->rect().center();
         QTest::mousePress(label, button, Qt::NoModifier, press);
@@ -266,28 +256,26 @@ private Q_SLOTS:
 
     void iconsFromActionsAndNullIconHidesLabel()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        QCOMPARE(box->GetIconPosition(), TextBox::NoIcon);
-        box->SetIcon(solidIcon(Qt::green));
-        QCOMPARE(box->GetIconPosition(), TextBox::OuterLeft);
-        QTRY_VERIFY(box->GetImageLabel()->isVisible());
+        QCOMPARE(mBox->GetIconPosition(), TextBox::NoIcon);
+        mBox->SetIcon(solidIcon(Qt::green));
+        QCOMPARE(mBox->GetIconPosition(), TextBox::OuterLeft);
+        QTRY_VERIFY(mBox->GetImageLabel()->isVisible());
 
-        box->SetIcon(QIcon());
-        QCOMPARE(box->GetIconPosition(), TextBox::NoIcon);
-        QVERIFY(box->GetImageLabel()->isHidden());
-        QCOMPARE(box->layout()->contentsMargins(), QMargins(4, 0, 4, 0));
-        QCOMPARE(box->layout()->spacing(), 0);
+        mBox->SetIcon(QIcon());
+        QCOMPARE(mBox->GetIconPosition(), TextBox::NoIcon);
+        QVERIFY(mBox->GetImageLabel()->isHidden());
+        QCOMPARE(mBox->layout()->contentsMargins(), QMargins(4, 0, 4, 0));
+        QCOMPARE(mBox->layout()->spacing(), 0);
 
         // An image action without an icon gives none until it gets one.
         QAction action(QStringLiteral("Pick"));
-        box->SetImageAction(&action);
-        QVERIFY(box->GetIcon().isNull());
+        mBox->SetImageAction(&action);
+        QVERIFY(mBox->GetIcon().isNull());
         const QIcon icon = solidIcon(Qt::cyan);
         action.setIcon(icon);
-        QCOMPARE(box->GetIcon().cacheKey(), icon.cacheKey());
-        QCOMPARE(box->GetIconPosition(), TextBox::OuterLeft);
-        QCOMPARE(box->property("imageAction").value<QAction*>(), &action);
+        QCOMPARE(mBox->GetIcon().cacheKey(), icon.cacheKey());
+        QCOMPARE(mBox->GetIconPosition(), TextBox::OuterLeft);
+        QCOMPARE(mBox->property("imageAction").value<QAction*>(), &action);
     }
 
     void iconPositionLayouts_data()
@@ -311,23 +299,21 @@ private Q_SLOTS:
         QFETCH(int, spacing);
         QFETCH(bool, iconLeft);
 
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        box->SetIcon(solidIcon(Qt::magenta));
-        box->SetIconPosition(position);
-        QCOMPARE(box->property("iconPosition").value<TextBox::IconPosition>(), position);
-        QCOMPARE(box->layout()->contentsMargins(), margins);
-        QCOMPARE(box->layout()->spacing(), spacing);
-        box->layout()->activate();
-        const QRect icon = box->GetImageLabel()->geometry();
-        const QRect editor = box->GetLineEdit()->geometry();
+        mBox->SetIcon(solidIcon(Qt::magenta));
+        mBox->SetIconPosition(position);
+        QCOMPARE(mBox->property("iconPosition").value<TextBox::IconPosition>(), position);
+        QCOMPARE(mBox->layout()->contentsMargins(), margins);
+        QCOMPARE(mBox->layout()->spacing(), spacing);
+        mBox->layout()->activate();
+        const QRect icon = mBox->GetImageLabel()->geometry();
+        const QRect editor = mBox->GetLineEdit()->geometry();
         // The icon is square: the box height less the image margins.
-        QCOMPARE(icon.size(), QSize(box->height() - 6, box->height() - 6));
+        QCOMPARE(icon.size(), QSize(mBox->height() - 6, mBox->height() - 6));
         if (iconLeft) {
             QCOMPARE(icon.left(), margins.left());
             QCOMPARE(editor.left(), icon.right() + 1 + spacing);
         } else {
-            QCOMPARE(icon.right(), box->width() - 1 - margins.right());
+            QCOMPARE(icon.right(), mBox->width() - 1 - margins.right());
             QCOMPARE(editor.right(), icon.left() - 1 - spacing);
         }
     }
@@ -344,50 +330,46 @@ private Q_SLOTS:
     {
         QFETCH(QString, theme);
         QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(theme));
-        TextBox* box = shownBox();
-        QVERIFY(box);
         // Right of the (empty) text, inside the panel; and the middle of the top edge.
-        const QPoint interior(box->width() - 8, box->height() / 2);
-        const QPoint topEdge(box->width() / 2, 1);
+        const QPoint interior(mBox->width() - 8, mBox->height() / 2);
+        const QPoint topEdge(mBox->width() / 2, 1);
         const auto expect = [&](const QString& background, const QString& border, const char* state) {
-            const QImage image = Probe::Grab(box);
+            const QImage image = Probe::Grab(mBox);
             QVERIFY2(Probe::ThemeColor(background).isValid() && Probe::ThemeColor(border).isValid(), state);
             QVERIFY2(Probe::PixelAt(image, interior).rgb() == Probe::ThemeColor(background).rgb(), state);
             QVERIFY2(Probe::PixelAt(image, topEdge).rgb() == Probe::ThemeColor(border).rgb(), state);
         };
         expect(ThemeFileKey::WidgetContainer9, ThemeFileKey::WidgetOutline3, "normal");
-        box->setAttribute(Qt::WA_UnderMouse, true);
+        mBox->setAttribute(Qt::WA_UnderMouse, true);
         expect(ThemeFileKey::WidgetContainer12, ThemeFileKey::HoverOutline4, "hovered");
-        box->setAttribute(Qt::WA_UnderMouse, false);
+        mBox->setAttribute(Qt::WA_UnderMouse, false);
 
         // Focused: a halo inside the outline.
-        QVERIFY(FocusBox(box));
+        QVERIFY(FocusBox(mBox));
         expect(ThemeFileKey::WidgetContainer12, ThemeFileKey::FocusOutline2, "focused");
-        QCOMPARE(Probe::PixelAt(Probe::Grab(box), QPoint(box->width() / 2, 0)).rgb(),
+        QCOMPARE(Probe::PixelAt(Probe::Grab(mBox), QPoint(mBox->width() / 2, 0)).rgb(),
                  Probe::ThemeColor(ThemeFileKey::WidgetOutline6).rgb());
 
-        FocusElsewhere(box);
-        box->setEnabled(false);
+        FocusElsewhere(mBox);
+        mBox->setEnabled(false);
         expect(ThemeFileKey::WidgetContainerDisable, ThemeFileKey::WidgetOutlineDisable, "disabled");
         // The editor's text is dimmed to 40 %.
-        QCOMPARE(box->GetLineEdit()->GetTextColor().alpha(), 102);
+        QCOMPARE(mBox->GetLineEdit()->GetTextColor().alpha(), 102);
     }
 
     void outerIconStaysOutsideTheFrame()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        box->SetIcon(solidIcon(Qt::transparent));
-        box->SetIconPosition(TextBox::OuterLeft);
-        box->layout()->activate();
+        mBox->SetIcon(solidIcon(Qt::transparent));
+        mBox->SetIconPosition(TextBox::OuterLeft);
+        mBox->layout()->activate();
         const QColor background = Probe::ThemeColor(ThemeFileKey::WidgetContainer9);
-        const QImage image = Probe::Grab(box);
-        const QRect editor = box->GetLineEdit()->geometry();
+        const QImage image = Probe::Grab(mBox);
+        const QRect editor = mBox->GetLineEdit()->geometry();
         // The frame starts 4 pixels left of the editor; the icon column left of it is not painted.
-        const QPoint frameLeft(editor.left() - 4, box->height() / 2);
+        const QPoint frameLeft(editor.left() - 4, mBox->height() / 2);
         QCOMPARE(Probe::PixelAt(image, frameLeft + QPoint(3, 0)).rgb(), background.rgb());
-        QVERIFY(Probe::PixelAt(image, QPoint(2, box->height() / 2)).rgb() != background.rgb() ||
-                Probe::PixelAt(image, QPoint(2, box->height() / 2)).alpha() == 0);
+        QVERIFY(Probe::PixelAt(image, QPoint(2, mBox->height() / 2)).rgb() != background.rgb() ||
+                Probe::PixelAt(image, QPoint(2, mBox->height() / 2)).alpha() == 0);
     }
 
     void sharedFrameAndPanelPainters()
@@ -418,28 +400,26 @@ private Q_SLOTS:
 
     void promptingTextShowsWhileEmptyAndUnfocused()
     {
-        TextBox* box = shownBox();
-        QVERIFY(box);
-        box->SetPrompt(QStringLiteral("Type a name"));
-        LineEdit* editor = box->GetLineEdit();
+        mBox->SetPrompt(QStringLiteral("Type a name"));
+        LineEdit* editor = mBox->GetLineEdit();
         QVERIFY(editor->IsPrompting());
         QCOMPARE(editor->text(), QStringLiteral("Type a name"));
-        QCOMPARE(box->GetText(), QString());
+        QCOMPARE(mBox->GetText(), QString());
         QVERIFY(editor->font().italic());
 
-        QVERIFY(FocusBox(box));
+        QVERIFY(FocusBox(mBox));
         QVERIFY(!editor->IsPrompting());
         QCOMPARE(editor->text(), QString());
         QVERIFY(!editor->font().italic());
 
         QTest::keyClicks(editor, QStringLiteral("x"));
-        FocusElsewhere(box);
+        FocusElsewhere(mBox);
         QTRY_VERIFY(!editor->hasFocus());
         QVERIFY(!editor->IsPrompting());
-        QCOMPARE(box->GetText(), QStringLiteral("x"));
+        QCOMPARE(mBox->GetText(), QStringLiteral("x"));
 
-        box->UnsetPrompting();
-        box->SetText(QString());
+        mBox->UnsetPrompting();
+        mBox->SetText(QString());
         QVERIFY(!editor->IsPrompting());
         QCOMPARE(editor->text(), QString());
     }
@@ -461,6 +441,7 @@ private:
     TextBox* shownBox(int width = 200) { return Probe::ShownWithOther<TextBox>(mWidgets, QSize(width, 80)); }
 
     QList<QWidget*> mWidgets;
+    TextBox* mBox = nullptr;
 };
 
 QTEST_MAIN(tst_TextBox)

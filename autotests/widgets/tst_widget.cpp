@@ -139,8 +139,7 @@ private Q_SLOTS:
         QCOMPARE(owner.layout()->indexOf(imp), 0);
         QCOMPARE(owner.layout()->count(), 1);
         QCOMPARE(owner.layout()->contentsMargins(), QMargins());
-        owner.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&owner));
+        QVERIFY(Probe::Shown(&owner));
         QTRY_COMPARE(imp->geometry(), owner.rect());
     }
 
@@ -258,7 +257,6 @@ private Q_SLOTS:
     void stateFileKeepsOtherWidgetsStates()
     {
         StateFile file;
-        const QString& path = file.path;
 
         StateWidget options, layout, toolbar;
         options.miValue = 1;
@@ -266,27 +264,27 @@ private Q_SLOTS:
         layout.miValue = 2;
         toolbar.miValue = 3;
         toolbar.mbFlag = true;
-        QVERIFY(options.SaveState(path, QStringLiteral("Dialogs/Options")));
-        QVERIFY(layout.SaveState(path, QStringLiteral("Dialogs/Layout")));
-        QVERIFY(toolbar.SaveState(path, QStringLiteral("Toolbar")));
+        QVERIFY(options.SaveState(file.path, QStringLiteral("Dialogs/Options")));
+        QVERIFY(layout.SaveState(file.path, QStringLiteral("Dialogs/Layout")));
+        QVERIFY(toolbar.SaveState(file.path, QStringLiteral("Toolbar")));
 
         options.miValue = 10;
         options.msNote = QStringLiteral("changed");
-        QVERIFY(options.SaveState(path, QStringLiteral("/Dialogs//Options/")));
+        QVERIFY(options.SaveState(file.path, QStringLiteral("/Dialogs//Options/")));
 
-        const QDomDocument document = parse(path);
+        const QDomDocument document = parse(file.path);
         QCOMPARE(document.documentElement().tagName(), QStringLiteral("Root"));
         QCOMPARE(document.documentElement().elementsByTagName(QStringLiteral("Dialogs")).count(), 1);
         QCOMPARE(document.documentElement().elementsByTagName(QStringLiteral("Options")).count(), 1);
 
         StateWidget reader;
-        QVERIFY(reader.LoadState(path, QStringLiteral("Dialogs/Layout")));
+        QVERIFY(reader.LoadState(file.path, QStringLiteral("Dialogs/Layout")));
         QCOMPARE(reader.miValue, 2);
         QVERIFY(!reader.mbFlag);
-        QVERIFY(reader.LoadState(path, QStringLiteral("Toolbar")));
+        QVERIFY(reader.LoadState(file.path, QStringLiteral("Toolbar")));
         QCOMPARE(reader.miValue, 3);
         QVERIFY(reader.mbFlag);
-        QVERIFY(reader.LoadState(path, QStringLiteral("Dialogs/Options")));
+        QVERIFY(reader.LoadState(file.path, QStringLiteral("Dialogs/Options")));
         QCOMPARE(reader.miValue, 10);
         QCOMPARE(reader.msNote, QStringLiteral("changed"));
         QCOMPARE(reader.msLoadedTag, QStringLiteral("Options"));
@@ -295,19 +293,18 @@ private Q_SLOTS:
     void savingTwiceLeavesNoLeftovers()
     {
         StateFile file;
-        const QString& path = file.path;
         StateWidget imp;
         imp.msNote = QStringLiteral("first");
-        QVERIFY(imp.SaveState(path, QStringLiteral("A/B")));
+        QVERIFY(imp.SaveState(file.path, QStringLiteral("A/B")));
         // Something written by an older version of the widget must go too.
-        QDomDocument document = parse(path);
+        QDomDocument document = parse(file.path);
         elementAt(document, {QStringLiteral("A"), QStringLiteral("B")})
             .setAttribute(QStringLiteral("stale"), QStringLiteral("x"));
-        QVERIFY(Probe::WriteFile(path, document.toByteArray()));
+        QVERIFY(Probe::WriteFile(file.path, document.toByteArray()));
 
         imp.msNote = QStringLiteral("second");
-        QVERIFY(imp.SaveState(path, QStringLiteral("A/B")));
-        document = parse(path);
+        QVERIFY(imp.SaveState(file.path, QStringLiteral("A/B")));
+        document = parse(file.path);
         const QDomElement element = elementAt(document, {QStringLiteral("A"), QStringLiteral("B")});
         QVERIFY(!element.hasAttribute(QStringLiteral("stale")));
         QCOMPARE(element.elementsByTagName(QStringLiteral("Note")).count(), 1);
@@ -330,13 +327,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, nodePath);
         StateFile file;
-        const QString& path = file.path;
         const QByteArray original = "<Root><Other value=\"7\"/></Root>\n";
-        QVERIFY(Probe::WriteFile(path, original));
+        QVERIFY(Probe::WriteFile(file.path, original));
         StateWidget imp;
-        QVERIFY(!imp.SaveState(path, nodePath));
-        QCOMPARE(Probe::ReadFile(path), original);
-        QVERIFY(!imp.LoadState(path, nodePath));
+        QVERIFY(!imp.SaveState(file.path, nodePath));
+        QCOMPARE(Probe::ReadFile(file.path), original);
+        QVERIFY(!imp.LoadState(file.path, nodePath));
 
         // A missing file is not created either.
         const QString missing = file.dir.filePath(QStringLiteral("missing.xml"));
@@ -401,19 +397,18 @@ private Q_SLOTS:
     void loadStateFailures()
     {
         StateFile file;
-        const QString& path = file.path;
         StateWidget imp;
         imp.miValue = 4;
-        QVERIFY(imp.SaveState(path, QStringLiteral("A/B")));
+        QVERIFY(imp.SaveState(file.path, QStringLiteral("A/B")));
 
         StateWidget reader;
         reader.miValue = 77;
-        QVERIFY(!reader.LoadState(path, QStringLiteral("A/C")));
-        QVERIFY(!reader.LoadState(path, QStringLiteral("B")));
+        QVERIFY(!reader.LoadState(file.path, QStringLiteral("A/C")));
+        QVERIFY(!reader.LoadState(file.path, QStringLiteral("B")));
         QCOMPARE(reader.miValue, 77);
         // The document element itself is not part of the path.
-        QVERIFY(!reader.LoadState(path, QStringLiteral("Root/A/B")));
-        QVERIFY(reader.LoadState(path, QStringLiteral("A")));
+        QVERIFY(!reader.LoadState(file.path, QStringLiteral("Root/A/B")));
+        QVERIFY(reader.LoadState(file.path, QStringLiteral("A")));
         QCOMPARE(reader.miValue, -1);
     }
 
