@@ -189,6 +189,16 @@ StrokeGrid DrawStateFrame(QPainter* painter, const QWidget* widget, const QRect&
     return grid;
 }
 
+void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], const QColor& color)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawPolygon(points, 3);
+    painter->restore();
+}
+
 void RepaintAfterThemeChange(QWidget* widget)
 {
     QWidget* parent = widget->parentWidget();

@@ -76,6 +76,9 @@ enum class FrameState
 KVUICORE_EXPORT StrokeGrid DrawStateFrame(QPainter* painter, const QWidget* widget, const QRect& box,
                                           const StateFrameKeys& keys, FrameState state);
 
+// A solid antialiased triangle, such as a drop-down arrow; the painter's state is kept.
+KVUICORE_EXPORT void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], const QColor& color);
+
 } // namespace Kavrel::UICore::Internal
 
 class QIcon;

@@ -413,12 +413,7 @@ void DropDownTreeImp::DrawArrow(QPainter& painter) const
     const qreal x = column.left() + (column.width() - 8) / 2;
     const qreal y = column.top() + (column.height() - 4) / 2;
     const QPointF points[3] = {QPointF(x, y), QPointF(x + 8, y), QPointF(x + 4, y + 4)};
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawPolygon(points, 3);
-    painter.restore();
+    Internal::FillAntialiasedTriangle(&painter, points, color);
 }
 
 DropDownTree::DropDownTree(QWidget* parent)

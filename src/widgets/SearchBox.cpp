@@ -166,12 +166,7 @@ void SearchBoxImp::DrawIcon(QPainter& painter) const
     const QRect arrow = Visual(QRect(IconRect().right() + 2, mpOwner->height() / 2 - 1, 5, 3));
     const QPointF points[3] = {QPointF(arrow.left(), arrow.top()), QPointF(arrow.left() + 5, arrow.top()),
                                QPointF(arrow.left() + 2.5, arrow.top() + 3)};
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawPolygon(points, 3);
-    painter.restore();
+    Internal::FillAntialiasedTriangle(&painter, points, color);
 }
 
 SearchBox::SearchBox(QWidget* parent)
