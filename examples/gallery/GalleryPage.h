@@ -6,6 +6,15 @@
 #include <functional>
 #include <vector>
 
+class QGridLayout;
+class QLayout;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace Kavrel::UICore {
+class Label;
+}
+
 // A page of the gallery. Each page file registers itself with a static
 // GalleryPageRegistration, so adding a page touches no other file.
 struct GalleryPageInfo
@@ -21,3 +30,19 @@ struct GalleryPageRegistration
 {
     GalleryPageRegistration(int order, const QString& title, std::function<QWidget*(QWidget*)> create);
 };
+
+// The frameless scroll area a page sits in, its content resized with it.
+QScrollArea* NewPageArea(QWidget* parent);
+
+// A plain label in the bold font.
+Kavrel::UICore::Label* BoldHeading(const QString& text, QWidget* parent);
+
+// A bold heading at (row, column) and below it the widget build() makes, both
+// columnSpan columns wide. The heading is made first so that it leads in the
+// focus and accessibility order.
+void AddGridSection(QGridLayout* grid, const QString& title, QWidget* (*build)(QWidget* parent), int row, int column,
+                    int columnSpan = 1);
+
+// A group heading and below it the layout build() makes; every section but
+// the first is set off by a divider.
+void AddDividedSection(QVBoxLayout* layout, const QString& title, const std::function<QLayout*()>& build);

@@ -157,6 +157,48 @@ QBrush DimmedBrush(const QBrush& brush)
     return dimmed;
 }
 
+StrokeGrid DrawStateFrame(QPainter* painter, const QWidget* widget, const QRect& box, const StateFrameKeys& keys,
+                          FrameState state)
+{
+    ThemeManager* themes = ThemeManager::GetInstance();
+    QBrush fill;
+    QColor border;
+    switch (state) {
+    case FrameState::Active:
+        fill = themes->GetBrush(keys.activeFill, box);
+        border = themes->GetColor(keys.activeBorder);
+        break;
+    case FrameState::Hover:
+        fill = themes->GetBrush(keys.hoverFill, box);
+        border = themes->GetColor(keys.hoverBorder);
+        break;
+    case FrameState::Normal:
+        fill = themes->GetBrush(keys.normalFill, box);
+        border = themes->GetColor(keys.normalBorder);
+        break;
+    }
+    if (!widget->isEnabled()) {
+        fill = DimmedBrush(fill);
+        border = DimmedColor(border);
+    }
+    const StrokeGrid grid = StrokeGridOf(widget, painter);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    DrawFramedRect(painter, StrokeRect(painter, box, grid), fill, border, grid);
+    painter->restore();
+    return grid;
+}
+
+void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], const QColor& color)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawPolygon(points, 3);
+    painter->restore();
+}
+
 void RepaintAfterThemeChange(QWidget* widget)
 {
     QWidget* parent = widget->parentWidget();

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QPen>
 #include <QRectF>
+#include <QString>
 
 class QPainter;
 class QWidget;
@@ -51,6 +52,32 @@ KVUICORE_EXPORT void DrawFramedRect(QPainter* painter, const QRectF& strokeRect,
 
 // The brush with its colour (or every gradient stop) dimmed as for a disabled control.
 KVUICORE_EXPORT QBrush DimmedBrush(const QBrush& brush);
+
+// The theme keys of a framed box's fill and border in its three states.
+struct StateFrameKeys
+{
+    const QString& normalFill;
+    const QString& normalBorder;
+    const QString& hoverFill;
+    const QString& hoverBorder;
+    const QString& activeFill;
+    const QString& activeBorder;
+};
+
+enum class FrameState
+{
+    Normal,
+    Hover,
+    Active
+};
+
+// The widget's framed box in a state's colours (dimmed when the widget is
+// disabled), antialiased on the stroke grid; returns the grid it used.
+KVUICORE_EXPORT StrokeGrid DrawStateFrame(QPainter* painter, const QWidget* widget, const QRect& box,
+                                          const StateFrameKeys& keys, FrameState state);
+
+// A solid antialiased triangle, such as a drop-down arrow; the painter's state is kept.
+KVUICORE_EXPORT void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], const QColor& color);
 
 } // namespace Kavrel::UICore::Internal
 

@@ -3,6 +3,7 @@
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/core/ScalableValues.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/DropDownMenu.h>
@@ -328,12 +329,7 @@ void DropDownImp::DrawTriangleArrow(QPainter& painter) const
     const qreal x = column.left() + (column.width() - width) / 2 - 1;
     const qreal y = column.top() + (column.height() - height) / 2;
     const QPointF points[3] = {QPointF(x, y), QPointF(x + width, y), QPointF(x + width / 2.0, y + height)};
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawPolygon(points, 3);
-    painter.restore();
+    Internal::FillAntialiasedTriangle(&painter, points, color);
 }
 
 DropDown::DropDown(QWidget* parent)

@@ -2,6 +2,7 @@
 
 #include <KvUICore/core/DrawingHelpers_p.h>
 #include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 
@@ -109,13 +110,8 @@ public:
         const int size = qMax(3, rect.height() / 4);
         const int x = rect.right() - kSubMenuArrowWidth / 2 - size / 2;
         const int y = rect.top() + (rect.height() - 2 * size) / 2;
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing, true);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(color);
         const QPointF points[3] = {QPointF(x, y), QPointF(x + size, y + size), QPointF(x, y + 2 * size)};
-        painter.drawPolygon(points, 3);
-        painter.restore();
+        Internal::FillAntialiasedTriangle(&painter, points, color);
     }
 
     void DrawItem(QPainter& painter, QAction* action, const QRect& rect, const Columns& columns) const

@@ -360,35 +360,22 @@ bool DropDownTreeImp::eventFilter(QObject* watched, QEvent* event)
 
 void DropDownTreeImp::DrawFrame(QPainter& painter) const
 {
-    ThemeManager* themes = ThemeManager::GetInstance();
     const bool enabled = mpOwner->isEnabled();
     const bool open = mpOwner->IsPopupVisible();
     const bool hovered = enabled && mpOwner->underMouse();
-    const QRect box = mpOwner->rect().adjusted(1, 1, -1, -1);
-    QBrush fill;
-    QColor border;
-    if (open) {
-        fill = themes->GetBrush(ThemeFileKey::DropDownButtonClickedBackground, box);
-        border = themes->GetColor(ThemeFileKey::DropDownButtonClickedBorder);
-    } else if (hovered) {
-        fill = themes->GetBrush(ThemeFileKey::DropDownButtonHoverBackground, box);
-        border = themes->GetColor(ThemeFileKey::DropDownButtonHoverBorder2);
-    } else {
-        fill = themes->GetBrush(ThemeFileKey::DropDownContainer, box);
-        border = themes->GetColor(ThemeFileKey::DropDownButtonNormalBorderColor);
-    }
-    if (!enabled) {
-        fill = Internal::DimmedBrush(fill);
-        border = Internal::DimmedColor(border);
-    }
-    const Internal::StrokeGrid grid = Internal::StrokeGridOf(mpOwner, &painter);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    Internal::DrawFramedRect(&painter, Internal::StrokeRect(&painter, box, grid), fill, border, grid);
-    painter.restore();
+    const Internal::StateFrameKeys keys{ThemeFileKey::DropDownContainer,
+                                        ThemeFileKey::DropDownButtonNormalBorderColor,
+                                        ThemeFileKey::DropDownButtonHoverBackground,
+                                        ThemeFileKey::DropDownButtonHoverBorder2,
+                                        ThemeFileKey::DropDownButtonClickedBackground,
+                                        ThemeFileKey::DropDownButtonClickedBorder};
+    const Internal::FrameState state = open      ? Internal::FrameState::Active
+                                       : hovered ? Internal::FrameState::Hover
+                                                 : Internal::FrameState::Normal;
+    Internal::DrawStateFrame(&painter, mpOwner, mpOwner->rect().adjusted(1, 1, -1, -1), keys, state);
     if (enabled && mpOwner->hasFocus() && !open)
         Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect(),
-                                themes->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
+                                ThemeManager::GetInstance()->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
 }
 
 void DropDownTreeImp::DrawText(QPainter& painter) const
@@ -426,12 +413,7 @@ void DropDownTreeImp::DrawArrow(QPainter& painter) const
     const qreal x = column.left() + (column.width() - 8) / 2;
     const qreal y = column.top() + (column.height() - 4) / 2;
     const QPointF points[3] = {QPointF(x, y), QPointF(x + 8, y), QPointF(x + 4, y + 4)};
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawPolygon(points, 3);
-    painter.restore();
+    Internal::FillAntialiasedTriangle(&painter, points, color);
 }
 
 DropDownTree::DropDownTree(QWidget* parent)

@@ -131,35 +131,24 @@ public:
 
 void SearchBoxImp::DrawFrame(QPainter& painter) const
 {
-    ThemeManager* themes = ThemeManager::GetInstance();
     const bool enabled = mpOwner->isEnabled();
     const bool focused = enabled && mpOwner->hasFocus();
     const bool hovered = enabled && mpOwner->underMouse();
+    const Internal::StateFrameKeys keys{ThemeFileKey::SearchBoxNormalBackground,  ThemeFileKey::SearchBoxNormalBorder,
+                                        ThemeFileKey::SearchBoxHoverBackground,   ThemeFileKey::SearchBoxHoverBorder,
+                                        ThemeFileKey::SearchBoxFocusedBackground, ThemeFileKey::SearchBoxFocusedBorder};
+    const Internal::FrameState state = focused   ? Internal::FrameState::Active
+                                       : hovered ? Internal::FrameState::Hover
+                                                 : Internal::FrameState::Normal;
     // One pixel all round is kept for the focus halo.
-    const QRect box = mpOwner->rect().adjusted(1, 1, -1, -1);
-    QBrush fill;
-    QColor border;
-    if (focused) {
-        fill = themes->GetBrush(ThemeFileKey::SearchBoxFocusedBackground, box);
-        border = themes->GetColor(ThemeFileKey::SearchBoxFocusedBorder);
-    } else if (hovered) {
-        fill = themes->GetBrush(ThemeFileKey::SearchBoxHoverBackground, box);
-        border = themes->GetColor(ThemeFileKey::SearchBoxHoverBorder);
-    } else {
-        fill = themes->GetBrush(ThemeFileKey::SearchBoxNormalBackground, box);
-        border = themes->GetColor(ThemeFileKey::SearchBoxNormalBorder);
-    }
-    if (!enabled) {
-        fill = Internal::DimmedBrush(fill);
-        border = Internal::DimmedColor(border);
-    }
-    const Internal::StrokeGrid grid = Internal::StrokeGridOf(mpOwner, &painter);
+    const Internal::StrokeGrid grid =
+        Internal::DrawStateFrame(&painter, mpOwner, mpOwner->rect().adjusted(1, 1, -1, -1), keys, state);
+    if (!focused)
+        return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    Internal::DrawFramedRect(&painter, Internal::StrokeRect(&painter, box, grid), fill, border, grid);
-    if (focused)
-        Internal::StrokeOutline(&painter, Internal::StrokeRect(&painter, mpOwner->rect(), grid),
-                                themes->GetColor(ThemeFileKey::SearchBoxFocusedBorderHalo), grid);
+    Internal::StrokeOutline(&painter, Internal::StrokeRect(&painter, mpOwner->rect(), grid),
+                            ThemeManager::GetInstance()->GetColor(ThemeFileKey::SearchBoxFocusedBorderHalo), grid);
     painter.restore();
 }
 
@@ -177,12 +166,7 @@ void SearchBoxImp::DrawIcon(QPainter& painter) const
     const QRect arrow = Visual(QRect(IconRect().right() + 2, mpOwner->height() / 2 - 1, 5, 3));
     const QPointF points[3] = {QPointF(arrow.left(), arrow.top()), QPointF(arrow.left() + 5, arrow.top()),
                                QPointF(arrow.left() + 2.5, arrow.top() + 3)};
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawPolygon(points, 3);
-    painter.restore();
+    Internal::FillAntialiasedTriangle(&painter, points, color);
 }
 
 SearchBox::SearchBox(QWidget* parent)

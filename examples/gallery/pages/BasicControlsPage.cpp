@@ -102,14 +102,9 @@ public:
         : QWidget(parent)
     {
         auto* layout = new QVBoxLayout(this);
-        layout->addWidget(Heading(Tr("Controls in their states")));
-        layout->addLayout(StateGrid());
-        layout->addWidget(new Divider(Qt::Horizontal, this));
-        layout->addWidget(Heading(Tr("Cut texts explain themselves on hover")));
-        layout->addLayout(CutTexts());
-        layout->addWidget(new Divider(Qt::Horizontal, this));
-        layout->addWidget(Heading(Tr("Tiles, images and progress")));
-        layout->addLayout(TilesAndProgress());
+        AddDividedSection(layout, Tr("Controls in their states"), [this] { return StateGrid(); });
+        AddDividedSection(layout, Tr("Cut texts explain themselves on hover"), [this] { return CutTexts(); });
+        AddDividedSection(layout, Tr("Tiles, images and progress"), [this] { return TilesAndProgress(); });
         layout->addStretch(1);
     }
 
@@ -123,14 +118,6 @@ protected:
     }
 
 private:
-    TextLabel* Heading(const QString& text)
-    {
-        auto* heading = new TextLabel(text, this);
-        heading->SetBold(true);
-        heading->SetTextColorThemeKey(ThemeFileKey::FontGroupHeader);
-        return heading;
-    }
-
     QGridLayout* StateGrid()
     {
         auto* grid = new QGridLayout;
@@ -304,9 +291,7 @@ private:
 };
 
 GalleryPageRegistration registration(200, QStringLiteral("Basic controls"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     area->setWidget(new BasicControlsPage(area));
     return area;
 });

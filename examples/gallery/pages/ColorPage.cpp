@@ -61,17 +61,10 @@ public:
     {
         WriteSampleFiles();
         auto* layout = new QVBoxLayout(this);
-        layout->addWidget(Heading(Tr("Colour picker and wheel")));
-        layout->addLayout(Pickers());
-        layout->addWidget(new Divider(Qt::Horizontal, this));
-        layout->addWidget(Heading(Tr("Colour swatches")));
-        layout->addLayout(Swatches());
-        layout->addWidget(new Divider(Qt::Horizontal, this));
-        layout->addWidget(Heading(Tr("Gradient swatches")));
-        layout->addLayout(Gradients());
-        layout->addWidget(new Divider(Qt::Horizontal, this));
-        layout->addWidget(Heading(Tr("Image and texture swatches")));
-        layout->addLayout(Images());
+        AddDividedSection(layout, Tr("Colour picker and wheel"), [this] { return Pickers(); });
+        AddDividedSection(layout, Tr("Colour swatches"), [this] { return Swatches(); });
+        AddDividedSection(layout, Tr("Gradient swatches"), [this] { return Gradients(); });
+        AddDividedSection(layout, Tr("Image and texture swatches"), [this] { return Images(); });
         layout->addStretch(1);
     }
 
@@ -92,14 +85,6 @@ private:
         QFile broken(SamplePath("broken.png"));
         if (broken.open(QIODevice::WriteOnly))
             broken.write("these bytes are not an image");
-    }
-
-    TextLabel* Heading(const QString& text)
-    {
-        auto* heading = new TextLabel(text, this);
-        heading->SetBold(true);
-        heading->SetTextColorThemeKey(ThemeFileKey::FontGroupHeader);
-        return heading;
     }
 
     QWidget* Captioned(QWidget* control, const QString& caption)
@@ -246,9 +231,7 @@ private:
 };
 
 GalleryPageRegistration registration(450, QStringLiteral("Colour and images"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     area->setWidget(new ColorPage(area));
     return area;
 });

@@ -52,15 +52,6 @@ private:
     std::function<void(const QIcon&)> mApply;
 };
 
-Label* heading(const QString& text, QWidget* parent)
-{
-    auto* label = new Label(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 QWidget* textBoxes(QWidget* parent)
 {
     auto* page = new QWidget(parent);
@@ -309,18 +300,13 @@ QWidget* rollouts(QWidget* parent)
 }
 
 GalleryPageRegistration registration(400, QStringLiteral("Entry and groups"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     auto* content = new QWidget(area);
     auto* grid = new QGridLayout(content);
     grid->setHorizontalSpacing(24);
-    grid->addWidget(heading(tr("Text boxes"), content), 0, 0);
-    grid->addWidget(textBoxes(content), 1, 0);
-    grid->addWidget(heading(tr("Drop-downs"), content), 0, 1);
-    grid->addWidget(dropDowns(content), 1, 1);
-    grid->addWidget(heading(tr("Rollout containers"), content), 2, 0, 1, 2);
-    grid->addWidget(rollouts(content), 3, 0, 1, 2);
+    AddGridSection(grid, tr("Text boxes"), textBoxes, 0, 0);
+    AddGridSection(grid, tr("Drop-downs"), dropDowns, 0, 1);
+    AddGridSection(grid, tr("Rollout containers"), rollouts, 2, 0, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(4, 1);

@@ -33,15 +33,6 @@ QString tr(const char* text)
     return QCoreApplication::translate("NavigationPage", text);
 }
 
-Label* heading(const QString& text, QWidget* parent)
-{
-    auto* label = new Label(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 QStandardItemModel* materialLibrary(QObject* parent)
 {
     auto* model = new QStandardItemModel(parent);
@@ -305,22 +296,15 @@ QWidget* palettes(QWidget* parent)
 }
 
 GalleryPageRegistration registration(450, QStringLiteral("Navigation and messages"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     auto* content = new QWidget(area);
     auto* grid = new QGridLayout(content);
     grid->setHorizontalSpacing(24);
-    grid->addWidget(heading(tr("Search and drop-down trees"), content), 0, 0);
-    grid->addWidget(searchAndTrees(content), 1, 0);
-    grid->addWidget(heading(tr("Breadcrumbs"), content), 0, 1);
-    grid->addWidget(breadcrumbs(content), 1, 1);
-    grid->addWidget(heading(tr("Messages"), content), 2, 0);
-    grid->addWidget(messages(content), 3, 0);
-    grid->addWidget(heading(tr("Multi-line text"), content), 2, 1);
-    grid->addWidget(textEdits(content), 3, 1);
-    grid->addWidget(heading(tr("Palette window"), content), 4, 0, 1, 2);
-    grid->addWidget(palettes(content), 5, 0, 1, 2);
+    AddGridSection(grid, tr("Search and drop-down trees"), searchAndTrees, 0, 0);
+    AddGridSection(grid, tr("Breadcrumbs"), breadcrumbs, 0, 1);
+    AddGridSection(grid, tr("Messages"), messages, 2, 0);
+    AddGridSection(grid, tr("Multi-line text"), textEdits, 2, 1);
+    AddGridSection(grid, tr("Palette window"), palettes, 4, 0, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(6, 1);

@@ -70,15 +70,6 @@ QString ParsedText(double value, const UnitKind& kind)
                             : tr("read as %1").arg(number);
 }
 
-Label* heading(const QString& text, QWidget* parent)
-{
-    auto* label = new Label(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 // Sets up the unit part of a control. Changing the symbol installs the
 // number-only display, so the display flag is applied afterwards.
 void ApplyKind(WidgetUnits& target, const UnitKind& kind, bool showSymbol)
@@ -243,9 +234,7 @@ QWidget* sliders(Controls* controls, QWidget* parent)
 }
 
 GalleryPageRegistration registration(300, QStringLiteral("Numbers"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     auto* content = new QWidget(area);
     auto* controls = new Controls;
     QObject::connect(content, &QObject::destroyed, [controls] { delete controls; });
@@ -257,10 +246,10 @@ GalleryPageRegistration registration(300, QStringLiteral("Numbers"), [](QWidget*
                            content);
     hint->setWordWrap(true);
     column->addWidget(hint);
-    column->addWidget(heading(tr("Spin boxes"), content));
+    column->addWidget(BoldHeading(tr("Spin boxes"), content));
     column->addWidget(spinBoxes(controls, content));
     column->addSpacing(12);
-    column->addWidget(heading(tr("Sliders"), content));
+    column->addWidget(BoldHeading(tr("Sliders"), content));
     column->addWidget(sliders(controls, content));
     column->addStretch();
     area->setWidget(content);

@@ -571,9 +571,7 @@ private:
 };
 
 GalleryPageRegistration registration(100, QStringLiteral("Theme"), [](QWidget* parent) {
-    auto* area = new QScrollArea(parent);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    QScrollArea* area = NewPageArea(parent);
     area->setWidget(new ThemeSheet(area));
     return area;
 });
