@@ -2,6 +2,7 @@
 // gradient ring, and an image swatch's first thumbnail of a large file against
 // loading the whole image and scaling it, each at two sizes.
 #include "BenchRatio.h"
+#include "BenchTheme.h"
 
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -22,13 +23,7 @@ namespace {
 
 void Setup()
 {
-    static const bool done = [] {
-        CoreUIManager::Initialize();
-        ThemeManager::GetInstance()->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-        ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Light"));
-        return true;
-    }();
-    (void)done;
+    kvbench::UseRepositoryTheme();
 }
 
 // Photo-like content (smooth gradients and some detail), saved once per size.

@@ -1,6 +1,7 @@
 // Filling a drop-down, validating a typed name and painting a text box, each
 // against the plain Qt widget or call that does the same job.
 #include "BenchRatio.h"
+#include "BenchTheme.h"
 
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -18,13 +19,7 @@ namespace {
 
 void ensureTheme()
 {
-    static const bool ready = [] {
-        CoreUIManager::Initialize();
-        ThemeManager* manager = ThemeManager::GetInstance();
-        manager->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-        return manager->SetCurrentTheme(QStringLiteral("Light"));
-    }();
-    (void)ready;
+    kvbench::UseRepositoryTheme();
 }
 
 QStringList itemTexts(int count)

@@ -3,6 +3,7 @@
 // QTreeView for the filtering); showing many messages in a MessageFacility,
 // against a plain column of one label per message.
 #include "BenchRatio.h"
+#include "BenchTheme.h"
 
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/theme/ThemeManager.h>
@@ -26,13 +27,7 @@ namespace {
 
 void ensureTheme()
 {
-    static const bool ready = [] {
-        CoreUIManager::Initialize();
-        ThemeManager* manager = ThemeManager::GetInstance();
-        manager->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-        return manager->SetCurrentTheme(QStringLiteral("Light"));
-    }();
-    (void)ready;
+    kvbench::UseRepositoryTheme();
 }
 
 // A three-level library of `count` leaves: 50 groups, each of 20 folders.

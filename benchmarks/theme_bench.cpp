@@ -1,5 +1,6 @@
 // Theme lookups and theme file loading against their raw Qt equivalents.
 #include "BenchRatio.h"
+#include "BenchTheme.h"
 
 #include <KvUICore/core/CoreUIManager.h>
 #include <KvUICore/theme/ThemeKeyCatalogue.h>
@@ -17,14 +18,7 @@ namespace {
 
 ThemeManager* themes()
 {
-    static ThemeManager* instance = [] {
-        CoreUIManager::Initialize();
-        ThemeManager* manager = ThemeManager::GetInstance();
-        manager->SetThemeFilesPath(QStringLiteral(KVUICORE_THEMES_DIR).toStdWString().c_str());
-        manager->SetCurrentTheme(QStringLiteral("Light"));
-        return manager;
-    }();
-    return instance;
+    return kvbench::UseRepositoryTheme();
 }
 
 // The colour keys the theme defines, as a control would pass them.
