@@ -21,8 +21,10 @@
 #include <QDir>
 #include <QDomElement>
 #include <QGridLayout>
+#include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -156,6 +158,78 @@ private Q_SLOTS:
     }
 
     void cleanup() { Internal::SetDiagnosticHook({}); }
+
+    // What a host sees without the private hook: the logging categories and
+    // the core manager's handler, both ruled by the categories' filters.
+    void hostDiagnostics_data()
+    {
+        QTest::addColumn<QString>("children");
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("category"); // empty: nothing reaches the host
+        QTest::addColumn<QString>("fragment");
+
+        const QString misspelt = QStringLiteral(R"x(<CheckBoxElement Id="c" IsEnabled="Bindng(c.IsChecked)"/>)x");
+        const QString wellFormed = QStringLiteral(R"x(<CheckBoxElement Id="c" Tooltip="Binding(objectName)"/>)x");
+        QTest::newRow("misspelt binding") << misspelt << "" << "kvuicore.binding" << "Unknown function Bindng";
+        QTest::newRow("missing property") << R"x(<CheckBoxElement Id="c" IsEnabled="Binding(IsChekced)"/>)x" << ""
+                                          << "kvuicore.binding" << "Property IsChekced is not found";
+        QTest::newRow("unknown tag") << "<SpinnerElement Id=\"s\"/>" << "" << "kvuicore.propertyeditor"
+                                     << "unknown element <SpinnerElement>";
+        QTest::newRow("unknown attribute") << R"x(<CheckBoxElement Id="c" Lable="x" xmlns:a="urn:a" a:b="1"/>)x" << ""
+                                           << "kvuicore.propertyeditor" << "unknown attribute Lable\n";
+        QTest::newRow("category switched off") << misspelt << "kvuicore.binding.warning=false" << "" << "";
+        QTest::newRow("well formed: tracing off by default") << wellFormed << "" << "" << "";
+        QTest::newRow("tracing switched on") << wellFormed << "kvuicore.binding.debug=true" << "kvuicore.binding"
+                                             << "Resolving binding expression: Binding(objectName)";
+    }
+
+    void hostDiagnostics()
+    {
+        QFETCH(QString, children);
+        QFETCH(QString, filter);
+        QFETCH(QString, category);
+        QFETCH(QString, fragment);
+
+        static QStringList logged;
+        logged.clear();
+        QStringList handled;
+        QLoggingCategory::setFilterRules(filter);
+        CoreUIManager::SetDiagnosticHandler(
+            [&handled](const char* name, CoreUIManager::DiagnosticSeverity severity, const wchar_t* text) {
+                handled.append(QStringLiteral("%1|%2|%3")
+                                   .arg(QString::fromLatin1(name))
+                                   .arg(int(severity))
+                                   .arg(QString::fromWCharArray(text)));
+            });
+        const QtMessageHandler previous =
+            qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+                if (context.category && qstrncmp(context.category, "kvuicore.", 9) == 0)
+                    logged.append(QStringLiteral("%1|%2|%3")
+                                      .arg(QString::fromLatin1(context.category))
+                                      .arg(type == QtDebugMsg ? 0 : 1)
+                                      .arg(text));
+            });
+        const auto restore = qScopeGuard([previous] {
+            qInstallMessageHandler(previous);
+            CoreUIManager::SetDiagnosticHandler({});
+            QLoggingCategory::setFilterRules(QString());
+        });
+        {
+            PropertyEditor editor;
+            editor.SetContextObject(this);
+            setObjectName(QStringLiteral("diagnostics"));
+            QVERIFY(editor.LoadUI(GroupDocument(children)));
+        }
+        QCOMPARE(handled, logged);
+        if (category.isEmpty()) {
+            QVERIFY2(handled.isEmpty(), qPrintable(handled.join(QLatin1Char('\n'))));
+            return;
+        }
+        const bool found = std::any_of(handled.cbegin(), handled.cend(), [&](const QString& line) {
+            return line.startsWith(category + QLatin1Char('|')) && (line + QLatin1Char('\n')).contains(fragment);
+        });
+        QVERIFY2(found, qPrintable(handled.join(QLatin1Char('\n'))));
+    }
 
     void registeredKinds_data()
     {
@@ -430,7 +504,8 @@ private Q_SLOTS:
             row("deep unknown nesting") << source << head + deepUnknown + tail << false << "deeper than 256 levels";
             row("deep panels") << source << head + deepPanels + tail << false << "deeper than 256 levels";
             row("attributes at the limit")
-                << source << head + attributes(PropertyEditor::kMaxAttributesPerElement - 1) + tail << true << "";
+                << source << head + attributes(PropertyEditor::kMaxAttributesPerElement - 1) + tail << true
+                << "ignores the unknown attributes x0, x1, x10, x100, x101, x102, x103, x104 and 247 more";
             row("200000 attributes") << source << head + attributes(200000) + tail << false
                                      << "more than 256 attributes";
             row("entity expansion") << source << laughs << false << "";

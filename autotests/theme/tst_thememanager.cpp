@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <numeric>
+
 using namespace Kavrel::UICore;
 
 namespace {
@@ -236,6 +238,9 @@ private Q_SLOTS:
         QTest::newRow("no match gives the narrowest") << QList<int>{16, 32, 24} << QSize(20, 20) << 16;
         QTest::newRow("narrowest not first") << QList<int>{32, 24, 16} << QSize(20, 20) << 16;
         QTest::newRow("single image whatever its size") << QList<int>{48} << QSize(16, 16) << 48;
+        QList<int> many(100);
+        std::iota(many.begin(), many.end(), 1);
+        QTest::newRow("images past 64 are dropped") << many << QSize(100, 100) << 1;
     }
 
     void imageSelection()
@@ -292,6 +297,7 @@ private Q_SLOTS:
                                    << parseError << QString();
         QTest::newRow("fifo") << "fifo" << QByteArray() << cannotRead << "Not a regular file";
         QTest::newRow("fifo icon") << "fifo icon" << QByteArray() << QString() << QStringLiteral("After");
+        QTest::newRow("icon decoding past 64 MiB") << "huge icon" << QByteArray() << QString() << QStringLiteral("After");
         QTest::newRow("directory") << "directory" << QByteArray() << cannotRead << "Not a regular file";
         QTest::newRow("over 8 MiB") << "file" << QByteArray(8 * 1024 * 1024 + 1, ' ') << cannotRead << "larger than";
         // 64 x 64 x 64 x 16 characters: the fourth value passes 1 Mi characters.
@@ -323,6 +329,14 @@ private Q_SLOTS:
             QVERIFY(Probe::WriteFile(path, content));
         } else if (kind == QLatin1String("directory")) {
             QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("hostile.xbel")));
+        } else if (kind == QLatin1String("huge icon")) {
+            // A few KiB of file that would decode to 256 MiB.
+            QImage image(8192, 8192, QImage::Format_Mono);
+            image.fill(0);
+            const QString icon = dir.filePath(QStringLiteral("huge.png"));
+            QVERIFY(image.save(icon, "PNG"));
+            QVERIFY(Probe::WriteFile(
+                path, QStringLiteral("<xbel version=\"1.0\"><Icon name=\"After\" file=\"%1\"/></xbel>").arg(icon).toUtf8()));
         } else if (kind.startsWith(QLatin1String("fifo"))) {
 #ifdef Q_OS_UNIX
             const QString fifo = kind == QLatin1String("fifo") ? path : dir.filePath(QStringLiteral("icon.ico"));
@@ -343,6 +357,8 @@ private Q_SLOTS:
             QVERIFY2(mWarnings.isEmpty(), qPrintable(mWarnings.join(QLatin1Char('\n'))));
             QVERIFY(themes->Exists(after));
             QVERIFY(!themes->GetString(after).contains(QLatin1String("root:")));
+            if (kind.endsWith(QLatin1String("icon")))
+                QVERIFY(themes->GetImage(after, QSize(16, 16)).isNull());
             return;
         }
         QCOMPARE(mWarnings.size(), 1);

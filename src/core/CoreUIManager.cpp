@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMutex>
+#include <QMutexLocker>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -249,6 +251,41 @@ bool CoreUIManager::Uninitialize()
     gInitialized = false;
     gGlobalStyleSheetEnabled = true;
     return true;
+}
+
+namespace {
+struct DiagnosticHandlerSlot
+{
+    QMutex mMutex;
+    CoreUIManager::DiagnosticHandler mHandler;
+};
+
+DiagnosticHandlerSlot& diagnosticHandlerSlot()
+{
+    static DiagnosticHandlerSlot slot;
+    return slot;
+}
+} // namespace
+
+void CoreUIManager::SetDiagnosticHandler(DiagnosticHandler handler)
+{
+    DiagnosticHandlerSlot& slot = diagnosticHandlerSlot();
+    const QMutexLocker lock(&slot.mMutex);
+    slot.mHandler = std::move(handler);
+}
+
+void Internal::CallDiagnosticHandler(const char* category, CoreUIManager::DiagnosticSeverity severity,
+                                     const QString& text)
+{
+    // Called on a copy, so that the handler may replace itself meanwhile.
+    CoreUIManager::DiagnosticHandler handler;
+    {
+        DiagnosticHandlerSlot& slot = diagnosticHandlerSlot();
+        const QMutexLocker lock(&slot.mMutex);
+        handler = slot.mHandler;
+    }
+    if (handler)
+        handler(category, severity, text.toStdWString().c_str());
 }
 
 CoreUIManager* CoreUIManager::GetInstance()

@@ -2,6 +2,7 @@
 
 #include <KvUICore/KvUICoreExport.h>
 
+#include <functional>
 #include <memory>
 
 namespace Kavrel::UICore {
@@ -51,6 +52,30 @@ public:
     void SetMessageBoxProvider(IMessageBoxProvider* provider);
     // The installed provider; the default one is created on first request.
     IMessageBoxProvider* GetMessageBoxProvider();
+
+    // How serious a diagnostic is. Debug texts trace normal work (a binding
+    // resolved, a widget updated); warnings report a problem the library
+    // worked around or refused (a broken binding, an unknown element, a file
+    // over a limit, an unreadable theme file).
+    enum class DiagnosticSeverity : int
+    {
+        Debug = 0,
+        Warning = 1,
+    };
+
+    // Receives one diagnostic: the logging category it belongs to
+    // ("kvuicore.theme", "kvuicore.propertyeditor", "kvuicore.binding",
+    // "kvuicore.filer" or "kvuicore.translation"), its severity and its text.
+    using DiagnosticHandler =
+        std::function<void(const char* category, DiagnosticSeverity severity, const wchar_t* text)>;
+
+    // Every diagnostic is also logged through its QLoggingCategory, with
+    // warnings on and debug off by default; the handler receives exactly what
+    // the categories let through, so QLoggingCategory::setFilterRules (or
+    // QT_LOGGING_RULES) chooses for both. The handler may be called from any
+    // thread that uses the library, and must not call back into it. An empty
+    // handler removes the one installed. Survives Uninitialize.
+    static void SetDiagnosticHandler(DiagnosticHandler handler);
 
     // Applies the global scroll-bar and tool-tip style sheets of the theme to
     // the application, once.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KvUICore/KvUICoreExport.h>
+#include <KvUICore/core/CoreUIManager.h>
 
 #include <QString>
 
@@ -59,5 +60,9 @@ KVUICORE_EXPORT void SetMessageBoxStyle(int style);
 // After a theme switch: forgets that the global style sheet was applied and
 // applies it again from the new theme.
 KVUICORE_EXPORT void ReapplyGlobalStyleSheet();
+
+// Hands a diagnostic to the host's handler, if one is installed.
+KVUICORE_EXPORT void CallDiagnosticHandler(const char* category, CoreUIManager::DiagnosticSeverity severity,
+                                           const QString& text);
 
 } // namespace Kavrel::UICore::Internal

@@ -21,8 +21,10 @@ public:
     // the link's folder; anything else comes back unchanged.
     static QString GetSymbolicLinkTarget(const QString& path);
 
-    // The single hook through which the library's diagnostics pass. It writes
+    // The hook through which every diagnostic of the library passes. It writes
     // nothing; callers keep calling it so that a build can route the texts.
+    // Hosts read the diagnostics through their logging categories or
+    // CoreUIManager::SetDiagnosticHandler.
     static void OutputDebugQString(const QString& text);
 };
 

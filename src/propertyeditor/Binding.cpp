@@ -58,11 +58,19 @@ bool BindingImp::Resolve()
 {
     if (msExpression.isEmpty() || mpSource || !mpContext)
         return true;
-    Internal::WriteDiagnostic(
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtDebugMsg,
         [this] { return QStringLiteral("Resolving binding expression: %1\n").arg(msExpression); });
     QString name;
     QStringList arguments;
-    if (!ParseCallForm(msExpression, &name, &arguments) || !isBindingName(name) || arguments.size() != 1)
+    if (!ParseCallForm(msExpression, &name, &arguments))
+        return false;
+    if (!isBindingName(name)) {
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtWarningMsg, [&] {
+            return QStringLiteral("Binding error: Unknown function %1 in expression %2\n").arg(name, msExpression);
+        });
+        return false;
+    }
+    if (arguments.size() != 1)
         return false;
     const QString& path = arguments.first();
     if (path.isEmpty())
@@ -73,8 +81,13 @@ bool BindingImp::Resolve()
     if (property.isEmpty())
         return false;
     QObject* source = objectName.isEmpty() ? mpContext->GetContextObject() : mpContext->GetContextObject(objectName);
-    if (!source)
+    if (!source) {
+        // Not an error yet: the host may name the object after loading.
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtDebugMsg, [&] {
+            return QStringLiteral("Binding pending: no source object for expression %1\n").arg(msExpression);
+        });
         return false;
+    }
     return Bind(source, property);
 }
 
@@ -83,7 +96,7 @@ bool BindingImp::Bind(QObject* source, const QString& property)
     const QMetaObject* metaObject = source->metaObject();
     const int index = metaObject->indexOfProperty(property.toLatin1().constData());
     if (index < 0 || !metaObject->property(index).isReadable()) {
-        Internal::WriteDiagnostic([&] {
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtWarningMsg, [&] {
             return QStringLiteral("Binding error: Property %1 is not found in object %2\n")
                 .arg(property, className(source));
         });
@@ -219,13 +232,13 @@ void BindingImp::SourceValueChangedSlot()
     if (mbNotifying) {
         // The change came back round to where it started: bindings that form
         // a loop settle after one round instead of recursing without end.
-        Internal::WriteDiagnostic([&] {
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtWarningMsg, [&] {
             return QStringLiteral("Binding error: Binding loop stopped at %1::%2, expr: %3\n")
                 .arg(className(source), msSourceProperty, msExpression);
         });
         return;
     }
-    Internal::WriteDiagnostic(
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtDebugMsg,
         [&] { return QStringLiteral("Source value changed: %1::%2\n").arg(className(source), msSourceProperty); });
     NotifyRebound();
 }
@@ -286,7 +299,7 @@ bool Binding::SetExpression(const QString& expression)
     mpImp->msExpression = expression;
     mpImp->Unbind(true);
     if (isBindingName(name) && arguments.size() != 1)
-        Internal::WriteDiagnostic(
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtWarningMsg,
             [&] { return QStringLiteral("Binding error: Invalid binding expression %1\n").arg(expression); });
     mpImp->Resolve();
     if (wasBound || mpImp->mpSource)
@@ -355,7 +368,7 @@ bool Binding::SetValue(const QVariant& value)
         return true;
     }
     QObject* source = mpImp->mpSource;
-    Internal::WriteDiagnostic([&] {
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtDebugMsg, [&] {
         return QStringLiteral("Updating binding source property: %1::%2\n")
             .arg(className(source), mpImp->msSourceProperty);
     });
@@ -386,7 +399,7 @@ void Binding::SetContext(BindingContext* context)
 {
     if (context == mpImp->mpContext)
         return;
-    Internal::WriteDiagnostic([&] {
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Binding, QtDebugMsg, [&] {
         return QStringLiteral("Setting binding context in 0x%1: context: 0x%2, expr: %3, property: %4\n")
             .arg(hexAddress(this), hexAddress(context), mpImp->msExpression, mpImp->msSourceProperty);
     });

@@ -32,7 +32,8 @@ class BindingImp;
 // other, or an element bound to its own attribute, whose attributes share one
 // notify signal), the change goes round once, stops where it started and a
 // diagnostic names the loop. Diagnostics go to
-// CoreUIUtil::OutputDebugQString. The binding does not own its source or its
+// CoreUIUtil::OutputDebugQString and to the "kvuicore.binding" logging
+// category (errors as warnings, tracing as debug output). The binding does not own its source or its
 // context; when either is destroyed the binding lets go of it.
 class KVUICORE_EXPORT Binding : public QObject
 {

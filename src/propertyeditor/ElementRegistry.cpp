@@ -117,7 +117,7 @@ PropertyEditorElement* ElementTypeRegistry::Create(const QString& tagName, const
     if (!namespaceUri.isEmpty()) {
         ElementNamespace ns;
         if (!ParseNamespaceUri(namespaceUri, &ns)) {
-            WriteDiagnostic(QStringLiteral("Property editor: invalid namespace URI \"%1\" of element %2\n")
+            WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg, QStringLiteral("Property editor: invalid namespace URI \"%1\" of element %2\n")
                                 .arg(namespaceUri, tagName));
             return nullptr;
         }
@@ -178,7 +178,7 @@ bool ElementTypeRegistry::IsAcceptableModuleName(const QString& module)
 bool ElementTypeRegistry::LoadModule(const QString& module)
 {
     if (!IsAcceptableModuleName(module)) {
-        WriteDiagnostic(QStringLiteral("Property editor: module \"%1\" refused: a module is named without a folder, "
+        WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg, QStringLiteral("Property editor: module \"%1\" refused: a module is named without a folder, "
                                        "drive or scheme\n")
                             .arg(module));
         return false;
@@ -204,7 +204,7 @@ bool ElementTypeRegistry::LoadModule(const QString& module)
         errors += library->errorString() + QLatin1Char(' ');
         delete library;
     }
-    WriteDiagnostic(
+    WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg,
         QStringLiteral("Property editor: module \"%1\" could not be loaded. %2\n").arg(module, errors.trimmed()));
     return false;
 }

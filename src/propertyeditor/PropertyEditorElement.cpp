@@ -7,12 +7,14 @@
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>
 #include <KvUICore/propertyeditor/PropertyEditorImp.h>
 #include <KvUICore/util/Diagnostics_p.h>
+#include <KvUICore/util/XmlFilerReadLog_p.h>
 #include <KvUICore/widgets/Label.h>
 
 #include <QDomElement>
 #include <QWidget>
 
 #include <algorithm>
+#include <optional>
 
 namespace Kavrel::UICore {
 
@@ -83,15 +85,35 @@ QString PropertyEditorElementImp::KindName() const
     return QString::fromLatin1(mpOwner->metaObject()->className());
 }
 
+QString PropertyEditorElementImp::LoadSourceName() const
+{
+    const PropertyEditorImp* editor = GetEditorImp();
+    const QString source = editor ? editor->LoadSourceName() : QString();
+    return source.isEmpty() ? QStringLiteral("the UI definition") : source;
+}
+
+void PropertyEditorElementImp::ReportUnknownAttributes(QStringList names) const
+{
+    // A hostile file may carry hundreds: the first few name the problem.
+    constexpr qsizetype kNamed = 8;
+    names.sort();
+    const qsizetype count = names.size();
+    QString list = QStringList(names.mid(0, kNamed)).join(QStringLiteral(", "));
+    if (count > kNamed)
+        list += QStringLiteral(" and %1 more").arg(count - kNamed);
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg,
+                              QStringLiteral("Property editor: %1: %2 \"%3\" ignores the unknown attribute%4 %5\n")
+                                  .arg(LoadSourceName(), KindName(), msId,
+                                       count > 1 ? QStringLiteral("s") : QString(), list));
+}
+
 bool PropertyEditorElementImp::Load(XmlFiler& filer)
 {
     const LoadDepthScope depth;
     if (sElementLoadDepth > PropertyEditor::kMaxDefinitionDepth) {
-        PropertyEditorImp* editor = GetEditorImp();
-        const QString source = editor ? editor->LoadSourceName() : QString();
-        Internal::WriteDiagnostic([&] {
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg, [&] {
             return QStringLiteral("Property editor: %1 nests elements deeper than %2 levels\n")
-                .arg(source.isEmpty() ? QStringLiteral("the UI definition") : source)
+                .arg(LoadSourceName())
                 .arg(PropertyEditor::kMaxDefinitionDepth);
         });
         return false;
@@ -99,6 +121,9 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
     // A handler of the signals sent while loading may delete the editor and
     // this element with it; the load then stops without touching either.
     const QPointer<PropertyEditorElement> self(mpOwner);
+    std::optional<Internal::AttributeReadLog> readLog;
+    if (Internal::IsDiagnosticListened(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg))
+        readLog.emplace(filer);
     const QString id = filer.ReadString(QStringLiteral("Id"));
     const QString label = filer.ReadString(AttributeName::Label);
     const QString isEnabled = filer.ReadString(AttributeName::IsEnabled, QStringLiteral("True"));
@@ -146,6 +171,12 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
     LoadAttributes(filer);
     if (!self)
         return false;
+    if (readLog) {
+        const QStringList unknown = readLog->Unread();
+        readLog.reset();
+        if (!unknown.isEmpty())
+            ReportUnknownAttributes(unknown);
+    }
 
     if (!IsContainer())
         return true;
@@ -157,8 +188,13 @@ bool PropertyEditorElementImp::Load(XmlFiler& filer)
         const QDomElement node = filer.GetCurrentElement();
         const QString namespaceUri = node.namespaceURI();
         PropertyEditorElement* child = registry.Create(node.tagName(), namespaceUri);
-        if (!child)
+        if (!child) {
+            Internal::WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg, [&] {
+                return QStringLiteral("Property editor: %1: unknown element <%2> in %3 \"%4\" is skipped\n")
+                    .arg(LoadSourceName(), node.tagName(), KindName(), msId);
+            });
             continue;
+        }
         if (RefuseNesting(child)) {
             result = false;
             break;
@@ -217,7 +253,7 @@ bool PropertyEditorElementImp::RefuseNesting(PropertyEditorElement* child) const
         ++depth;
     if (depth <= PropertyEditor::kMaxNestingDepth)
         return false;
-    Internal::WriteDiagnostic(QStringLiteral("Property editor: a %1 inside \"%2\" nests containers deeper than %3 "
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtWarningMsg, QStringLiteral("Property editor: a %1 inside \"%2\" nests containers deeper than %3 "
                                              "levels; the definition is refused\n")
                                   .arg(Of(child)->KindName(), msId)
                                   .arg(PropertyEditor::kMaxNestingDepth));
@@ -842,7 +878,7 @@ void PropertyEditorElement::UpdateWidget(const QString& attribute)
 {
     if (!mpImp->mpWidget)
         return;
-    Internal::WriteDiagnostic([&] {
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::PropertyEditor, QtDebugMsg, [&] {
         return QStringLiteral("Updating widget property for element: %1, target property:%2\n")
             .arg(mpImp->msId, attribute);
     });

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QMap>
 #include <QPointer>
+#include <QStringList>
 
 namespace Kavrel::UICore {
 
@@ -73,6 +74,9 @@ public:
     void SetLabelWidget(Label* label);
 
     PropertyEditorImp* GetEditorImp() const;
+    // The file (or text) being loaded, for diagnostics.
+    QString LoadSourceName() const;
+    void ReportUnknownAttributes(QStringList names) const;
     PropertyEditorElementImp* GetRootImp() const;
     // Gives every binding of the subtree the editor's context.
     void AttachSubtreeToContext();

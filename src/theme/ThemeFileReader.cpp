@@ -181,29 +181,69 @@ struct CachedIcon
     QDateTime modified;
     qint64 size = -1;
     QList<QImage> images;
+    qint64 bytes = 0;
 };
 
-QHash<QString, CachedIcon>& iconCache()
+// Oldest entries are dropped first once the decoded images pass the limit.
+struct IconCache
 {
-    static QHash<QString, CachedIcon> cache;
+    QHash<QString, CachedIcon> entries;
+    QList<QString> order;
+    qint64 bytes = 0;
+
+    void Remove(const QString& file)
+    {
+        const auto it = entries.constFind(file);
+        if (it == entries.cend())
+            return;
+        bytes -= it->bytes;
+        entries.erase(it);
+        order.removeOne(file);
+    }
+
+    void Insert(const QString& file, CachedIcon icon)
+    {
+        Remove(file);
+        if (icon.bytes > kMaximumIconCacheBytes)
+            return;
+        while (bytes + icon.bytes > kMaximumIconCacheBytes && !order.isEmpty())
+            Remove(order.constFirst());
+        bytes += icon.bytes;
+        order.append(file);
+        entries.insert(file, std::move(icon));
+    }
+};
+
+IconCache& iconCache()
+{
+    static IconCache cache;
     return cache;
 }
 
-QList<QImage> readImages(const QString& file)
+QList<QImage> readImages(const QString& file, qint64* bytes)
 {
     QList<QImage> images;
+    *bytes = 0;
     // Like a missing file, one that is no regular file or too large gives no images.
     if (!UnreadableFileReason(file).isEmpty())
         return images;
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
-    const int count = reader.imageCount();
-    for (int i = 0; i < qMax(count, 1); ++i) {
+    const int count = qBound(1, reader.imageCount(), kMaximumIconImages);
+    for (int i = 0; i < count; ++i) {
         if (i > 0 && !reader.jumpToImage(i))
+            break;
+        // The frame's size is known before decoding: a frame that would pass
+        // the icon's budget is not decoded at all.
+        const QSize size = reader.size();
+        if (size.isValid() && *bytes + qint64(size.width()) * size.height() * 4 > kMaximumIconBytes)
             break;
         QImage image;
         if (!reader.read(&image))
             break;
+        if (*bytes + image.sizeInBytes() > kMaximumIconBytes)
+            break;
+        *bytes += image.sizeInBytes();
         images.append(image);
     }
     return images;
@@ -213,7 +253,10 @@ QList<QImage> readImages(const QString& file)
 
 void ClearIconCache()
 {
-    iconCache().clear();
+    IconCache& cache = iconCache();
+    cache.entries.clear();
+    cache.order.clear();
+    cache.bytes = 0;
 }
 
 void ThemeFileReader::ReadIcon(const QString& name)
@@ -222,12 +265,14 @@ void ThemeFileReader::ReadIcon(const QString& name)
     const QFileInfo info(file);
     const QDateTime modified = info.lastModified();
     const qint64 size = info.size();
-    auto cached = iconCache().find(file);
-    if (cached == iconCache().end() || cached->modified != modified || cached->size != size) {
-        QList<QImage> images = readImages(file);
-        if (info.exists())
-            cached = iconCache().insert(file, CachedIcon{modified, size, images});
+    IconCache& cache = iconCache();
+    const auto cached = cache.entries.constFind(file);
+    if (cached == cache.entries.cend() || cached->modified != modified || cached->size != size) {
+        qint64 bytes = 0;
+        QList<QImage> images = readImages(file, &bytes);
         Store(name, QVariant::fromValue(images));
+        if (info.exists())
+            cache.Insert(file, CachedIcon{modified, size, std::move(images), bytes});
     } else {
         Store(name, QVariant::fromValue(cached->images));
     }

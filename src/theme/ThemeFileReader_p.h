@@ -23,7 +23,14 @@ using ThemeValueTable = QHash<QString, QVariant*>;
 //   value may grow to at most kMaximumValueLength characters, and the
 //   expansions of one file may insert at most kMaximumFileExpansion characters
 //   in all. Each limit is checked before the text grows.
+// - An icon file gives at most kMaximumIconImages images, which decode to at
+//   most kMaximumIconBytes in all; the images past either limit are dropped.
+//   Decoded icons stay cached by path for theme switches, up to
+//   kMaximumIconCacheBytes; beyond that the oldest entries go first.
 constexpr qint64 kMaximumFileSize = 8 * 1024 * 1024;
+constexpr int kMaximumIconImages = 64;
+constexpr qint64 kMaximumIconBytes = 64 * 1024 * 1024;
+constexpr qint64 kMaximumIconCacheBytes = 256 * 1024 * 1024;
 constexpr int kMaximumExpansions = 4096;
 constexpr qsizetype kMaximumValueLength = 1024 * 1024;
 constexpr qsizetype kMaximumFileExpansion = 16 * 1024 * 1024;

@@ -4,6 +4,7 @@
 #include <KvUICore/core/CoreUIManager_p.h>
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/platform/PlatformFiles_p.h>
+#include <KvUICore/util/Diagnostics_p.h>
 
 #include <KvCoreUnits/StringUtil.h>
 
@@ -209,6 +210,12 @@ bool ThemeManagerImp::LoadThemeFile(QFile& file, bool asTheme)
                                      [this](const QString& name) { return Internal::ThemeValueText(Find(name)); });
     if (reader.Read(&file))
         return true;
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Theme, QtWarningMsg,
+                              QStringLiteral("Theme: parse error in file %1 at line %2, column %3: %4\n")
+                                  .arg(file.fileName())
+                                  .arg(reader.LineNumber())
+                                  .arg(reader.ColumnNumber())
+                                  .arg(reader.ErrorString()));
     Internal::ShowWarning(warningTitle(), tr("Parse error in file %1 at line %2, column %3:\n%4")
                                               .arg(file.fileName())
                                               .arg(reader.LineNumber())
@@ -225,6 +232,8 @@ bool ThemeManagerImp::LoadThemeFile(const QString& path, bool asTheme)
     if (reason.isEmpty() && !file.open(QIODevice::ReadOnly | QIODevice::Text))
         reason = file.errorString();
     if (!reason.isEmpty()) {
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Theme, QtWarningMsg,
+                                  QStringLiteral("Theme: cannot read file %1: %2\n").arg(path, reason));
         Internal::ShowWarning(warningTitle(), tr("Cannot read file %1:\n%2.").arg(path, reason));
         return false;
     }

@@ -30,7 +30,8 @@ class ThemeManagerImp;
 // reference expands at most 4,096 times per value, a value grows to at most
 // 1 Mi characters, and the expansions of one file insert at most 16 Mi
 // characters; a file beyond these limits fails to load with a message saying
-// which limit it broke.
+// which limit it broke. An icon gives at most 64 images of 64 MiB decoded in
+// all, and decoded icons are cached up to 256 MiB.
 class KVUICORE_EXPORT ThemeManager : public QObject
 {
     Q_OBJECT

@@ -199,12 +199,12 @@ bool TranslationTable::LoadFile(const QString& fileName)
         return false;
     // A pipe would block the reading and a device never end.
     if (!info.isFile()) {
-        Internal::WriteDiagnostic(
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg,
             QStringLiteral("TranslationTable: Failed to open file %1. Not a regular file").arg(fileName));
         return false;
     }
     if (info.size() > kMaxFileSize) {
-        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg, QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
                                       .arg(fileName)
                                       .arg(kMaxFileSize));
         return false;
@@ -212,14 +212,14 @@ bool TranslationTable::LoadFile(const QString& fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         if (file.exists())
-            Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Failed to open file %1. %2 (Error code: %3)")
+            Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg, QStringLiteral("TranslationTable: Failed to open file %1. %2 (Error code: %3)")
                                           .arg(fileName, file.errorString(), QString::number(int(file.error()))));
         return false;
     }
     // Read from memory, so a file that grew since it was looked at stops at the limit.
     QByteArray bytes = file.read(kMaxFileSize + 1);
     if (bytes.size() > kMaxFileSize) {
-        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg, QStringLiteral("TranslationTable: Refused %1: the file is larger than %2 bytes.")
                                       .arg(fileName)
                                       .arg(kMaxFileSize));
         return false;
@@ -227,7 +227,7 @@ bool TranslationTable::LoadFile(const QString& fileName)
     static constexpr Internal::XmlLimits limits{kMaxDepth, kMaxAttributes, std::numeric_limits<qint64>::max()};
     const QString limit = Internal::XmlLimitReached(bytes, limits);
     if (!limit.isEmpty()) {
-        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Refused %1: %2.").arg(fileName, limit));
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg, QStringLiteral("TranslationTable: Refused %1: %2.").arg(fileName, limit));
         return false;
     }
     QBuffer buffer(&bytes);
@@ -235,7 +235,7 @@ bool TranslationTable::LoadFile(const QString& fileName)
     QHash<QString, QString> texts;
     QString error;
     if (!TranslationTableImp::ReadXliff(&buffer, &texts, &error)) {
-        Internal::WriteDiagnostic(QStringLiteral("TranslationTable: Failed to read file %1. %2").arg(fileName, error));
+        Internal::WriteDiagnostic(Internal::DiagnosticChannel::Translation, QtWarningMsg, QStringLiteral("TranslationTable: Failed to read file %1. %2").arg(fileName, error));
         return false;
     }
     mpImp->mTexts = std::move(texts);

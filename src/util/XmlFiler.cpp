@@ -1,6 +1,7 @@
 #include <KvUICore/util/Diagnostics_p.h>
 #include <KvUICore/util/TranslationTable.h>
 #include <KvUICore/util/XmlFiler.h>
+#include <KvUICore/util/XmlFilerReadLog_p.h>
 #include <KvUICore/util/XmlLimits_p.h>
 
 #include <QFile>
@@ -33,7 +34,7 @@ enum class FileRead
 
 void Report(const QString& text)
 {
-    Internal::WriteDiagnostic(QStringLiteral("XmlFiler: ") + text);
+    Internal::WriteDiagnostic(Internal::DiagnosticChannel::Filer, QtWarningMsg, QStringLiteral("XmlFiler: ") + text);
 }
 
 // Parses within the limits; `source` names the input in the diagnostic.
@@ -348,6 +349,9 @@ public:
     };
     QList<SavedScope> mSavedScopes;
 
+    // The attribute names asked for while an AttributeReadLog lives.
+    QStringList* mpReadNames = nullptr;
+
     QDomElement Current() const { return mCurrentNode.toElement(); }
 
     QDomElement Root() const { return mScopedRoot.isNull() ? mDocument.documentElement() : mScopedRoot; }
@@ -355,6 +359,8 @@ public:
     // The raw attribute value; present tells whether the attribute exists.
     QString Attribute(const QString& name, bool* present = nullptr) const
     {
+        if (mpReadNames)
+            mpReadNames->append(name);
         const QDomElement element = Current();
         const bool has = !element.isNull() && element.hasAttribute(name);
         if (present)
@@ -1548,6 +1554,31 @@ bool XmlFiler::IsTranslatable(const QString& text, QString* id)
     if (id)
         *id = text.mid(open.capturedEnd(), close.capturedStart() - open.capturedEnd()).trimmed();
     return true;
+}
+
+Internal::AttributeReadLog::AttributeReadLog(XmlFiler& filer)
+    : mFiler(filer)
+    , mpPrevious(filer.mpImp->mpReadNames)
+{
+    filer.mpImp->mpReadNames = &mNames;
+}
+
+Internal::AttributeReadLog::~AttributeReadLog()
+{
+    mFiler.mpImp->mpReadNames = mpPrevious;
+}
+
+QStringList Internal::AttributeReadLog::Unread() const
+{
+    QStringList unread;
+    const QDomNamedNodeMap attributes = mFiler.mpImp->Current().attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString name = attributes.item(i).nodeName();
+        // Namespace declarations and qualified attributes belong to other vocabularies.
+        if (!name.contains(QLatin1Char(':')) && name != QLatin1String("xmlns") && !mNames.contains(name))
+            unread.append(name);
+    }
+    return unread;
 }
 
 } // namespace Kavrel::UICore

@@ -20,6 +20,10 @@ namespace Kavrel::UICore {
 class TranslationTable;
 class XmlFilerImp;
 
+namespace Internal {
+class AttributeReadLog;
+}
+
 // A table of (value, word) pairs for enumerated and flags attributes. Words
 // match without regard to case.
 using XmlWordTable = QList<QPair<int, QString>>;
@@ -268,6 +272,7 @@ public:
 
 private:
     Q_DISABLE_COPY_MOVE(XmlFiler)
+    friend class Internal::AttributeReadLog;
     std::unique_ptr<XmlFilerImp> const mpImp;
 };
 
