@@ -143,15 +143,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("warningTitle");
-        QTest::addColumn<QString>("warningStart");
         QTest::addColumn<QString>("clearToolTip");
         QTest::addColumn<QString>("cancel");
         QTest::newRow("German") << QStringLiteral("de-DE") << QStringLiteral("QXmlStream für UI-Skin")
-                                << QStringLiteral("Datei ") << QStringLiteral("Leeren") << QStringLiteral("Abbrechen");
+                                << QStringLiteral("Leeren") << QStringLiteral("Abbrechen");
         QTest::newRow("French") << QStringLiteral("fr-FR")
                                 << QStringLiteral("QXmlStream pour l'habillage de l'interface")
-                                << QStringLiteral("Impossible de lire le fichier ") << QStringLiteral("Effacer")
-                                << QStringLiteral("Annuler");
+                                << QStringLiteral("Effacer") << QStringLiteral("Annuler");
     }
 
     void defaultFoldersTranslateLibraryAndQt()
@@ -160,16 +158,12 @@ private Q_SLOTS:
         QVERIFY(CoreUIManager::GetInstance()->SetCurrentLocale(wide(locale).c_str()));
 
         QString title;
-        QString text;
-        Internal::SetWarningHook([&](const QString& t, const QString& x) {
-            title = t;
-            text = x;
+        Internal::SetWarningHook([&title](const QString& shown, const QString&) {
+            title = shown;
             return true;
         });
         QVERIFY(!ThemeManager::GetInstance()->LoadThemeFile(QStringLiteral("/nonexistent/Theme.xbel"), false));
         QTEST(title, "warningTitle");
-        QFETCH(QString, warningStart);
-        QVERIFY2(text.startsWith(warningStart), qPrintable(text));
 
         SearchBox search;
         auto* clear = search.findChild<QAbstractButton*>(QStringLiteral("SearchBoxClear"));
