@@ -5,10 +5,13 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/theme/ThemeManagerImp.h>
 #include <KvUICore/widgets/IMessageBoxProvider.h>
+#include <KvUICore/widgets/SearchBox.h>
+#include <KvUICore/widgets/UIMessageBox_p.h>
 
 #include <KvCoreUnits/LocaleUtil.h>
 #include <KvCoreUnits/UnitsManager.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
 #include <QLibraryInfo>
@@ -134,6 +137,44 @@ private Q_SLOTS:
         QCOMPARE(QLocale().language(), QLocale::C);
     }
 
+    // Without a folder named by the host, the library's own texts come from
+    // the translations built beside it and Qt's from Qt's translations folder.
+    void defaultFoldersTranslateLibraryAndQt_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("warningTitle");
+        QTest::addColumn<QString>("clearToolTip");
+        QTest::addColumn<QString>("cancel");
+        QTest::newRow("German") << QStringLiteral("de-DE") << QStringLiteral("QXmlStream für UI-Skin")
+                                << QStringLiteral("Leeren") << QStringLiteral("Abbrechen");
+        QTest::newRow("French") << QStringLiteral("fr-FR")
+                                << QStringLiteral("QXmlStream pour l'habillage de l'interface")
+                                << QStringLiteral("Effacer") << QStringLiteral("Annuler");
+    }
+
+    void defaultFoldersTranslateLibraryAndQt()
+    {
+        QFETCH(QString, locale);
+        QVERIFY(CoreUIManager::GetInstance()->SetCurrentLocale(wide(locale).c_str()));
+
+        QString title;
+        Internal::SetWarningHook([&title](const QString& shown, const QString&) {
+            title = shown;
+            return true;
+        });
+        QVERIFY(!ThemeManager::GetInstance()->LoadThemeFile(QStringLiteral("/nonexistent/Theme.xbel"), false));
+        QTEST(title, "warningTitle");
+
+        SearchBox search;
+        auto* clear = search.findChild<QAbstractButton*>(QStringLiteral("SearchBoxClear"));
+        QVERIFY(clear);
+        QTEST(clear->toolTip(), "clearToolTip");
+
+        UIMessageBox box;
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        QTEST(box.button(QMessageBox::Cancel)->text().remove(QLatin1Char('&')), "cancel");
+    }
+
     void sameLocaleTwiceReachesUnitsOnly()
     {
         CoreUIManager* core = CoreUIManager::GetInstance();
@@ -162,8 +203,8 @@ private Q_SLOTS:
         QTemporaryDir empty;
         QTemporaryDir filled;
         CoreUIManager* core = CoreUIManager::GetInstance();
-        QVERIFY(core->SetCurrentLocale(L"fr-FR"));
         QVERIFY(core->SetTranslatorFilesPath(wide(empty.path()).c_str()));
+        QVERIFY(core->SetCurrentLocale(L"fr-FR"));
         QVERIFY(core->InstallTranslator(L"MyApp"));
         QCOMPARE(cancelText(), QStringLiteral("Cancel"));
 

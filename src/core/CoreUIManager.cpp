@@ -2,6 +2,8 @@
 #include <KvUICore/core/CoreUIManagerImp.h>
 #include <KvUICore/core/CoreUIManager_p.h>
 
+#include <KvUICore/platform/PlatformFiles_p.h>
+
 #include <KvCoreUnits/LocaleUtil.h>
 #include <KvCoreUnits/StringUtil.h>
 #include <KvCoreUnits/UnitsManager.h>
@@ -10,6 +12,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QMutex>
 #include <QMutexLocker>
@@ -56,6 +59,22 @@ const QHash<QString, QPair<QString, QString>>& languageTable()
         {QStringLiteral("tr-TR"), {QStringLiteral("qt_tr"), QStringLiteral("qtbase_tr")}},
     };
     return table;
+}
+
+// The folders searched for translation files. A folder the host named is the
+// only one; without it the library's own files come from the translations
+// folder beside the library, Qt's from Qt's translations folder, and a host's
+// from the working folder.
+QStringList translatorDirectories(const QString& hostPath)
+{
+    if (!hostPath.isEmpty())
+        return {hostPath};
+    QStringList directories;
+    const QString library = Platform::LibraryModuleDirectory();
+    if (!library.isEmpty())
+        directories << library + QLatin1String("/translations");
+    directories << QLibraryInfo::path(QLibraryInfo::TranslationsPath) << QStringLiteral(".");
+    return directories;
 }
 
 std::uint32_t userDefaultLCID()
@@ -136,9 +155,15 @@ void CoreUIManagerImp::ReloadTranslator(Translator* translator)
     const QString locale = translator->msSecondBaseName.compare(QLatin1String("qt_en_us"), Qt::CaseSensitive) == 0
                                ? QStringLiteral("en-US")
                                : msCurrentLocale;
-    QString file = LocaleUtil::ResolveTranslatorFile(translator->msBaseName, translator->msSecondBaseName, locale,
-                                                     msTranslatorFilesPath);
-    if (file.isEmpty() || !QFileInfo::exists(file))
+    QString file;
+    for (const QString& directory : translatorDirectories(msTranslatorFilesPath)) {
+        file =
+            LocaleUtil::ResolveTranslatorFile(translator->msBaseName, translator->msSecondBaseName, locale, directory);
+        if (!file.isEmpty() && QFileInfo::exists(file))
+            break;
+        file.clear();
+    }
+    if (file.isEmpty())
         return;
     file = QDir::cleanPath(file);
     if (translator->mbLoaded && translator->msLoadedFile == file)

@@ -18,10 +18,11 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-QString tr(const char* text)
+// The reader's messages reach the user in the theme manager's warning box.
+struct ReaderText
 {
-    return QCoreApplication::translate("ThemeFileReader", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ThemeFileReader)
+};
 
 } // namespace
 
@@ -29,12 +30,12 @@ QString UnreadableFileReason(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return tr("The file does not exist");
+        return ReaderText::tr("The file does not exist");
     // A FIFO would block the reader forever, a device never ends.
     if (!info.isFile())
-        return tr("Not a regular file");
+        return ReaderText::tr("Not a regular file");
     if (info.size() > kMaximumFileSize)
-        return tr("The file is larger than %1 bytes").arg(kMaximumFileSize);
+        return ReaderText::tr("The file is larger than %1 bytes").arg(kMaximumFileSize);
     return QString();
 }
 
@@ -59,13 +60,13 @@ bool ThemeFileReader::Read(QIODevice* device)
     QByteArray data;
     if (!device || device->isSequential()) {
         mReader.clear();
-        RaiseError(tr("Not a regular file"));
+        RaiseError(ReaderText::tr("Not a regular file"));
         return false;
     }
     data = device->read(kMaximumFileSize + 1);
     mReader.clear();
     if (data.size() > kMaximumFileSize) {
-        RaiseError(tr("The file is larger than %1 bytes").arg(kMaximumFileSize));
+        RaiseError(ReaderText::tr("The file is larger than %1 bytes").arg(kMaximumFileSize));
         return false;
     }
     mReader.addData(data);
@@ -77,7 +78,7 @@ bool ThemeFileReader::Read(QIODevice* device)
             && mReader.attributes().value(QLatin1String("version")) == QLatin1String("1.0")) {
             ReadRoot();
         } else {
-            RaiseError(tr("The file is not an XBEL version 1.0 file."));
+            RaiseError(ReaderText::tr("The file is not an XBEL version 1.0 file."));
         }
     }
     return !mReader.hasError();
@@ -155,12 +156,12 @@ QColor ThemeFileReader::ReadHexColor()
     if (!value.startsWith(QLatin1Char('#')))
         return QColor();
     if (value.size() != 7 && value.size() != 9)
-        RaiseError(tr("The hex format of color is invalid!"));
+        RaiseError(ReaderText::tr("The hex format of color is invalid!"));
     auto channel = [&](int position) {
         bool ok = false;
         const int v = value.mid(position, 2).toInt(&ok, 16);
         if (!ok) {
-            RaiseError(tr("Invalid hex format!"));
+            RaiseError(ReaderText::tr("Invalid hex format!"));
             return 0;
         }
         return v;
@@ -363,12 +364,13 @@ bool ThemeFileReader::Substitute(QString& text)
     case Substitution::Done:
         return true;
     case Substitution::ValueTooLong:
-        RaiseError(tr("The value of %1 grows beyond %2 characters when its references are expanded.")
+        RaiseError(ReaderText::tr("The value of %1 grows beyond %2 characters when its references are expanded.")
                        .arg(msEntryName)
                        .arg(kMaximumValueLength));
         return false;
     case Substitution::BudgetSpent:
-        RaiseError(tr("The references of the file expand to more than %1 characters.").arg(kMaximumFileExpansion));
+        RaiseError(
+            ReaderText::tr("The references of the file expand to more than %1 characters.").arg(kMaximumFileExpansion));
         return false;
     }
     return false;

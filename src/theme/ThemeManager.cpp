@@ -24,10 +24,9 @@ namespace {
 
 ThemeManager* gInstance = nullptr;
 
-const QString& warningTitle()
+QString warningTitle()
 {
-    static const QString title = QStringLiteral("QXmlStream for UI Skin");
-    return title;
+    return ThemeManager::tr("QXmlStream for UI Skin");
 }
 
 } // namespace

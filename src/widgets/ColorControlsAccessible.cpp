@@ -21,10 +21,10 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-QString Tr(const char* text)
+struct Text
 {
-    return QCoreApplication::translate("Kavrel::UICore::ColorControlsAccessible", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Kavrel::UICore::ColorControlsAccessible)
+};
 
 // A widget interface with a value a screen reader can read and set.
 class ValueAccessible : public QAccessibleWidget, public QAccessibleValueInterface
@@ -67,14 +67,14 @@ class ColorWheelAccessible : public ValueAccessible
 {
 public:
     explicit ColorWheelAccessible(ColorWheel* wheel)
-        : ValueAccessible(wheel, QAccessible::ColorChooser, Tr("Colour wheel"))
+        : ValueAccessible(wheel, QAccessible::ColorChooser, Text::tr("Colour wheel"))
     {}
 
     ColorWheel* Wheel() const { return static_cast<ColorWheel*>(widget()); }
 
     QString ValueText() const override
     {
-        return Tr("%1, hue %2°, saturation %3 %, value %4 %")
+        return Text::tr("%1, hue %2°, saturation %3 %, value %4 %")
             .arg(AccessibleColorText(Wheel()->GetColor()))
             .arg(std::lround(Wheel()->GetHue()) % 360)
             .arg(std::lround(Wheel()->GetSaturation() * 100))
@@ -104,7 +104,7 @@ class AlphaBarAccessible : public ValueAccessible
 {
 public:
     explicit AlphaBarAccessible(AlphaBar* bar)
-        : ValueAccessible(bar, QAccessible::Slider, Tr("Alpha"))
+        : ValueAccessible(bar, QAccessible::Slider, Text::tr("Alpha"))
     {}
 
     AlphaBar* Bar() const { return static_cast<AlphaBar*>(widget()); }
@@ -128,7 +128,7 @@ class GradientSwatchAccessible : public ValueAccessible
 {
 public:
     explicit GradientSwatchAccessible(GradientSwatch* swatch)
-        : ValueAccessible(swatch, QAccessible::ColorChooser, Tr("Gradient"))
+        : ValueAccessible(swatch, QAccessible::ColorChooser, Text::tr("Gradient"))
     {}
 
     GradientSwatch* Swatch() const { return static_cast<GradientSwatch*>(widget()); }
@@ -136,10 +136,10 @@ public:
     QString ValueText() const override
     {
         const QGradientStops stops = Swatch()->GetStops();
-        QString text = stops.size() == 1 ? Tr("1 stop") : Tr("%1 stops").arg(stops.size());
+        QString text = stops.size() == 1 ? Text::tr("1 stop") : Text::tr("%n stops", nullptr, int(stops.size()));
         const int selected = Swatch()->GetSelectedStop();
         if (selected >= 0 && selected < stops.size())
-            text += Tr(", stop %1 at %2 %: %3")
+            text += Text::tr(", stop %1 at %2 %: %3")
                         .arg(selected + 1)
                         .arg(std::lround(stops.at(selected).first * 100))
                         .arg(AccessibleColorText(stops.at(selected).second));
@@ -178,7 +178,7 @@ public:
     {
         if (t == QAccessible::Name) {
             const QString name = QAccessibleWidget::text(t);
-            return name.isEmpty() ? Tr("Colour") : name;
+            return name.isEmpty() ? Text::tr("Colour") : name;
         }
         if (t == QAccessible::Value)
             return AccessibleColorText(Swatch()->GetColor());
@@ -219,14 +219,14 @@ public:
             const QString name = QAccessibleWidget::text(t);
             if (!name.isEmpty())
                 return name;
-            return path.isEmpty() ? Tr("No image") : QFileInfo(path).fileName();
+            return path.isEmpty() ? Text::tr("No image") : QFileInfo(path).fileName();
         }
         case QAccessible::Value:
             switch (Swatch()->GetState()) {
             case ImageSwatch::NoImage:
-                return Tr("No image");
+                return Text::tr("No image");
             case ImageSwatch::Loaded:
-                return Tr("%1 × %2 pixels")
+                return Text::tr("%1 × %2 pixels")
                     .arg(Swatch()->GetImageSize().width())
                     .arg(Swatch()->GetImageSize().height());
             case ImageSwatch::Missing:

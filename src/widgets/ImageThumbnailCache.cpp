@@ -43,10 +43,10 @@ int& DecodeCount()
     return count;
 }
 
-QString Tr(const char* text)
+struct Text
 {
-    return QCoreApplication::translate("Kavrel::UICore::ImageSwatch", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Kavrel::UICore::ImageSwatch)
+};
 
 // Readers that decode straight to a smaller size instead of decoding the whole
 // image first.
@@ -78,33 +78,33 @@ ImageFileInfo ProbeImageFile(const QString& path)
     info.path = file.absoluteFilePath();
     if (!file.exists()) {
         info.status = ImageFileInfo::Missing;
-        info.reason = Tr("The file does not exist.");
+        info.reason = Text::tr("The file does not exist.");
         return info;
     }
     info.status = ImageFileInfo::Refused;
     if (!file.isFile()) {
-        info.reason = Tr("This is not a regular file.");
+        info.reason = Text::tr("This is not a regular file.");
         return info;
     }
     info.modified = file.lastModified().toMSecsSinceEpoch();
     info.fileBytes = file.size();
     if (info.fileBytes > kMaxFileBytes) {
-        info.reason = Tr("The file is larger than %1 MiB.").arg(kMaxFileBytes >> 20);
+        info.reason = Text::tr("The file is larger than %1 MiB.").arg(kMaxFileBytes >> 20);
         return info;
     }
     QImageReader reader(info.path);
     reader.setAutoTransform(true);
     if (!reader.canRead()) {
-        info.reason = Tr("The file is not an image in a format that can be read.");
+        info.reason = Text::tr("The file is not an image in a format that can be read.");
         return info;
     }
     QSize size = reader.size();
     if (!size.isValid() || size.isEmpty()) {
-        info.reason = Tr("The image's header gives no size.");
+        info.reason = Text::tr("The image's header gives no size.");
         return info;
     }
     if (qint64(size.width()) * size.height() > kMaxSourcePixels) {
-        info.reason = Tr("The image has %1 × %2 pixels, more than the %3 megapixels a swatch decodes.")
+        info.reason = Text::tr("The image has %1 × %2 pixels, more than the %3 megapixels a swatch decodes.")
                           .arg(size.width())
                           .arg(size.height())
                           .arg(kMaxSourcePixels / 1000000);
@@ -141,7 +141,7 @@ QImage DecodeThumbnail(const ImageFileInfo& info, const QSize& box, QString* err
 
     const qint64 wholeBytes = qint64(info.pixelSize.width()) * info.pixelSize.height() * 4;
     if (!DecodesScaled(info.format) && wholeBytes > kMaxFullDecodeBytes)
-        return fail(Tr("Decoding this image would take %1 MiB, more than the %2 MiB allowed.")
+        return fail(Text::tr("Decoding this image would take %1 MiB, more than the %2 MiB allowed.")
                         .arg((wholeBytes + (1 << 20) - 1) >> 20)
                         .arg(kMaxFullDecodeBytes >> 20));
 
@@ -156,7 +156,7 @@ QImage DecodeThumbnail(const ImageFileInfo& info, const QSize& box, QString* err
     QImage image;
     ++DecodeCount();
     if (!reader.read(&image) || image.isNull())
-        return fail(Tr("The image could not be decoded: %1").arg(reader.errorString()));
+        return fail(Text::tr("The image could not be decoded: %1").arg(reader.errorString()));
     if (image.size() != target)
         image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     image = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
