@@ -118,7 +118,7 @@ private Q_SLOTS:
         row("outputGroup", "RolloutContainer", "title", QStringLiteral("Output"));
         row("lookGroup", "RolloutContainer", "checkable", true);
         row("nameLabel", "Label", "text", QStringLiteral("Name"));
-        row("nameEdit", "LineEdit", "text", QStringLiteral("Living room"));
+        row("nameEdit", "TextBox", "text", QStringLiteral("Living room"));
         row("formatDropDown", "DropDown", "items", QStringList{"PNG", "JPEG", "OpenEXR"});
         row("formatDropDown", "DropDown", "text", QStringLiteral("OpenEXR"));
         row("qualitySlider", "Slider", "value", 75.0);
