@@ -116,16 +116,12 @@ private Q_SLOTS:
                 << value;
         };
         row("outputGroup", "RolloutContainer", "title", QStringLiteral("Output"));
-        row("lookGroup", "RolloutContainer", "checkable", true);
-        row("nameLabel", "Label", "text", QStringLiteral("Name"));
         row("nameEdit", "TextBox", "text", QStringLiteral("Living room"));
         row("formatDropDown", "DropDown", "items", QStringList{"PNG", "JPEG", "OpenEXR"});
         row("formatDropDown", "DropDown", "text", QStringLiteral("OpenEXR"));
         row("qualitySlider", "Slider", "value", 75.0);
         row("exposureSpinBox", "DoubleSpinBox", "value", 1.5);
         row("backgroundSwatch", "ColorSwatch", "color", QColor(70, 130, 180));
-        row("denoiseCheck", "CheckBox", "checked", true);
-        row("renderProgress", "ProgressBar", "value", 40);
     }
 
     void formBuildsControlsWithProperties()
