@@ -215,6 +215,7 @@ void BreadcrumbBar::SetPath(const QStringList& texts)
     d.ApplyThemeToItems();
     d.Layout();
     updateGeometry();
+    Q_EMIT PathChanged(path);
 }
 
 QStringList BreadcrumbBar::GetPath() const

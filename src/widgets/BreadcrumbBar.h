@@ -23,6 +23,7 @@ class BreadcrumbItem;
 class KVUICORE_EXPORT BreadcrumbBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList path READ GetPath WRITE SetPath NOTIFY PathChanged)
 
 public:
     // More levels are cut from the top: a path is a place, not a list.
@@ -59,6 +60,8 @@ Q_SIGNALS:
     void ChoiceActivated(int level, const QString& text);
     // Sent before a separator menu opens: a host may fill the choices now.
     void ChoicesRequested(int level);
+    /// Emitted when SetPath changes the path.
+    void PathChanged(const QStringList& path);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -158,6 +158,8 @@ public:
         ShowHex();
         mpNewChip->SetColor(color);
         mbSyncing = false;
+        if (color != before)
+            Q_EMIT mpOwner->ColorUpdated(color);
         if (announce && color != before)
             Q_EMIT mpOwner->ColorChanged(color);
         if (commit)

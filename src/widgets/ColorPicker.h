@@ -36,7 +36,7 @@ class ColorWheel;
 class KVUICORE_EXPORT ColorPicker : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
 
 public:
     static constexpr int kMaxRecentColors = 12;
@@ -70,6 +70,8 @@ public:
 Q_SIGNALS:
     void ColorChanged(const QColor& color);
     void ColorCommitted(const QColor& color);
+    /// Emitted whenever the colour changes, in code or by the user; ColorChanged reports the user's edits only.
+    void ColorUpdated(const QColor& color);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -48,6 +48,7 @@ public:
             return;
         mColor = color;
         mpOwner->update();
+        Q_EMIT mpOwner->ColorUpdated(color);
         if (QAccessible::isActive()) {
             QAccessibleEvent event(mpOwner, QAccessible::ValueChanged);
             QAccessible::updateAccessibility(&event);

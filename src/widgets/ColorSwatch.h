@@ -24,7 +24,7 @@ class ColorSwatchImp;
 class KVUICORE_EXPORT ColorSwatch : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
     Q_PROPERTY(bool alphaEnabled READ IsAlphaEnabled WRITE SetAlphaEnabled)
 
 public:
@@ -49,6 +49,8 @@ public:
 Q_SIGNALS:
     void ColorChanged(const QColor& color);
     void ColorCommitted(const QColor& color);
+    /// Emitted whenever the colour changes, in code or by the user; ColorChanged reports the user's edits only.
+    void ColorUpdated(const QColor& color);
 
 public Q_SLOTS:
     void OnThemeChanged();

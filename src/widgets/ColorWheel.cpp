@@ -98,6 +98,7 @@ public:
         const QColor after = Color();
         if (after == before)
             return;
+        Q_EMIT mpOwner->ColorUpdated(after);
         if (QAccessible::isActive()) {
             QAccessibleValueChangeEvent event(mpOwner, mHsv.h);
             QAccessible::updateAccessibility(&event);
@@ -322,11 +323,15 @@ void ColorWheel::SetColor(const QColor& color)
     if (!color.isValid())
         return;
     const int alpha = color.alpha();
+    const QColor before = GetColor();
     const bool alphaChanged = alpha != mpImp->miAlpha;
     mpImp->miAlpha = alpha;
     mpImp->Change(Internal::HsvOf(color, mpImp->mHsv), false);
     if (alphaChanged)
         update();
+    // An alpha-only change leaves Change() silent.
+    if (alphaChanged && GetColor() != before)
+        Q_EMIT ColorUpdated(GetColor());
 }
 
 double ColorWheel::GetHue() const

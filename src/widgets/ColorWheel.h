@@ -30,7 +30,7 @@ class ColorWheelImp;
 class KVUICORE_EXPORT ColorWheel : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
 
 public:
     explicit ColorWheel(QWidget* parent = nullptr);
@@ -63,6 +63,8 @@ public:
 Q_SIGNALS:
     void ColorChanged(const QColor& color);
     void ColorCommitted(const QColor& color);
+    /// Emitted whenever the colour changes, in code or by the user; ColorChanged reports the user's edits only.
+    void ColorUpdated(const QColor& color);
 
 public Q_SLOTS:
     void OnThemeChanged();

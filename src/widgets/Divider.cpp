@@ -30,6 +30,10 @@ Divider::Divider(Qt::Orientation orientation, QWidget* parent)
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &Divider::OnThemeChanged);
 }
 
+Divider::Divider(QWidget* parent)
+    : Divider(Qt::Horizontal, parent)
+{}
+
 Divider::~Divider() = default;
 
 Qt::Orientation Divider::GetOrientation() const
@@ -45,6 +49,7 @@ void Divider::SetOrientation(Qt::Orientation orientation)
     ApplyOrientation();
     updateGeometry();
     update();
+    Q_EMIT OrientationChanged(orientation);
 }
 
 QString Divider::GetColorThemeKey() const

@@ -15,11 +15,13 @@ class DividerImp;
 class KVUICORE_EXPORT Divider : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation)
+    Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation NOTIFY OrientationChanged)
     Q_PROPERTY(QString colorThemeKey READ GetColorThemeKey WRITE SetColorThemeKey)
 
 public:
     explicit Divider(Qt::Orientation orientation = Qt::Horizontal, QWidget* parent = nullptr);
+    /// A horizontal divider, the form Designer forms and uic create.
+    explicit Divider(QWidget* parent);
     ~Divider() override;
 
     Qt::Orientation GetOrientation() const;
@@ -29,6 +31,10 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// Emitted when the orientation changes.
+    void OrientationChanged(Qt::Orientation orientation);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -223,6 +223,7 @@ void DoubleSpinBox::UpdateForUnits(bool, bool)
 
 void DoubleSpinBox::OnChanged_DecimalPrecision(int, int newPrecision)
 {
+    Q_EMIT DecimalPrecisionChanged(newPrecision);
     if (mpImp->mbCanChangeQtDecimals)
         setDecimals(newPrecision);
     setSingleStep(CalculateSingleStep(newPrecision));
@@ -230,6 +231,7 @@ void DoubleSpinBox::OnChanged_DecimalPrecision(int, int newPrecision)
 
 void DoubleSpinBox::OnChanged_UnitSymbol(UnitSymbol, UnitSymbol)
 {
+    Q_EMIT UnitSymbolChanged(GetUnitSymbol());
     ResetSingleStep();
     mpImp->UpdateOrMark();
 }

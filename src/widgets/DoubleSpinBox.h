@@ -26,6 +26,8 @@ class NumericField;
 class KVUICORE_EXPORT DoubleSpinBox : public QDoubleSpinBox, public WidgetUnits
 {
     Q_OBJECT
+    Q_PROPERTY(QString unitSymbol READ GetUnitSymbol WRITE SetUnitSymbol NOTIFY UnitSymbolChanged)
+    Q_PROPERTY(int decimalPrecision READ GetDecimalPrecision WRITE SetDecimalPrecision NOTIFY DecimalPrecisionChanged)
 
 public:
     explicit DoubleSpinBox(QWidget* parent = nullptr, bool compactSize = false);
@@ -70,6 +72,10 @@ Q_SIGNALS:
     // Emitted for every successfully parsed text; a listener may adjust the
     // value or set valid to false, which makes the text count as unreadable.
     void ValidateChangingValue(double& value, bool& valid);
+    /// Emitted when the unit symbol changes; gives the symbol's name.
+    void UnitSymbolChanged(const QString& symbol);
+    /// Emitted when the number of decimals shown changes.
+    void DecimalPrecisionChanged(int precision);
 
 public Q_SLOTS:
     // The value that editing last finished with.

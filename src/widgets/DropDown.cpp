@@ -539,6 +539,28 @@ void DropDown::RemoveAllActions()
     updateGeometry();
 }
 
+QStringList DropDown::GetItems() const
+{
+    QStringList texts;
+    for (const QAction* action : mpImp->MenuActions()) {
+        if (!action->isSeparator() && !action->property(DropDownMenu::GroupLabelProperty).toBool())
+            texts.append(action->text());
+    }
+    return texts;
+}
+
+void DropDown::SetItems(const QStringList& items)
+{
+    if (items == GetItems())
+        return;
+    ClearItems();
+    for (const QString& text : items)
+        AddItem(text);
+    if (!items.isEmpty())
+        SetCurrentIndex(0);
+    Q_EMIT ItemsChanged(items);
+}
+
 void DropDown::ClearItems()
 {
     RemoveAllActions();

@@ -24,6 +24,8 @@ class DropDownMenu;
 class KVUICORE_EXPORT DropDown : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList items READ GetItems WRITE SetItems NOTIFY ItemsChanged)
+    Q_PROPERTY(int currentIndex READ GetCurrentIndex WRITE SetCurrentIndex NOTIFY CurrentIndexChanged)
     Q_PROPERTY(AlignmentMode alignment READ GetAlignment WRITE SetAlignment)
 
 public:
@@ -52,6 +54,11 @@ public:
 
     explicit DropDown(QWidget* parent = nullptr);
     ~DropDown() override;
+    /// The texts of the items in menu order, without separators, group labels and sub-menu items.
+    QStringList GetItems() const;
+    /// Replaces every item with one normal item per text and makes the first one current; emits ItemsChanged when the
+    /// texts differ.
+    void SetItems(const QStringList& items);
 
     // Items. The group-less forms add to the last group (group 0 when there is
     // none). A group id may be an existing group or the next new one; other ids
@@ -135,6 +142,8 @@ Q_SIGNALS:
     void CurrentIndexChanged(int newIndex, int oldIndex);
     void DropDownListAboutToShow();
     void Triggered(QAction* action);
+    /// Emitted when SetItems replaces the items with different texts.
+    void ItemsChanged(const QStringList& items);
 
 public Q_SLOTS:
     void ActionTriggered(QAction* action);

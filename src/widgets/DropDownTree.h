@@ -32,6 +32,7 @@ class SearchBox;
 class KVUICORE_EXPORT DropDownTree : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList currentPath READ GetCurrentPath NOTIFY CurrentIndexChanged)
     Q_PROPERTY(QString pathSeparator READ GetPathSeparator WRITE SetPathSeparator)
     Q_PROPERTY(QString prompt READ GetPrompt WRITE SetPrompt)
 

@@ -88,6 +88,7 @@ public:
             QAccessibleEvent event(mpOwner, QAccessible::ValueChanged);
             QAccessible::updateAccessibility(&event);
         }
+        Q_EMIT mpOwner->StopsUpdated(mStops);
         Q_EMIT mpOwner->GradientChanged(mStops);
     }
 
@@ -244,6 +245,7 @@ void GradientSwatch::SetStops(const QGradientStops& stops)
     if (mpImp->miSelected >= clean.size())
         mpImp->Select(int(clean.size()) - 1);
     update();
+    Q_EMIT StopsUpdated(clean);
 }
 
 int GradientSwatch::GetSelectedStop() const

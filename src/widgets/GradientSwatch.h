@@ -31,6 +31,7 @@ class GradientSwatchImp;
 class KVUICORE_EXPORT GradientSwatch : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QGradientStops stops READ GetStops WRITE SetStops NOTIFY StopsUpdated)
 
 public:
     static constexpr int kMinimumStops = 2;
@@ -74,6 +75,8 @@ public:
 Q_SIGNALS:
     void GradientChanged(const QGradientStops& stops);
     void SelectedStopChanged(int index);
+    /// Emitted whenever the stops change, in code or by the user; GradientChanged reports the user's edits only.
+    void StopsUpdated(const QGradientStops& stops);
 
 public Q_SLOTS:
     void OnThemeChanged();

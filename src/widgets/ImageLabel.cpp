@@ -52,6 +52,7 @@ void ImageLabel::SetImageThemeKey(const QString& key)
         return;
     mpImp->msImageThemeKey = key;
     UpdateImage();
+    Q_EMIT ImageThemeKeyChanged(key);
 }
 
 QSize ImageLabel::GetImageSize() const

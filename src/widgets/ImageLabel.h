@@ -16,7 +16,7 @@ class ImageLabelImp;
 class KVUICORE_EXPORT ImageLabel : public QLabel
 {
     Q_OBJECT
-    Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey)
+    Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey NOTIFY ImageThemeKeyChanged)
     Q_PROPERTY(QSize imageSize READ GetImageSize WRITE SetImageSize)
 
 public:
@@ -29,6 +29,10 @@ public:
     void SetImageThemeKey(const QString& key);
     QSize GetImageSize() const;
     void SetImageSize(const QSize& size);
+
+Q_SIGNALS:
+    /// Emitted when the image's theme key changes.
+    void ImageThemeKeyChanged(const QString& key);
 
 public Q_SLOTS:
     void OnThemeChanged();

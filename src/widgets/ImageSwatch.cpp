@@ -113,6 +113,7 @@ public:
         mThumbnailBox = QSize();
         mThumbnail = QImage();
         mpOwner->update();
+        Q_EMIT mpOwner->FilePathUpdated(path);
         if (QAccessible::isActive()) {
             QAccessibleEvent nameEvent(mpOwner, QAccessible::NameChanged);
             QAccessible::updateAccessibility(&nameEvent);

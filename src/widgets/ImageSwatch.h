@@ -32,7 +32,7 @@ class ImageSwatchImp;
 class KVUICORE_EXPORT ImageSwatch : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath)
+    Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath NOTIFY FilePathUpdated)
 
 public:
     enum State
@@ -69,6 +69,8 @@ public:
 Q_SIGNALS:
     void FilePathChanged(const QString& path);
     void Activated();
+    /// Emitted whenever the file path changes, in code or by the user; FilePathChanged reports the user's choices only.
+    void FilePathUpdated(const QString& path);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -153,6 +153,14 @@ QString Label::GetReservedToolTip() const
     return mpImp->msReservedToolTip;
 }
 
+void Label::SetText(const QString& text)
+{
+    if (text == this->text())
+        return;
+    setText(text);
+    Q_EMIT TextChanged(text);
+}
+
 void Label::SetReservedToolTip(const QString& toolTip)
 {
     mpImp->msReservedToolTip = toolTip;

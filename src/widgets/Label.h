@@ -19,12 +19,15 @@ class LabelImp;
 class KVUICORE_EXPORT Label : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE SetText NOTIFY TextChanged)
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
 
 public:
     explicit Label(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     explicit Label(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~Label() override;
+    /// Sets the text; emits TextChanged when it differs from the current text.
+    void SetText(const QString& text);
 
     QString GetTextColorThemeKey() const;
     // Ignored for a key the theme lacks, and for the current key unless force.
@@ -50,6 +53,8 @@ Q_SIGNALS:
     void GeometryChanged();
     void AboutToShow();
     void RightPixmapClicked();
+    /// Emitted when SetText changes the text.
+    void TextChanged(const QString& text);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -104,12 +104,15 @@ void LinkMessage::SetMessage(const QString& message)
     const QString cut = message.left(MaximumMessageLength);
     if (cut == mpImp->msMessage && !text().isEmpty())
         return;
+    const bool changed = cut != mpImp->msMessage;
     mpImp->msMessage = cut;
     mpImp->mSegments = ParseMessage(cut);
     setText(ToHtml(mpImp->mSegments, mpImp->mLinkColor));
     // Without links there is nothing to reach with the keyboard.
     setFocusPolicy(GetLinks().isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(GetPlainText());
+    if (changed)
+        Q_EMIT MessageChanged(cut);
 }
 
 QString LinkMessage::GetMessage() const

@@ -19,7 +19,7 @@ class LinkMessageImp;
 class KVUICORE_EXPORT LinkMessage : public QLabel
 {
     Q_OBJECT
-    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage)
+    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage NOTIFY MessageChanged)
 
 public:
     // Longer messages are cut: a message is a sentence or two, not a document.
@@ -45,6 +45,8 @@ public:
 
 Q_SIGNALS:
     void LinkActivated(const QString& target);
+    /// Emitted when SetMessage changes the message.
+    void MessageChanged(const QString& message);
 
 public Q_SLOTS:
     void OnThemeChanged();

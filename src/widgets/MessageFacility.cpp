@@ -339,6 +339,7 @@ void MessageFacility::SetMaximumVisible(int count)
         row->deleteLater();
     }
     d.Promote();
+    Q_EMIT MaximumVisibleChanged(count);
 }
 
 int MessageFacility::GetVisibleCount() const

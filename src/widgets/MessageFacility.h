@@ -24,7 +24,7 @@ class MessageFacilityImp;
 class KVUICORE_EXPORT MessageFacility : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(int maximumVisible READ GetMaximumVisible WRITE SetMaximumVisible)
+    Q_PROPERTY(int maximumVisible READ GetMaximumVisible WRITE SetMaximumVisible NOTIFY MaximumVisibleChanged)
 
 public:
     enum class Severity
@@ -82,6 +82,8 @@ Q_SIGNALS:
     void MessageClosed(int id);
     void LinkActivated(int id, const QString& target);
     void ActionTriggered(int id, int actionIndex);
+    /// Emitted when the number of messages shown at once changes.
+    void MaximumVisibleChanged(int count);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -182,8 +182,11 @@ QString PaletteWindow::GetTitle() const
 
 void PaletteWindow::SetTitle(const QString& title)
 {
+    if (title == GetTitle())
+        return;
     mpImp->mpTitleBar->SetTitle(title);
     setWindowTitle(title);
+    Q_EMIT TitleChanged(title);
 }
 
 void PaletteWindow::SetContentWidget(QWidget* content)

@@ -28,7 +28,7 @@ class PaletteWindowImp;
 class KVUICORE_EXPORT PaletteWindow : public WidgetImp
 {
     Q_OBJECT
-    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle)
+    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle NOTIFY TitleChanged)
     Q_PROPERTY(bool collapsed READ IsCollapsed WRITE SetCollapsed NOTIFY CollapsedChanged)
 
 public:
@@ -73,6 +73,8 @@ Q_SIGNALS:
     void CollapsedChanged(bool collapsed);
     // The close button hid the palette.
     void Closed();
+    /// Emitted when SetTitle changes the title.
+    void TitleChanged(const QString& title);
 
 public Q_SLOTS:
     void OnThemeChanged();

@@ -70,11 +70,14 @@ void ProgressMeter::End()
 
 void ProgressMeter::SetText(QString const& text)
 {
+    if (text == mpTextLabel->text())
+        return;
     mpTextLabel->setText(text);
     if (!text.isEmpty())
         resize(fontMetrics().horizontalAdvance(text) + kWidthBesideText, height());
     updateGeometry();
     update();
+    Q_EMIT TextChanged(text);
 }
 
 QString ProgressMeter::GetText() const

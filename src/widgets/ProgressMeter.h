@@ -19,6 +19,7 @@ class Label;
 class KVUICORE_EXPORT ProgressMeter : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextChanged)
 
 public:
     explicit ProgressMeter(QWidget* parent = nullptr);
@@ -37,6 +38,10 @@ public:
 
     void setGeometry(QRect const& rect);
     void updateGeometry();
+
+Q_SIGNALS:
+    /// Emitted when SetText changes the text.
+    void TextChanged(const QString& text);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

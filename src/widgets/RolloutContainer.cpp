@@ -178,9 +178,12 @@ RolloutContainer::~RolloutContainer() = default;
 
 void RolloutContainer::SetTitle(QString const& title)
 {
+    if (title == mpImp->msTitle)
+        return;
     mpImp->msTitle = title;
     mpImp->msDisplayTitle = title;
     updateGeometry();
+    Q_EMIT TitleChanged(title);
 }
 
 QString RolloutContainer::GetTitle() const

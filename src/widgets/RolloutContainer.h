@@ -18,6 +18,10 @@ class RolloutContainerImp;
 class KVUICORE_EXPORT RolloutContainer : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle NOTIFY TitleChanged)
+    Q_PROPERTY(bool collapsed READ IsCollapsed WRITE SetIsCollapsed NOTIFY Collapsed)
+    Q_PROPERTY(bool checkable READ IsCheckable WRITE SetIsCheckable)
+    Q_PROPERTY(bool checked READ IsChecked WRITE SetChecked NOTIFY CheckBoxToggled)
 
 public:
     explicit RolloutContainer(QWidget* parent = nullptr);
@@ -63,6 +67,8 @@ Q_SIGNALS:
     void Collapsed(bool collapsed);
     void CheckBoxToggled(bool checked);
     void CheckBoxClicked(bool checked);
+    /// Emitted when SetTitle changes the title.
+    void TitleChanged(const QString& title);
 
 public Q_SLOTS:
     // Checked enables the content, unchecked disables it; children the host

@@ -127,7 +127,8 @@ public:
         miSliderPosition = position;
         if (!mpSliderControl->EmitValue())
             return;
-        mpOwner->WidgetUnits::SetValue(value, false);
+        if (mpOwner->WidgetUnits::SetValue(value, false))
+            Q_EMIT mpOwner->ValueUpdated(mpOwner->GetValue());
         ShowValueInField();
         Q_EMIT mpOwner->ValueChanged(mpOwner->GetValue());
     }
@@ -382,6 +383,7 @@ void Slider::resizeEvent(QResizeEvent* event)
 
 void Slider::OnChanged_DecimalPrecision(int, int newPrecision)
 {
+    Q_EMIT DecimalPrecisionChanged(newPrecision);
     mpImp->miEffectivePrecision = std::clamp(newPrecision, 0, kMaximumEffectivePrecision);
     mpImp->miMultiplier = int(std::lround(std::pow(10.0, mpImp->miEffectivePrecision)));
     mpImp->mpSliderControl->SetPrecision(newPrecision, mpImp->miEffectivePrecision);
@@ -396,6 +398,7 @@ void Slider::OnChanged_DecimalPrecision(int, int newPrecision)
 
 void Slider::OnChanged_UnitSymbol(UnitSymbol, UnitSymbol newSymbol)
 {
+    Q_EMIT UnitSymbolChanged(GetUnitSymbol());
     if (mpImp->mDeferred.IsDeferring()) {
         mpImp->miPendingUnitSymbol = newSymbol;
         mpImp->mDeferred.Mark();
@@ -413,6 +416,7 @@ void Slider::OnChanged_Value(double, double newValue)
     GetLocaleStringFromValue(newValue, text);
     mpImp->mpNumericField->setText(text);
     mpImp->mpNumericField->setCursorPosition(0);
+    Q_EMIT ValueUpdated(newValue);
 }
 
 void Slider::OnChanged_DecimalSeparator(QString, QString)
@@ -474,7 +478,8 @@ void Slider::TextEditComplete()
         mpImp->ShowValueInField();
         return;
     }
-    WidgetUnits::SetValue(value, false);
+    if (WidgetUnits::SetValue(value, false))
+        Q_EMIT ValueUpdated(GetValue());
     mpImp->PlaceSlider(mpImp->Position(GetValue()));
     mpImp->ShowValueInField();
     // Each handler may delete the slider.
@@ -532,7 +537,8 @@ void Slider::IncDecKeyPressed(int number)
         if (symbolType == unitType)
             value = shown;
     }
-    WidgetUnits::SetValue(mpImp->Clamped(value), false);
+    if (WidgetUnits::SetValue(mpImp->Clamped(value), false))
+        Q_EMIT ValueUpdated(GetValue());
     mpImp->ShowValueInField();
     Q_EMIT ValueChanged(GetValue());
 }

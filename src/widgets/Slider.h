@@ -27,8 +27,12 @@ class SliderImp;
 class KVUICORE_EXPORT Slider : public QWidget, public WidgetUnits
 {
     Q_OBJECT
+    Q_PROPERTY(QString unitSymbol READ GetUnitSymbol WRITE SetUnitSymbol NOTIFY UnitSymbolChanged)
+    Q_PROPERTY(int decimalPrecision READ GetDecimalPrecision WRITE SetDecimalPrecision NOTIFY DecimalPrecisionChanged)
     Q_PROPERTY(double minimum READ GetMinimum WRITE SetMinimum)
     Q_PROPERTY(double maximum READ GetMaximum WRITE SetMaximum)
+    // After the range, so that a loaded value is not clamped to the default range.
+    Q_PROPERTY(double value READ GetValue WRITE SetValue NOTIFY ValueUpdated)
 
 public:
     explicit Slider(QWidget* parent = nullptr);
@@ -93,6 +97,12 @@ Q_SIGNALS:
     void SliderMoved(int position);
     void SliderChangeCancelled();
     void SliderFocusOut();
+    /// Emitted when the unit symbol changes; gives the symbol's name.
+    void UnitSymbolChanged(const QString& symbol);
+    /// Emitted when the number of decimals shown changes.
+    void DecimalPrecisionChanged(int precision);
+    /// Emitted whenever the value changes, in code or by the user; ValueChanged reports the user's edits only.
+    void ValueUpdated(double value);
 
 public Q_SLOTS:
     void UpdateSliderValue(int scaleValue);

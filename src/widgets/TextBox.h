@@ -29,6 +29,7 @@ class ImageEventFilter;
 class KVUICORE_EXPORT TextBox : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextChanged)
     Q_PROPERTY(QIcon icon READ GetIcon WRITE SetIcon)
     Q_PROPERTY(IconPosition iconPosition READ GetIconPosition WRITE SetIconPosition)
     Q_PROPERTY(bool readOnly READ IsReadOnly WRITE SetReadOnly)

@@ -23,7 +23,7 @@ class TextEditImp;
 class KVUICORE_EXPORT TextEdit : public QPlainTextEdit
 {
     Q_OBJECT
-    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextCommitted USER true)
+    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY textChanged USER true)
     Q_PROPERTY(QString prompt READ GetPrompt WRITE SetPrompt)
     Q_PROPERTY(int maximumLength READ GetMaximumLength WRITE SetMaximumLength)
 

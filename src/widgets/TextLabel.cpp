@@ -43,6 +43,14 @@ QString TextLabel::GetTextColorThemeKey() const
     return mpImp->mpColor->GetKey();
 }
 
+void TextLabel::SetText(const QString& text)
+{
+    if (text == this->text())
+        return;
+    setText(text);
+    Q_EMIT TextChanged(text);
+}
+
 void TextLabel::SetTextColorThemeKey(const QString& key)
 {
     if (ThemeManager::GetInstance()->Exists(key))

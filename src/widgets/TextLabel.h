@@ -16,6 +16,7 @@ class TextLabelImp;
 class KVUICORE_EXPORT TextLabel : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE SetText NOTIFY TextChanged)
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
     Q_PROPERTY(bool bold READ IsBold WRITE SetBold)
 
@@ -23,12 +24,18 @@ public:
     explicit TextLabel(QWidget* parent = nullptr);
     explicit TextLabel(const QString& text, QWidget* parent = nullptr);
     ~TextLabel() override;
+    /// Sets the text; emits TextChanged when it differs from the current text.
+    void SetText(const QString& text);
 
     QString GetTextColorThemeKey() const;
     // Ignored for a key the theme lacks.
     void SetTextColorThemeKey(const QString& key);
     bool IsBold() const;
     void SetBold(bool bold);
+
+Q_SIGNALS:
+    /// Emitted when SetText changes the text.
+    void TextChanged(const QString& text);
 
 public Q_SLOTS:
     void OnThemeChanged();
