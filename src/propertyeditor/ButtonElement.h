@@ -4,8 +4,8 @@
 
 namespace Kavrel::UICore {
 
-// A push button showing the label, with an optional icon (Image, and
-// CheckedImage for the checked state of a checkable button).
+/// A push button showing the label, with an optional icon (Image, and
+/// CheckedImage for the checked state of a checkable button).
 class KVUICORE_EXPORT ButtonElement : public PropertyEditorElement
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     void SetCheckable(bool checkable);
     void SetCheck(bool checked);
     void SetCheck(Binding* binding);
-    // An image file or resource path, or a theme key that holds one.
+    /// An image file or resource path, or a theme key that holds one.
     void SetImage(const QString& image);
     void SetCheckedImage(const QString& image);
     QString GetImage() const;

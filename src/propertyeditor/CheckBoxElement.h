@@ -4,7 +4,7 @@
 
 namespace Kavrel::UICore {
 
-// A check box showing the label as its text.
+/// A check box showing the label as its text.
 class KVUICORE_EXPORT CheckBoxElement : public PropertyEditorElement
 {
     Q_OBJECT

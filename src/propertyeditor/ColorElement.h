@@ -6,12 +6,12 @@
 
 namespace Kavrel::UICore {
 
-// A colour swatch editing the Color attribute through its pop-up picker:
-// <ColorElement Id="tint" Label="Tint" Color="Binding(Tint)" IsAlphaEnabled="True"/>.
-// Color is "#rrggbb" or "#rrggbbaa" (or a binding); IsAlphaEnabled (default
-// False) lets the picker change the alpha. Each change in the picker is
-// written back as it is made, so the source follows the picker live; Escape
-// in the picker writes the old colour back.
+/// A colour swatch editing the Color attribute through its pop-up picker:
+/// <ColorElement Id="tint" Label="Tint" Color="Binding(Tint)" IsAlphaEnabled="True"/>.
+/// Color is "#rrggbb" or "#rrggbbaa" (or a binding); IsAlphaEnabled (default
+/// False) lets the picker change the alpha. Each change in the picker is
+/// written back as it is made, so the source follows the picker live; Escape
+/// in the picker writes the old colour back.
 class KVUICORE_EXPORT ColorElement : public PropertyEditorElement
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ protected:
     QWidget* CreateWidgetOverride(QWidget* parent) override;
     void UpdateWidgetOverride(const QString& attribute) override;
     QVariant GetWidgetValueOverride(const QString& attribute) const override;
-    // The alpha switch reaches a new swatch before the colour.
+    /// The alpha switch reaches a new swatch before the colour.
     int GetUpdateOrder(const QString& attribute) const override;
 
 private:

@@ -4,7 +4,7 @@
 
 namespace Kavrel::UICore {
 
-// A combo box listing the items.
+/// A combo box listing the items.
 class KVUICORE_EXPORT ComboBoxElement : public ListElement
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ protected:
     QWidget* CreateWidgetOverride(QWidget* parent) override;
     void UpdateWidgetOverride(const QString& attribute) override;
     QVariant GetWidgetValueOverride(const QString& attribute) const override;
-    // The items reach the combo box before the current item is chosen.
+    /// The items reach the combo box before the current item is chosen.
     int GetUpdateOrder(const QString& attribute) const override;
     void ItemsChanged() override;
 

@@ -8,10 +8,10 @@ namespace Kavrel::UICore {
 
 class RolloutContainer;
 
-// A collapsible, optionally checkable group (a RolloutContainer titled with
-// the label) that lays its children out in a grid: column 0 holds labels,
-// columns 1 and 2 the controls. A group inside a group gets a divider above
-// it, or below it when it is the last group before other elements.
+/// A collapsible, optionally checkable group (a RolloutContainer titled with
+/// the label) that lays its children out in a grid: column 0 holds labels,
+/// columns 1 and 2 the controls. A group inside a group gets a divider above
+/// it, or below it when it is the last group before other elements.
 class KVUICORE_EXPORT GroupElement : public PropertyEditorElement
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     void SetCollapsed(Binding* binding);
 
     int GetDividerMark() const;
-    // The group's rollout container and grid once the widget is built.
+    /// The group's rollout container and grid once the widget is built.
     RolloutContainer* GetRolloutContainer() const;
     QGridLayout* GetGridLayout() const;
 

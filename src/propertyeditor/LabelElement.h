@@ -4,7 +4,7 @@
 
 namespace Kavrel::UICore {
 
-// A word-wrapping text (the Text attribute), beside its label if it has one.
+/// A word-wrapping text (the Text attribute), beside its label if it has one.
 class KVUICORE_EXPORT LabelElement : public PropertyEditorElement
 {
     Q_OBJECT

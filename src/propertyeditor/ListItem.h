@@ -12,8 +12,8 @@ namespace Kavrel::UICore {
 
 class ListItemImp;
 
-// One row of a ListModel: a text, an image and a value, fixed at construction
-// (a model's views are never told of changes to its rows).
+/// One row of a ListModel: a text, an image and a value, fixed at construction
+/// (a model's views are never told of changes to its rows).
 class KVUICORE_EXPORT ListItem
 {
 public:

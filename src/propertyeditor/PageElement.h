@@ -4,7 +4,7 @@
 
 namespace Kavrel::UICore {
 
-// The root of a property editor page: its children stand one below the other.
+/// The root of a property editor page: its children stand one below the other.
 class KVUICORE_EXPORT PageElement : public PropertyEditorElement
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 namespace Kavrel::UICore {
 
-// A container whose children sit side by side.
+/// A container whose children sit side by side.
 class KVUICORE_EXPORT PanelElement : public PropertyEditorElement
 {
     Q_OBJECT

@@ -9,13 +9,13 @@ namespace Kavrel::UICore {
 
 class PropertyEditorSourceContextImp;
 
-// A context built around one source object, which is its default object.
-// Names that were not set explicitly are read as paths into the source: each
-// dotted component is an object-valued property (QObject*) of the object
-// reached so far, or else a direct child with that object name. So with a
-// source that has a property "camera", Binding(camera.Zoom) binds Zoom of the
-// object the property holds. When such a property's notify signal fires, the
-// context reports a change and the bindings resolve again.
+/// A context built around one source object, which is its default object.
+/// Names that were not set explicitly are read as paths into the source: each
+/// dotted component is an object-valued property (QObject*) of the object
+/// reached so far, or else a direct child with that object name. So with a
+/// source that has a property "camera", Binding(camera.Zoom) binds Zoom of the
+/// object the property holds. When such a property's notify signal fires, the
+/// context reports a change and the bindings resolve again.
 class KVUICORE_EXPORT PropertyEditorSourceContext : public PropertyEditorContext
 {
     Q_OBJECT

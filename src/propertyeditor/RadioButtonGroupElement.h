@@ -6,8 +6,8 @@ class QButtonGroup;
 
 namespace Kavrel::UICore {
 
-// One radio button per item, one below the other; the checked button is the
-// current item. Buttons show the item's text and, when it has one, its image.
+/// One radio button per item, one below the other; the checked button is the
+/// current item. Buttons show the item's text and, when it has one, its image.
 class KVUICORE_EXPORT RadioButtonGroupElement : public ListElement
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     explicit RadioButtonGroupElement(QObject* parent = nullptr);
     ~RadioButtonGroupElement() override;
 
-    // The group of the buttons (button id = item row) once the widget is built.
+    /// The group of the buttons (button id = item row) once the widget is built.
     QButtonGroup* GetButtonGroup() const;
 
 protected Q_SLOTS:

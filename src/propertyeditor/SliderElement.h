@@ -4,10 +4,10 @@
 
 namespace Kavrel::UICore {
 
-// A unit-aware slider with its numeric field, editing Number between Minimum
-// and Maximum. Precision (the decimals shown) can only be bound, not written
-// in a definition. Units are set up on the widget, for instance in a slot of
-// WidgetCreated: values are held in the slider's unit type.
+/// A unit-aware slider with its numeric field, editing Number between Minimum
+/// and Maximum. Precision (the decimals shown) can only be bound, not written
+/// in a definition. Units are set up on the widget, for instance in a slot of
+/// WidgetCreated: values are held in the slider's unit type.
 class KVUICORE_EXPORT SliderElement : public PropertyEditorElement
 {
     Q_OBJECT

@@ -4,8 +4,8 @@
 
 namespace Kavrel::UICore {
 
-// A single-line text box editing the Text attribute; every edit is written
-// back as it is typed.
+/// A single-line text box editing the Text attribute; every edit is written
+/// back as it is typed.
 class KVUICORE_EXPORT TextBoxElement : public PropertyEditorElement
 {
     Q_OBJECT

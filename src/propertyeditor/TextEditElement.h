@@ -4,10 +4,10 @@
 
 namespace Kavrel::UICore {
 
-// A multi-line text editor (TextEdit) editing the Text attribute. Unlike the
-// single-line text box, an edit is written back when editing finishes (the
-// editor loses focus, or Ctrl+Return), not per keystroke: a paragraph is one
-// change of the source property.
+/// A multi-line text editor (TextEdit) editing the Text attribute. Unlike the
+/// single-line text box, an edit is written back when editing finishes (the
+/// editor loses focus, or Ctrl+Return), not per keystroke: a paragraph is one
+/// change of the source property.
 class KVUICORE_EXPORT TextEditElement : public PropertyEditorElement
 {
     Q_OBJECT

@@ -6,10 +6,10 @@
 #include <QSize>
 #include <QString>
 
-// The vocabulary of themed values. Theme files define values under these texts;
-// controls and hosts pass the constants to the ThemeManager getters. A few
-// texts differ from their member names on purpose (ContextMenuIcon is
-// "ContectMenu"): theme files use the texts, so they are kept exactly.
+/// The vocabulary of themed values. Theme files define values under these texts;
+/// controls and hosts pass the constants to the ThemeManager getters. A few
+/// texts differ from their member names on purpose (ContextMenuIcon is
+/// "ContectMenu"): theme files use the texts, so they are kept exactly.
 class KVUICORE_EXPORT ThemeFileKey
 {
 public:
@@ -20,7 +20,7 @@ public:
 #undef KVUICORE_THEME_KEY
 #undef KVUICORE_THEME_KEY_TEXT
 
-    // Fixed metrics at design size, not theme keys.
+    /// Fixed metrics at design size, not theme keys.
     static const QSize ButtonDefaultSize;
     static const QSize NormalIconSize;
     static const QPoint Button_IconGapToBorder;

@@ -6,8 +6,8 @@
 
 namespace kvp {
 
-// Unit types and groups of design properties. A unit type is its group ORed
-// with an index inside the group; the group sits in bits 12..15.
+/// Unit types and groups of design properties. A unit type is its group ORed
+/// with an index inside the group; the group sits in bits 12..15.
 struct KVCOREUNITS_EXPORT IDesignPropertyUnits
 {
     enum teGroup : std::int32_t

@@ -13,19 +13,19 @@ namespace Kavrel::UICore {
 class BreadcrumbBarImp;
 class BreadcrumbItem;
 
-// A path shown as a row of BreadcrumbItems, the top level first ("Library >
-// Materials > Wood"), reversed right to left. The top level can show the
-// theme's home icon; the current (last) level can be highlighted; the
-// separator after a level opens a menu of the next level's choices. When the
-// row is too narrow, levels fold into an overflow menu from the top level on;
-// the current level always stays. Each level takes keyboard focus; Left and
-// Right move between levels, Return activates, Down opens the separator menu.
+/// A path shown as a row of BreadcrumbItems, the top level first ("Library >
+/// Materials > Wood"), reversed right to left. The top level can show the
+/// theme's home icon; the current (last) level can be highlighted; the
+/// separator after a level opens a menu of the next level's choices. When the
+/// row is too narrow, levels fold into an overflow menu from the top level on;
+/// the current level always stays. Each level takes keyboard focus; Left and
+/// Right move between levels, Return activates, Down opens the separator menu.
 class KVUICORE_EXPORT BreadcrumbBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    // More levels are cut from the top: a path is a place, not a list.
+    /// More levels are cut from the top: a path is a place, not a list.
     static constexpr int MaximumLevels = 256;
 
     explicit BreadcrumbBar(QWidget* parent = nullptr);
@@ -35,29 +35,29 @@ public:
     QStringList GetPath() const;
     int GetLevelCount() const;
 
-    // The choices at `level` (the entries of the menu of the separator before
-    // that level); an empty list hides that separator. The level after the
-    // last one holds the current level's children.
+    /// The choices at `level` (the entries of the menu of the separator before
+    /// that level); an empty list hides that separator. The level after the
+    /// last one holds the current level's children.
     void SetChoices(int level, const QStringList& choices);
     QStringList GetChoices(int level) const;
     void SetItemIcon(int level, const QIcon& icon);
 
     BreadcrumbItem* GetItem(int level) const;
-    // The levels folded into the overflow menu, top level first.
+    /// The levels folded into the overflow menu, top level first.
     QList<int> GetOverflowLevels() const;
     QWidget* GetOverflowButton() const;
-    // Opens the separator menu before `level`; null when it has no choices.
+    /// Opens the separator menu before `level`; null when it has no choices.
     QWidget* ShowChoicesMenu(int level);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // A level was activated (clicked, Return, or picked from the overflow menu).
+    /// A level was activated (clicked, Return, or picked from the overflow menu).
     void PathActivated(int level);
-    // A choice of `level` was picked from a separator menu.
+    /// A choice of `level` was picked from a separator menu.
     void ChoiceActivated(int level, const QString& text);
-    // Sent before a separator menu opens: a host may fill the choices now.
+    /// Sent before a separator menu opens: a host may fill the choices now.
     void ChoicesRequested(int level);
 
 public Q_SLOTS:

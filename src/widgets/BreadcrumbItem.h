@@ -10,10 +10,10 @@ namespace Kavrel::UICore {
 
 class BreadcrumbItemImp;
 
-// One level of a BreadcrumbBar: its text (or only its icon), and after it a
-// separator arrow that opens the menu of the next level's choices. Clicking
-// the text activates the level; clicking the arrow, or Down on the keyboard,
-// asks for the menu. The current level can be highlighted.
+/// One level of a BreadcrumbBar: its text (or only its icon), and after it a
+/// separator arrow that opens the menu of the next level's choices. Clicking
+/// the text activates the level; clicking the arrow, or Down on the keyboard,
+/// asks for the menu. The current level can be highlighted.
 class KVUICORE_EXPORT BreadcrumbItem : public QAbstractButton
 {
     Q_OBJECT
@@ -30,13 +30,13 @@ public:
     bool IsHighlighted() const;
     void SetHighlighted(bool highlighted);
 
-    // Shows the icon without the text (the text stays the tool tip and name).
+    /// Shows the icon without the text (the text stays the tool tip and name).
     bool IsIconOnly() const;
     void SetIconOnly(bool iconOnly);
 
     bool IsSeparatorVisible() const;
     void SetSeparatorVisible(bool visible);
-    // The separator's rectangle in the item, mirrored right to left.
+    /// The separator's rectangle in the item, mirrored right to left.
     QRect SeparatorRect() const;
 
     QSize sizeHint() const override;
@@ -44,7 +44,7 @@ public:
 
 Q_SIGNALS:
     void SeparatorActivated();
-    // Left/Right (-1/+1 in reading order), Home (INT_MIN), End (INT_MAX).
+    /// Left/Right (-1/+1 in reading order), Home (INT_MIN), End (INT_MAX).
     void NavigateRequested(int step);
 
 public Q_SLOTS:

@@ -10,16 +10,16 @@ namespace Kavrel::UICore {
 
 class CheckBoxImp;
 
-// A check box in the library's look (painted by CustomStyle), with its text
-// colour from the theme. A label that does not fit is cut and shows its full
-// text as a tool tip, unless the always-show-tool-tip flag keeps the tool tip
-// the host set. A theme switch returns the text colour to "FontNormal1"
-// ("FontColorDisabled" while disabled), whatever key was set before.
+/// A check box in the library's look (painted by CustomStyle), with its text
+/// colour from the theme. A label that does not fit is cut and shows its full
+/// text as a tool tip, unless the always-show-tool-tip flag keeps the tool tip
+/// the host set. A theme switch returns the text colour to "FontNormal1"
+/// ("FontColorDisabled" while disabled), whatever key was set before.
 class KVUICORE_EXPORT CheckBox : public QCheckBox
 {
     Q_OBJECT
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
-    // Read by name by the style that paints the label.
+    /// Read by name by the style that paints the label.
     Q_PROPERTY(bool alwaysShowTooltip READ IsAlwaysShowTooltip WRITE SetAlwaysShowTooltip)
 
 public:
@@ -30,7 +30,7 @@ public:
     QString GetTextColorThemeKey() const;
     void SetTextColorThemeKey(const QString& key);
 
-    // When true the whole label is drawn and the tool tip is left alone.
+    /// When true the whole label is drawn and the tool tip is left alone.
     bool IsAlwaysShowTooltip() const;
     void SetAlwaysShowTooltip(bool alwaysShow);
 

@@ -13,26 +13,26 @@ namespace Kavrel::UICore {
 class ColorPickerImp;
 class ColorWheel;
 
-// A colour editor: the colour wheel beside fields for red, green and blue
-// (0 to 255), hue (degrees), saturation and value (percent) and the hex text
-// ("#rrggbb", or "#rrggbbaa" while alpha is enabled), an optional alpha field
-// and slider over a checkerboard, the old and the new colour side by side (a
-// click on the old one brings it back), a row of the colours recently chosen
-// in this process, and a screen eyedropper.
-//
-// Every user change emits ColorChanged(); a change that is complete (a
-// released drag, a field whose editing finished, a recent colour or an
-// eyedropper click) also emits ColorCommitted(). Hex text that does not parse
-// is replaced by the current colour's text. Six hex digits keep the alpha.
-//
-// The eyedropper needs a platform that lets an application read the screen;
-// elsewhere (offscreen, Wayland) its button is disabled and says why. While
-// picking, the colour under the pointer is shown live, a click takes it and
-// Escape restores the colour from before.
-//
-// A committed colour enters the recent colours. An embedded picker's commits
-// replace the entry it made last while no other picker has added one since,
-// so that one session of dragging leaves one entry.
+/// A colour editor: the colour wheel beside fields for red, green and blue
+/// (0 to 255), hue (degrees), saturation and value (percent) and the hex text
+/// ("#rrggbb", or "#rrggbbaa" while alpha is enabled), an optional alpha field
+/// and slider over a checkerboard, the old and the new colour side by side (a
+/// click on the old one brings it back), a row of the colours recently chosen
+/// in this process, and a screen eyedropper.
+///
+/// Every user change emits ColorChanged(); a change that is complete (a
+/// released drag, a field whose editing finished, a recent colour or an
+/// eyedropper click) also emits ColorCommitted(). Hex text that does not parse
+/// is replaced by the current colour's text. Six hex digits keep the alpha.
+///
+/// The eyedropper needs a platform that lets an application read the screen;
+/// elsewhere (offscreen, Wayland) its button is disabled and says why. While
+/// picking, the colour under the pointer is shown live, a click takes it and
+/// Escape restores the colour from before.
+///
+/// A committed colour enters the recent colours. An embedded picker's commits
+/// replace the entry it made last while no other picker has added one since,
+/// so that one session of dragging leaves one entry.
 class KVUICORE_EXPORT ColorPicker : public QWidget
 {
     Q_OBJECT
@@ -45,9 +45,9 @@ public:
     ~ColorPicker() override;
 
     QColor GetColor() const;
-    // Sets the colour without signals; the old colour shown follows it.
+    /// Sets the colour without signals; the old colour shown follows it.
     void SetColor(const QColor& color);
-    // The colour shown as the one before editing.
+    /// The colour shown as the one before editing.
     QColor GetOldColor() const;
     void SetOldColor(const QColor& color);
 
@@ -56,13 +56,13 @@ public:
 
     ColorWheel* GetWheel() const;
 
-    // Whether the platform lets the eyedropper read the screen.
+    /// Whether the platform lets the eyedropper read the screen.
     static bool IsEyedropperSupported();
     bool IsPicking() const;
     void StartEyedropper();
     void CancelEyedropper();
 
-    // The colours recently chosen in this process, newest first.
+    /// The colours recently chosen in this process, newest first.
     static QList<QColor> GetRecentColors();
     static void AddRecentColor(const QColor& color);
     static void ClearRecentColors();

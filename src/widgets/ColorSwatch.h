@@ -12,15 +12,15 @@ namespace Kavrel::UICore {
 class ColorPicker;
 class ColorSwatchImp;
 
-// A button that shows a colour and edits it in a pop-up colour picker. A
-// translucent colour shows opaque in its leading half and over a checkerboard
-// in the other; an invalid colour shows the hue wheel icon ("no colour").
-//
-// A click, Space, Return or Alt+Down opens the picker on the colour. While it
-// is open every change is shown and announced with ColorChanged(); Escape
-// closes it and gives the old colour back (announced with ColorChanged() too);
-// a click outside or Return keeps the new colour and emits ColorCommitted()
-// when it differs from the old one. SetColor() changes the colour silently.
+/// A button that shows a colour and edits it in a pop-up colour picker. A
+/// translucent colour shows opaque in its leading half and over a checkerboard
+/// in the other; an invalid colour shows the hue wheel icon ("no colour").
+///
+/// A click, Space, Return or Alt+Down opens the picker on the colour. While it
+/// is open every change is shown and announced with ColorChanged(); Escape
+/// closes it and gives the old colour back (announced with ColorChanged() too);
+/// a click outside or Return keeps the new colour and emits ColorCommitted()
+/// when it differs from the old one. SetColor() changes the colour silently.
 class KVUICORE_EXPORT ColorSwatch : public QWidget
 {
     Q_OBJECT
@@ -34,13 +34,13 @@ public:
     QColor GetColor() const;
     void SetColor(const QColor& color);
 
-    // Whether the picker offers alpha; without it colours are made opaque.
+    /// Whether the picker offers alpha; without it colours are made opaque.
     bool IsAlphaEnabled() const;
     void SetAlphaEnabled(bool enabled);
 
     void OpenPicker();
     bool IsPickerOpen() const;
-    // The open pop-up's picker, or null.
+    /// The open pop-up's picker, or null.
     ColorPicker* GetPicker() const;
 
     QSize sizeHint() const override;

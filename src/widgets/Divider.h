@@ -10,8 +10,8 @@ namespace Kavrel::UICore {
 
 class DividerImp;
 
-// A thin separating line in a theme colour ("Separator1" unless set),
-// horizontal or vertical, one stroke wide on whole device pixels.
+/// A thin separating line in a theme colour ("Separator1" unless set),
+/// horizontal or vertical, one stroke wide on whole device pixels.
 class KVUICORE_EXPORT Divider : public QWidget
 {
     Q_OBJECT

@@ -12,17 +12,17 @@ namespace Kavrel::UICore {
 class DoubleSpinBoxImp;
 class NumericField;
 
-// The unit-aware number entry: a spin box whose text is written and read by its
-// WidgetUnits part. A length typed with a unit ("3 in", "1ft 3in + 20mm") is
-// converted into the control's unit type; text that cannot be read falls back
-// to the value that editing last finished with. The value changes only when
-// editing finishes (Return, focus loss) or by stepping; every change is taken
-// over into the unit part before anyone hears of it, so GetValue() and value()
-// agree in valueChanged() handlers.
-//
-// The shown text is always formatted from the unit part's value. Setting the
-// value through WidgetUnits::SetValue() alone does not refresh the spin box;
-// hosts set it with setValue().
+/// The unit-aware number entry: a spin box whose text is written and read by its
+/// WidgetUnits part. A length typed with a unit ("3 in", "1ft 3in + 20mm") is
+/// converted into the control's unit type; text that cannot be read falls back
+/// to the value that editing last finished with. The value changes only when
+/// editing finishes (Return, focus loss) or by stepping; every change is taken
+/// over into the unit part before anyone hears of it, so GetValue() and value()
+/// agree in valueChanged() handlers.
+///
+/// The shown text is always formatted from the unit part's value. Setting the
+/// value through WidgetUnits::SetValue() alone does not refresh the spin box;
+/// hosts set it with setValue().
 class KVUICORE_EXPORT DoubleSpinBox : public QDoubleSpinBox, public WidgetUnits
 {
     Q_OBJECT
@@ -36,20 +36,20 @@ public:
     QValidator::State validate(QString& text, int& pos) const override;
     void stepBy(int steps) override;
 
-    // 1 / 2^precision for the fractional number format, else 0.1^precision:
-    // the smallest step the display shows.
+    /// 1 / 2^precision for the fractional number format, else 0.1^precision:
+    /// the smallest step the display shows.
     virtual double CalculateSingleStep(int precision);
     virtual void ResetSingleStep();
 
-    // The line edit, a DoubleSpinBoxNumericField.
+    /// The line edit, a DoubleSpinBoxNumericField.
     NumericField* GetNumericField() const;
 
-    // The sticky modified flag of the line edit.
+    /// The sticky modified flag of the line edit.
     bool IsModified() const;
     void ClearModified();
 
-    // While set, format changes only mark that an update is due; the owner
-    // calls UpdateForUnits() once after the batch.
+    /// While set, format changes only mark that an update is due; the owner
+    /// calls UpdateForUnits() once after the batch.
     void SetDeferUpdateForUnits(bool defer);
     bool DeferUpdateForUnits() const;
     bool HaveDeferredUpdatesForUnits() const;
@@ -63,18 +63,18 @@ public:
     void OnChanged_ExponentSign(bool oldShown, bool newShown) override;
     void OnChanged_UnitSymbolDisplayEnabled(bool oldEnabled, bool newEnabled) override;
 
-    // 56 × 24 when made compact; otherwise the spin box's own hint.
+    /// 56 × 24 when made compact; otherwise the spin box's own hint.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // Emitted for every successfully parsed text; a listener may adjust the
-    // value or set valid to false, which makes the text count as unreadable.
+    /// Emitted for every successfully parsed text; a listener may adjust the
+    /// value or set valid to false, which makes the text count as unreadable.
     void ValidateChangingValue(double& value, bool& valid);
 
 public Q_SLOTS:
-    // The value that editing last finished with.
+    /// The value that editing last finished with.
     virtual double GetAcceptedValue();
-    // Stores the current value() as the accepted one (on every editingFinished).
+    /// Stores the current value() as the accepted one (on every editingFinished).
     virtual void SaveAcceptedValue();
     void OnThemeChanged();
 
@@ -84,9 +84,9 @@ protected:
     void SetCanChangeQtDecimals(bool canChange);
     bool CanChangeQtDecimals() const;
 
-    // Formats the current value again and clears the deferred mark.
+    /// Formats the current value again and clears the deferred mark.
     void UpdateForUnits();
-    // Formats again unless updates are deferred, in which case it only marks.
+    /// Formats again unless updates are deferred, in which case it only marks.
     void UpdateForUnits(bool unused1, bool unused2);
 
     bool event(QEvent* event) override;

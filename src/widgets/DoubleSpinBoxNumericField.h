@@ -5,8 +5,8 @@
 
 namespace Kavrel::UICore {
 
-// The line edit of DoubleSpinBox. Unlike the plain field it leaves Page Up and
-// Page Down to the normal handling, so that they reach the spin box's stepping.
+/// The line edit of DoubleSpinBox. Unlike the plain field it leaves Page Up and
+/// Page Down to the normal handling, so that they reach the spin box's stepping.
 class KVUICORE_EXPORT DoubleSpinBoxNumericField : public NumericField
 {
     Q_OBJECT

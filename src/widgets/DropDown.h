@@ -17,32 +17,32 @@ namespace Kavrel::UICore {
 class DropDownImp;
 class DropDownMenu;
 
-// The library's themed drop-down button. It shows the current item's text and
-// icon and opens a DropDownMenu listing its items. Items are actions arranged in
-// numbered groups (0, 1, ...) with a separator between groups; an item's index is
-// its position in the menu, separators included.
+/// The library's themed drop-down button. It shows the current item's text and
+/// icon and opens a DropDownMenu listing its items. Items are actions arranged in
+/// numbered groups (0, 1, ...) with a separator between groups; an item's index is
+/// its position in the menu, separators included.
 class KVUICORE_EXPORT DropDown : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(AlignmentMode alignment READ GetAlignment WRITE SetAlignment)
 
 public:
-    // What the items of a group are. Other values behave as NormalItem.
+    /// What the items of a group are. Other values behave as NormalItem.
     enum ItemType : int
     {
-        // A choice: the button shows the current item's text and icon.
+        /// A choice: the button shows the current item's text and icon.
         NormalItem = 0,
-        // A check item: triggering toggles it; exclusive groups keep one checked.
+        /// A check item: triggering toggles it; exclusive groups keep one checked.
         CheckableItem = 1,
-        // A command: triggering runs it; the button's text stays.
+        /// A command: triggering runs it; the button's text stays.
         CommandItem = 2,
-        // A header row naming the items that follow; it cannot be chosen.
+        /// A header row naming the items that follow; it cannot be chosen.
         GroupLabelItem = 3
     };
     Q_ENUM(ItemType)
 
-    // Where the menu opens: its right edge under the button's right edge, or its
-    // left edge under the button's left edge.
+    /// Where the menu opens: its right edge under the button's right edge, or its
+    /// left edge under the button's left edge.
     enum AlignmentMode
     {
         AlignRight = 0,
@@ -53,14 +53,14 @@ public:
     explicit DropDown(QWidget* parent = nullptr);
     ~DropDown() override;
 
-    // Items. The group-less forms add to the last group (group 0 when there is
-    // none). A group id may be an existing group or the next new one; other ids
-    // add nothing and give null.
+    /// Items. The group-less forms add to the last group (group 0 when there is
+    /// none). A group id may be an existing group or the next new one; other ids
+    /// add nothing and give null.
     QAction* AddItem(const QString& text, const QVariant& data = QVariant());
     QAction* AddItem(const QIcon& icon, const QString& text, const QVariant& data = QVariant());
     QAction* AddItem(int group, const QString& text, const QVariant& data = QVariant());
     QAction* AddItem(int group, const QIcon& icon, const QString& text, const QVariant& data = QVariant());
-    // Inserts before the item at index, into that item's group.
+    /// Inserts before the item at index, into that item's group.
     QAction* InsertItem(int index, const QString& text, const QVariant& data = QVariant());
     QAction* InsertItem(int index, const QIcon& icon, const QString& text, const QVariant& data = QVariant());
     bool AddAction(QAction* action, int group);
@@ -68,14 +68,14 @@ public:
     bool InsertAction(int index, QAction* action);
     bool InsertAction(QAction* before, QAction* action);
     void RemoveAction(QAction* action);
-    // Removes every item, separator and group; the actions the drop-down made are deleted.
+    /// Removes every item, separator and group; the actions the drop-down made are deleted.
     void RemoveAllActions();
-    // As RemoveAllActions, and the button's text and icon are cleared.
+    /// As RemoveAllActions, and the button's text and icon are cleared.
     void ClearItems();
     QAction* AddSeparator(int group);
-    // Adds an item that opens a sub-menu; gives its index, or -1.
+    /// Adds an item that opens a sub-menu; gives its index, or -1.
     int AddMenu(int group, const QIcon& icon, const QString& text);
-    // Adds an item to the sub-menu of the item at menuIndex.
+    /// Adds an item to the sub-menu of the item at menuIndex.
     QAction* AddSubMenuItem(int menuIndex, const QString& text, const QVariant& data = QVariant());
     QAction* AddSubMenuItem(int menuIndex, const QIcon& icon, const QString& text, const QVariant& data = QVariant());
     void EnableSubMenu(int menuIndex, bool enable);
@@ -83,14 +83,14 @@ public:
     void HideOrShowSubMenuItem(int menuIndex, const QVariant& data, bool show);
     void HideOrShowItemGroup(int group, bool show);
 
-    // Queries.
+    /// Queries.
     int Count() const;
     int GetCurrentIndex() const;
     QString GetCurrentText() const;
     QString GetItemText(int index) const;
     QIcon GetItemIcon(int index) const;
     QVariant ItemData(int index) const;
-    // Qt::DisplayRole compares texts; any other role the items' data.
+    /// Qt::DisplayRole compares texts; any other role the items' data.
     int FindData(const QVariant& data, int role = Qt::UserRole) const;
     int FindText(const QString& text, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive) const;
     QList<QAction*> GetActions() const;
@@ -104,13 +104,13 @@ public:
     bool IsGroupSeparatorVisible(int group) const;
     bool IsDropDownWithIcon() const;
 
-    // Settings.
-    // No range check: any index other than the current one is stored and announced.
+    /// Settings.
+    /// No range check: any index other than the current one is stored and announced.
     void SetCurrentIndex(int index);
     void SetCheckedItem(int group, int index);
     void SetCheckedItemByIndex(int index);
     void SetDisplayedText(const QString& text);
-    // Keeps the displayed text whatever item is current.
+    /// Keeps the displayed text whatever item is current.
     void EnableForceDisplayText(bool enable);
     void SetItemText(int index, const QString& text);
     void SetItemIcon(int index, const QIcon& icon);
@@ -120,12 +120,12 @@ public:
     void SetGroupItemExclusive(int group, bool exclusive);
     void SetGroupSeparatorVisible(bool visible, int group);
     void SetIconOnly(bool iconOnly);
-    // A transparent button shows its background and border only under the mouse.
+    /// A transparent button shows its background and border only under the mouse.
     void SetTransparent(bool transparent);
-    // 0 or less: the menu is as wide as its items and at least as wide as the button.
+    /// 0 or less: the menu is as wide as its items and at least as wide as the button.
     void SetDropDownListWidth(int width);
     void SetAlignment(const AlignmentMode& alignment);
-    // The menu paints through its style only instead of its own item painting.
+    /// The menu paints through its style only instead of its own item painting.
     void SetIsDropDownMenuUseDefaultPaintEvent(bool useDefault);
 
     QSize sizeHint() const override;

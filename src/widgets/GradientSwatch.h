@@ -12,22 +12,22 @@ namespace Kavrel::UICore {
 class ColorPicker;
 class GradientSwatchImp;
 
-// A gradient editor: a bar showing the gradient over a checkerboard, with a
-// node under the bar for each stop. The stops stay ordered by position.
-//
-// Mouse: a click on the bar adds a stop there with the colour the gradient
-// has at that point; a node is selected by a press and moved by a drag (kept
-// within 0..1 and between its neighbours, so the order never changes); a
-// double-click on a node opens the colour picker for its stop; the delete
-// icon at the end of the bar removes the selected stop. Keyboard: Left and
-// Right move the selected stop by 1 % (10 % with Shift), Up and Down select
-// the previous or next stop, Delete or Backspace removes the selected stop,
-// Insert adds a stop halfway to the next one, Space or Return opens the
-// picker. There are never fewer than two stops. A right-to-left layout
-// mirrors the bar: position 0 is at the right.
-//
-// Every change by the user, and by the editing operations below, emits
-// GradientChanged(); SetStops() replaces the stops silently.
+/// A gradient editor: a bar showing the gradient over a checkerboard, with a
+/// node under the bar for each stop. The stops stay ordered by position.
+///
+/// Mouse: a click on the bar adds a stop there with the colour the gradient
+/// has at that point; a node is selected by a press and moved by a drag (kept
+/// within 0..1 and between its neighbours, so the order never changes); a
+/// double-click on a node opens the colour picker for its stop; the delete
+/// icon at the end of the bar removes the selected stop. Keyboard: Left and
+/// Right move the selected stop by 1 % (10 % with Shift), Up and Down select
+/// the previous or next stop, Delete or Backspace removes the selected stop,
+/// Insert adds a stop halfway to the next one, Space or Return opens the
+/// picker. There are never fewer than two stops. A right-to-left layout
+/// mirrors the bar: position 0 is at the right.
+///
+/// Every change by the user, and by the editing operations below, emits
+/// GradientChanged(); SetStops() replaces the stops silently.
 class KVUICORE_EXPORT GradientSwatch : public QWidget
 {
     Q_OBJECT
@@ -39,33 +39,33 @@ public:
     ~GradientSwatch() override;
 
     QGradientStops GetStops() const;
-    // Stops outside 0..1 are clamped, non-finite positions and invalid colours
-    // dropped, and the rest sorted; fewer than two stops become black to white.
+    /// Stops outside 0..1 are clamped, non-finite positions and invalid colours
+    /// dropped, and the rest sorted; fewer than two stops become black to white.
     void SetStops(const QGradientStops& stops);
 
     int GetSelectedStop() const;
     void SetSelectedStop(int index);
 
-    // The editing operations; each returns false when it changes nothing.
-    // AddStop returns the new stop's index (or -1).
+    /// The editing operations; each returns false when it changes nothing.
+    /// AddStop returns the new stop's index (or -1).
     int AddStop(double position);
     bool RemoveStop(int index);
     bool MoveStop(int index, double position);
     bool SetStopColor(int index, const QColor& color);
 
-    // The colour of the gradient at a position, each channel interpolated
-    // linearly between the stops around it.
+    /// The colour of the gradient at a position, each channel interpolated
+    /// linearly between the stops around it.
     static QColor ColorAt(const QGradientStops& stops, double position);
 
-    // Geometry, in widget coordinates: the bar, the tip of a stop's node, the
-    // delete icon's rectangle.
+    /// Geometry, in widget coordinates: the bar, the tip of a stop's node, the
+    /// delete icon's rectangle.
     QRect BarRect() const;
     QPoint NodePoint(int index) const;
     QRect DeleteButtonRect() const;
     double PositionAt(int x) const;
 
     void OpenStopPicker(int index);
-    // The picker open for a stop, or null.
+    /// The picker open for a stop, or null.
     ColorPicker* GetPicker() const;
 
     QSize sizeHint() const override;

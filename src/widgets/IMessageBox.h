@@ -5,10 +5,10 @@
 
 namespace Kavrel::UICore {
 
-// One message box as a provider creates it. KvMessageBox forwards every
-// member of the same name unchanged; a host provider implements this to take
-// over the presentation. Text getters copy into (buffer, capacity) and return
-// the number of characters copied.
+/// One message box as a provider creates it. KvMessageBox forwards every
+/// member of the same name unchanged; a host provider implements this to take
+/// over the presentation. Text getters copy into (buffer, capacity) and return
+/// the number of characters copied.
 class KVUICORE_EXPORT IMessageBox
 {
 public:

@@ -10,9 +10,9 @@ namespace Kavrel::UICore {
 
 class ImageLabelImp;
 
-// A label that shows a themed image: an "Icon" entry of the theme, or the
-// image file a "String" entry names, at a fixed size. The image follows theme
-// switches and is drawn greyed while the label is disabled.
+/// A label that shows a themed image: an "Icon" entry of the theme, or the
+/// image file a "String" entry names, at a fixed size. The image follows theme
+/// switches and is drawn greyed while the label is disabled.
 class KVUICORE_EXPORT ImageLabel : public QLabel
 {
     Q_OBJECT

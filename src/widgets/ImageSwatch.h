@@ -11,24 +11,24 @@ namespace Kavrel::UICore {
 
 class ImageSwatchImp;
 
-// A thumbnail of an image file (any format the Qt image readers know, SVG
-// too), scaled into the swatch with its aspect ratio kept (pixels are never
-// enlarged; drawings fill the swatch). The file is decoded
-// at thumbnail size where its reader can (JPEG, SVG), so that a large photo is
-// never held at full size; decoded thumbnails are shared through a bounded
-// cache keyed by path, modification time, file size and thumbnail size.
-//
-// Decoding runs on the GUI thread and is bounded: a header claiming more than
-// 16384 × 16384 pixels, an image whose reader would decode it whole into more
-// than 256 MiB, a file larger than 1 GiB or anything that is not a regular
-// file is not decoded; the swatch then shows the unreadable state and its
-// tool tip says why. Other states: no image (empty path), missing file. The
-// tool tip of a shown image gives its path and pixel size.
-//
-// An image file dropped onto the swatch becomes its file (FilePathChanged()).
-// A click, Space or Return emits Activated(), for the host to offer a file
-// browser; Delete or Backspace clears the image. SetFilePath() changes the
-// file silently.
+/// A thumbnail of an image file (any format the Qt image readers know, SVG
+/// too), scaled into the swatch with its aspect ratio kept (pixels are never
+/// enlarged; drawings fill the swatch). The file is decoded
+/// at thumbnail size where its reader can (JPEG, SVG), so that a large photo is
+/// never held at full size; decoded thumbnails are shared through a bounded
+/// cache keyed by path, modification time, file size and thumbnail size.
+///
+/// Decoding runs on the GUI thread and is bounded: a header claiming more than
+/// 16384 × 16384 pixels, an image whose reader would decode it whole into more
+/// than 256 MiB, a file larger than 1 GiB or anything that is not a regular
+/// file is not decoded; the swatch then shows the unreadable state and its
+/// tool tip says why. Other states: no image (empty path), missing file. The
+/// tool tip of a shown image gives its path and pixel size.
+///
+/// An image file dropped onto the swatch becomes its file (FilePathChanged()).
+/// A click, Space or Return emits Activated(), for the host to offer a file
+/// browser; Delete or Backspace clears the image. SetFilePath() changes the
+/// file silently.
 class KVUICORE_EXPORT ImageSwatch : public QWidget
 {
     Q_OBJECT
@@ -49,15 +49,15 @@ public:
 
     QString GetFilePath() const;
     void SetFilePath(const QString& path);
-    // Reads the file again (after it changed on disk).
+    /// Reads the file again (after it changed on disk).
     void Reload();
 
     State GetState() const;
-    // Why the file is missing or unreadable; empty otherwise.
+    /// Why the file is missing or unreadable; empty otherwise.
     QString GetStateText() const;
-    // The image's size in pixels as its file gives it; invalid without one.
+    /// The image's size in pixels as its file gives it; invalid without one.
     QSize GetImageSize() const;
-    // The thumbnail for the swatch's present size and screen scale.
+    /// The thumbnail for the swatch's present size and screen scale.
     QImage GetThumbnail() const;
 
     bool IsDropEnabled() const;
@@ -74,11 +74,11 @@ public Q_SLOTS:
     void OnThemeChanged();
 
 protected:
-    // The area the image is shown in.
+    /// The area the image is shown in.
     QRect ContentRect() const;
-    // Paints the loaded image into the content area; the texture swatch tiles it.
+    /// Paints the loaded image into the content area; the texture swatch tiles it.
     virtual void DrawImage(QPainter& painter, const QRect& content);
-    // The thumbnail of the file fitting box (device pixels), or null.
+    /// The thumbnail of the file fitting box (device pixels), or null.
     QImage ThumbnailFor(const QSize& box) const;
 
     bool event(QEvent* event) override;

@@ -11,9 +11,9 @@ class QActionGroup;
 
 namespace Kavrel::UICore {
 
-// One numbered group of a DropDown: its item type, the QActionGroup its items
-// belong to, its menu actions in menu order (separators included, the separator
-// that follows the group last) and whether that following separator shows.
+/// One numbered group of a DropDown: its item type, the QActionGroup its items
+/// belong to, its menu actions in menu order (separators included, the separator
+/// that follows the group last) and whether that following separator shows.
 class KVUICORE_EXPORT ItemGroup : public QObject
 {
     Q_OBJECT
@@ -28,13 +28,13 @@ public:
     bool IsSeparatorVisible() const;
     void SetSeparatorVisible(bool visible);
 
-    // The group's actions in menu order, the trailing separator included.
+    /// The group's actions in menu order, the trailing separator included.
     const QList<QAction*>& GetActions() const;
     QList<QAction*>& Actions();
-    // The separator between this group and the next one, or null.
+    /// The separator between this group and the next one, or null.
     QAction* GetTrailingSeparator() const;
     void SetTrailingSeparator(QAction* separator);
-    // The number of actions before the trailing separator.
+    /// The number of actions before the trailing separator.
     int ItemCount() const;
 
 private:

@@ -14,18 +14,18 @@ struct KvMessageBoxNotificationArgs;
 
 using KvMessageBoxCallback = bool (*)(KvActiveTaskDialog*, const KvMessageBoxNotificationArgs&, void*);
 
-// A modal message box for hosts that work with native window handles and
-// wide strings: texts, an icon, standard and custom buttons, default and
-// escape buttons and a width.
-//
-// The box itself comes from the message-box provider of the core manager, so
-// a host that installs its own provider takes over every message box of the
-// library. Text getters copy into (buffer, capacity) and return the number of
-// characters copied.
+/// A modal message box for hosts that work with native window handles and
+/// wide strings: texts, an icon, standard and custom buttons, default and
+/// escape buttons and a width.
+///
+/// The box itself comes from the message-box provider of the core manager, so
+/// a host that installs its own provider takes over every message box of the
+/// library. Text getters copy into (buffer, capacity) and return the number of
+/// characters copied.
 class KVUICORE_EXPORT KvMessageBox
 {
 public:
-    // Interpreted by host providers; the library's own box looks the same in every style.
+    /// Interpreted by host providers; the library's own box looks the same in every style.
     enum Style : int
     {
         StyleDefault = 0,
@@ -33,7 +33,7 @@ public:
         StyleClassic = 2,
     };
 
-    // Values other than these show no icon.
+    /// Values other than these show no icon.
     enum Icon : int
     {
         IconNone = 0,
@@ -42,7 +42,7 @@ public:
         IconWarning = 3,
     };
 
-    // Bits of the standard button set, and the values Show returns for them.
+    /// Bits of the standard button set, and the values Show returns for them.
     enum StandardButton : int
     {
         ButtonNone = 0,
@@ -59,8 +59,8 @@ public:
     KvMessageBox(const KvMessageBox&) = delete;
     KvMessageBox& operator=(const KvMessageBox&) = delete;
 
-    // A different style drops the installed provider: the next box comes
-    // from a fresh default provider.
+    /// A different style drops the installed provider: the next box comes
+    /// from a fresh default provider.
     static void SetStyle(Style style);
     static Style GetStyle();
 
@@ -75,31 +75,31 @@ public:
     int GetExpandedText(wchar_t* buffer, int capacity) const;
     void SetExpandedText(const wchar_t* text);
     StandardButton GetStandardButtons() const;
-    // A combination of StandardButton bits; none at all shows a single OK button.
+    /// A combination of StandardButton bits; none at all shows a single OK button.
     void SetStandardButtons(StandardButton buttons);
-    // A button of the host's own; `Show` returns `id` when it is pressed. A
-    // second text for the same id replaces the first.
+    /// A button of the host's own; `Show` returns `id` when it is pressed. A
+    /// second text for the same id replaces the first.
     void AddButton(const wchar_t* text, int id);
     int GetDefaultButton() const;
-    // A custom button id or a StandardButton value; 0 for none.
+    /// A custom button id or a StandardButton value; 0 for none.
     void SetDefaultButton(int id);
     int GetEscapeButton() const;
     void SetEscapeButton(int id);
     int GetWidth() const;
-    // Pixels; 0 keeps the natural width.
+    /// Pixels; 0 keeps the natural width.
     void SetWidth(int width);
     void SetFooterText(const wchar_t* text);
     void SetFlags(int flags);
     int GetFlags();
-    // The library's own box calls no callback; both return 0.
+    /// The library's own box calls no callback; both return 0.
     int SetCallback(KvMessageBoxCallback callback);
     int SetCallbackData(void* data);
     int GetCheckBoxText(wchar_t* buffer, int capacity) const;
     void SetCheckBoxText(const wchar_t* text);
 
-    // Shows the box modally over `parent` (may be null) and returns the id of
-    // the pressed button: a StandardButton value or a custom id; 8 (Cancel)
-    // when the box went away without a button.
+    /// Shows the box modally over `parent` (may be null) and returns the id of
+    /// the pressed button: a StandardButton value or a custom id; 8 (Cancel)
+    /// when the box went away without a button.
     int Show(HWND parent, bool& checked);
     int Show(HWND parent);
 

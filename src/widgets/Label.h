@@ -11,11 +11,11 @@ namespace Kavrel::UICore {
 
 class LabelImp;
 
-// A single-line label in the theme's text colour. Text that does not fit is
-// cut at the right and shown whole as a tool tip; text that fits shows the
-// reserved tool tip instead. An optional small pixmap at the right edge has a
-// tool tip of its own and reports clicks. Word-wrapping and rich-text labels
-// paint as a plain QLabel.
+/// A single-line label in the theme's text colour. Text that does not fit is
+/// cut at the right and shown whole as a tool tip; text that fits shows the
+/// reserved tool tip instead. An optional small pixmap at the right edge has a
+/// tool tip of its own and reports clicks. Word-wrapping and rich-text labels
+/// paint as a plain QLabel.
 class KVUICORE_EXPORT Label : public QLabel
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     ~Label() override;
 
     QString GetTextColorThemeKey() const;
-    // Ignored for a key the theme lacks, and for the current key unless force.
+    /// Ignored for a key the theme lacks, and for the current key unless force.
     void SetTextColorThemeKey(const QString& key, bool force = false);
 
     QString GetReservedToolTip() const;
@@ -38,12 +38,12 @@ public:
     QString GetRightPixmapTooltip() const;
     void SetRightPixmapTooltip(const QString& toolTip);
 
-    // When true the label keeps its width fixed to what its text (and right
-    // pixmap) needs, following text and font changes.
+    /// When true the label keeps its width fixed to what its text (and right
+    /// pixmap) needs, following text and font changes.
     bool GetAutoFixedWidth() const;
     void SetAutoFixedWidth(bool autoFixedWidth);
 
-    // The width of the text's bounding rectangle in the label's font.
+    /// The width of the text's bounding rectangle in the label's font.
     int getTextWidth() const;
 
 Q_SIGNALS:

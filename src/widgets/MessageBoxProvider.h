@@ -5,7 +5,7 @@
 
 namespace Kavrel::UICore {
 
-// The provider the core manager falls back to: the library's own message box.
+/// The provider the core manager falls back to: the library's own message box.
 class KVUICORE_EXPORT MessageBoxProvider : public IMessageBoxProvider
 {
 public:

@@ -10,13 +10,13 @@ namespace Kavrel::UICore {
 
 class NumericFieldImp;
 
-// The themed single-line editor of the numeric controls (the spin box's line
-// edit, the slider's text field). It paints its own frame and background from
-// the theme, selects all of its text on the first click after gaining focus,
-// and keeps a sticky modified flag: set whenever the user has edited the text
-// (checked after every key press and on focus-out), cleared on focus-in and by
-// ClearModified(), so that an owner can tell a typed value from a value it
-// wrote itself.
+/// The themed single-line editor of the numeric controls (the spin box's line
+/// edit, the slider's text field). It paints its own frame and background from
+/// the theme, selects all of its text on the first click after gaining focus,
+/// and keeps a sticky modified flag: set whenever the user has edited the text
+/// (checked after every key press and on focus-out), cleared on focus-in and by
+/// ClearModified(), so that an owner can tell a typed value from a value it
+/// wrote itself.
 class KVUICORE_EXPORT NumericField : public QLineEdit
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     bool IsModified() const;
     void ClearModified();
 
-    // 0 pointer outside, 1 pointer over the field, 2 pressed.
+    /// 0 pointer outside, 1 pointer over the field, 2 pressed.
     int HoverState() const;
 
 Q_SIGNALS:
@@ -43,7 +43,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
-    // Takes the line edit's own modified state into the sticky flag.
+    /// Takes the line edit's own modified state into the sticky flag.
     void UpdateModified();
 
 private:

@@ -6,9 +6,9 @@
 
 namespace Kavrel::UICore {
 
-// The grip in a PaletteWindow's bottom corner (the right one, the left one
-// right to left). Dragging it resizes the palette from its top edge and
-// leading side; with keyboard focus the arrow keys resize in steps.
+/// The grip in a PaletteWindow's bottom corner (the right one, the left one
+/// right to left). Dragging it resizes the palette from its top edge and
+/// leading side; with keyboard focus the arrow keys resize in steps.
 class KVUICORE_EXPORT PaletteResizeButton : public QAbstractButton
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // The size the palette should take, in logical pixels.
+    /// The size the palette should take, in logical pixels.
     void ResizeRequested(const QSize& size);
     void ResizeFinished();
 

@@ -12,9 +12,9 @@ namespace Kavrel::UICore {
 
 class PaletteTitleBarImp;
 
-// The title bar of a PaletteWindow: the title text and a close button over the
-// theme's title-bar gradient, ThemeFileKey::TitleBarHeight high. Dragging it
-// moves the palette; double-clicking it asks the palette to collapse or expand.
+/// The title bar of a PaletteWindow: the title text and a close button over the
+/// theme's title-bar gradient, ThemeFileKey::TitleBarHeight high. Dragging it
+/// moves the palette; double-clicking it asks the palette to collapse or expand.
 class KVUICORE_EXPORT PaletteTitleBar : public QWidget
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
 Q_SIGNALS:
     void CloseClicked();
     void DoubleClicked();
-    // The palette's new top-left corner in global coordinates while dragging.
+    /// The palette's new top-left corner in global coordinates while dragging.
     void DragMoved(const QPoint& globalTopLeft);
     void DragFinished();
 

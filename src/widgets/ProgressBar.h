@@ -6,8 +6,8 @@
 
 namespace Kavrel::UICore {
 
-// A progress bar painted by CustomStyle, its text in the theme's "FontNormal1",
-// enabled or not.
+/// A progress bar painted by CustomStyle, its text in the theme's "FontNormal1",
+/// enabled or not.
 class KVUICORE_EXPORT ProgressBar : public QProgressBar
 {
     Q_OBJECT

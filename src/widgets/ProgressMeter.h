@@ -13,9 +13,9 @@ namespace Kavrel::UICore {
 
 class Label;
 
-// A small busy indicator: a 16 by 16 animation cycling through the theme's
-// busy frames about 24 times a second, optionally followed by a text. It is
-// idle until Start(); End() stops it and rewinds to the first frame.
+/// A small busy indicator: a 16 by 16 animation cycling through the theme's
+/// busy frames about 24 times a second, optionally followed by a text. It is
+/// idle until Start(); End() stops it and rewinds to the first frame.
 class KVUICORE_EXPORT ProgressMeter : public QWidget
 {
     Q_OBJECT
@@ -27,11 +27,11 @@ public:
     void Start();
     void End();
 
-    // A non-empty text makes the meter as wide as the text's advance plus 33.
+    /// A non-empty text makes the meter as wide as the text's advance plus 33.
     void SetText(QString const& text);
     QString GetText() const;
 
-    // Replaces the frames; a non-empty list shows its first frame at once.
+    /// Replaces the frames; a non-empty list shows its first frame at once.
     void SetImageFrameList(QList<QPixmap> frames);
     QList<QPixmap> GetImageFrameList() const;
 

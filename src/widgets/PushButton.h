@@ -10,10 +10,10 @@ namespace Kavrel::UICore {
 
 class PushButtonImp;
 
-// A push button painted from the theme per mouse state. Its icon comes from
-// the theme when its object name is a theme key holding an icon path; a
-// mini-icon button shows the theme's toggle images instead. A checkable button
-// can be locked so that, once checked, the user can't uncheck it.
+/// A push button painted from the theme per mouse state. Its icon comes from
+/// the theme when its object name is a theme key holding an icon path; a
+/// mini-icon button shows the theme's toggle images instead. A checkable button
+/// can be locked so that, once checked, the user can't uncheck it.
 class KVUICORE_EXPORT PushButton : public QPushButton
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     bool IsMiniIcon() const;
     int GetMouseState() const;
 
-    // Both also lay out the icon and text rectangles.
+    /// Both also lay out the icon and text rectangles.
     void setGeometry(const QRect& rect);
     void updateGeometry();
 

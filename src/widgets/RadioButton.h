@@ -10,9 +10,9 @@ namespace Kavrel::UICore {
 
 class RadioButtonImp;
 
-// A flat toggle tile with an icon and an optional text, painted by
-// CustomStyle: highlighted when hovered, filled when checked. Tiles of one
-// parent are exclusive like radio buttons.
+/// A flat toggle tile with an icon and an optional text, painted by
+/// CustomStyle: highlighted when hovered, filled when checked. Tiles of one
+/// parent are exclusive like radio buttons.
 class KVUICORE_EXPORT RadioButton : public QRadioButton
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     ~RadioButton() override;
 
     QString GetIconThemeKey() const;
-    // An "Icon" entry or a "String" entry holding an icon path.
+    /// An "Icon" entry or a "String" entry holding an icon path.
     void SetIconThemeKey(const QString& key);
 
     QSize sizeHint() const override;

@@ -11,10 +11,10 @@ namespace Kavrel::UICore {
 
 class RolloutContainerImp;
 
-// A collapsible group: a title bar with a disclosure triangle and an optional
-// check box that enables or disables the content below it. Clicking the title,
-// or Up and Down, collapses and expands it. A container inside a container is
-// indented one step further.
+/// A collapsible group: a title bar with a disclosure triangle and an optional
+/// check box that enables or disables the content below it. Clicking the title,
+/// or Up and Down, collapses and expands it. A container inside a container is
+/// indented one step further.
 class KVUICORE_EXPORT RolloutContainer : public QWidget
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
     explicit RolloutContainer(QWidget* parent = nullptr);
     ~RolloutContainer() override;
 
-    // Setting the title does not repaint by itself.
+    /// Setting the title does not repaint by itself.
     void SetTitle(QString const& title);
     QString GetTitle() const;
-    // The tooltip of the title bar while the title is shown whole; a cut title
-    // shows the full title instead.
+    /// The tooltip of the title bar while the title is shown whole; a cut title
+    /// shows the full title instead.
     void SetTitleToolTip(QString const& toolTip);
     void SetElideMode(Qt::TextElideMode mode);
     Qt::TextElideMode GetElideMode() const;
@@ -40,20 +40,20 @@ public:
 
     void SetIsCollapsed(bool collapsed);
     bool IsCollapsed() const;
-    // Without the expand button the container stays expanded.
+    /// Without the expand button the container stays expanded.
     void SetExpandButtonVisible(bool visible);
     bool IsExpandButtonVisible() const;
-    // A disabled container still collapses and expands from its title.
+    /// A disabled container still collapses and expands from its title.
     void SetIsExpandableWhenDisabled(bool expandable);
     bool IsExpandableWhenDisabled() const;
     int IndentLevel() const;
 
-    // The title bar as measured for hit tests and size hints.
+    /// The title bar as measured for hit tests and size hints.
     QRect GetTitleRect() const;
     int TitleHeight() const;
 
-    // top is kept as extra space below the title bar, also across theme
-    // changes. It and the theme's title height are taken within 0..4096.
+    /// top is kept as extra space below the title bar, also across theme
+    /// changes. It and the theme's title height are taken within 0..4096.
     void setContentsMargins(int left, int top, int right, int bottom);
 
     QSize sizeHint() const override;
@@ -65,8 +65,8 @@ Q_SIGNALS:
     void CheckBoxClicked(bool checked);
 
 public Q_SLOTS:
-    // Checked enables the content, unchecked disables it; children the host
-    // disabled itself stay disabled either way.
+    /// Checked enables the content, unchecked disables it; children the host
+    /// disabled itself stay disabled either way.
     void SetChecked(bool checked);
     void OnThemeChanged();
 

@@ -13,13 +13,13 @@ namespace Kavrel::UICore {
 
 class SearchBoxImp;
 
-// The library's search field: a search icon, a prompt shown while the field is
-// empty, and a clear button that appears with text. Typing announces the
-// search through SearchChanged() once the user pauses (debounced; the delay is
-// settable, 0 announces every change at once); Return announces it at once
-// and submits it through SearchSubmitted(); Escape clears a non-empty field
-// (an empty field leaves Escape to its window). Submitted searches can be
-// remembered and offered again in a drop-down (Alt+Down, or the icon).
+/// The library's search field: a search icon, a prompt shown while the field is
+/// empty, and a clear button that appears with text. Typing announces the
+/// search through SearchChanged() once the user pauses (debounced; the delay is
+/// settable, 0 announces every change at once); Return announces it at once
+/// and submits it through SearchSubmitted(); Escape clears a non-empty field
+/// (an empty field leaves Escape to its window). Submitted searches can be
+/// remembered and offered again in a drop-down (Alt+Down, or the icon).
 class KVUICORE_EXPORT SearchBox : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ class KVUICORE_EXPORT SearchBox : public QWidget
     Q_PROPERTY(bool recentSearchesEnabled READ IsRecentSearchesEnabled WRITE SetRecentSearchesEnabled)
 
 public:
-    // The pause after the last keystroke before a search is announced, in ms.
+    /// The pause after the last keystroke before a search is announced, in ms.
     static constexpr int DefaultSearchDelay = 200;
     static constexpr int DefaultMaximumRecentSearches = 10;
 
@@ -37,7 +37,7 @@ public:
     ~SearchBox() override;
 
     QString GetText() const;
-    // Text set by the host is announced at once, without the typing delay.
+    /// Text set by the host is announced at once, without the typing delay.
     void SetText(const QString& text);
     void Clear();
 
@@ -45,34 +45,34 @@ public:
     void SetPrompt(const QString& prompt);
 
     int GetSearchDelay() const;
-    // Negative delays count as 0.
+    /// Negative delays count as 0.
     void SetSearchDelay(int milliseconds);
-    // True while a typed change waits for its delay.
+    /// True while a typed change waits for its delay.
     bool IsSearchPending() const;
 
     bool IsRecentSearchesEnabled() const;
     void SetRecentSearchesEnabled(bool enabled);
-    // Most recent first, without duplicates.
+    /// Most recent first, without duplicates.
     QStringList GetRecentSearches() const;
     void SetRecentSearches(const QStringList& searches);
     void ClearRecentSearches();
     int GetMaximumRecentSearches() const;
     void SetMaximumRecentSearches(int count);
-    // Opens the drop-down of recent searches (nothing when there are none).
+    /// Opens the drop-down of recent searches (nothing when there are none).
     void ShowRecentSearches();
 
-    // The inner editor, for hosts that need its selection or validators.
+    /// The inner editor, for hosts that need its selection or validators.
     QLineEdit* GetLineEdit() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // The search to run: after the delay, on Return, on clearing, on SetText.
-    // A text is never announced twice in a row.
+    /// The search to run: after the delay, on Return, on clearing, on SetText.
+    /// A text is never announced twice in a row.
     void SearchChanged(const QString& text);
     void SearchSubmitted(const QString& text);
-    // Every change of the text, not debounced.
+    /// Every change of the text, not debounced.
     void TextChanged(const QString& text);
 
 public Q_SLOTS:

@@ -13,17 +13,17 @@ class NumericField;
 class SliderControl;
 class SliderImp;
 
-// The unit-aware slider: an integer slider, a numeric text field and an
-// optional unit label side by side, all showing the one value of the
-// WidgetUnits part. The slider works on positions of value × 10^min(precision,
-// 3) in the unit of the symbol; finer precisions are reached with the arrow
-// keys, which step the value by the smallest shown decimal.
-//
-// User changes are announced with ValueChanged() between SliderPressed() and
-// SliderReleased(): a drag or held keys emit pressed first and released last,
-// and a value typed into the field emits all three at once. Values set from
-// code with SetValue() move the slider silently. Every candidate value passes
-// ValidateChangingValue(), whose listeners may adjust or refuse it.
+/// The unit-aware slider: an integer slider, a numeric text field and an
+/// optional unit label side by side, all showing the one value of the
+/// WidgetUnits part. The slider works on positions of value × 10^min(precision,
+/// 3) in the unit of the symbol; finer precisions are reached with the arrow
+/// keys, which step the value by the smallest shown decimal.
+///
+/// User changes are announced with ValueChanged() between SliderPressed() and
+/// SliderReleased(): a drag or held keys emit pressed first and released last,
+/// and a value typed into the field emits all three at once. Values set from
+/// code with SetValue() move the slider silently. Every candidate value passes
+/// ValidateChangingValue(), whose listeners may adjust or refuse it.
 class KVUICORE_EXPORT Slider : public QWidget, public WidgetUnits
 {
     Q_OBJECT
@@ -34,21 +34,21 @@ public:
     explicit Slider(QWidget* parent = nullptr);
     ~Slider() override;
 
-    // The range, in the unit type.
+    /// The range, in the unit type.
     double GetMinimum() const;
     double GetMaximum() const;
     void SetMinimum(double minimum);
     void SetMaximum(double maximum);
     void SetRange(double minimum, double maximum);
 
-    // A text painted into the slider's groove.
+    /// A text painted into the slider's groove.
     void SetDisplayText(const QString& text);
 
     void SetNumFieldVisible(bool visible);
     void SetSliderControlVisible(bool visible);
 
-    // The label beside the field; it shows only while showing is enabled and
-    // its text is not empty.
+    /// The label beside the field; it shows only while showing is enabled and
+    /// its text is not empty.
     void SetUnitSymbolLabel(const QString& text);
     QString GetUnitSymbolLabel() const;
     void ShowUnitSymbolLabel(bool show);
@@ -59,16 +59,16 @@ public:
     int GetTextBoxFixedWidth() const;
     void SetTabOrderNextWidget(QWidget* next);
 
-    // Rounds parsed values to single precision.
+    /// Rounds parsed values to single precision.
     void SetTreatValueAsFloat(bool treatAsFloat);
     bool TreatValueAsFloat() const;
 
-    // The field's sticky modified flag.
+    /// The field's sticky modified flag.
     bool IsModified() const;
     void ClearModified();
 
-    // While set, format changes only mark that an update is due; the owner
-    // switches deferring off and calls UpdateForUnits() once after the batch.
+    /// While set, format changes only mark that an update is due; the owner
+    /// switches deferring off and calls UpdateForUnits() once after the batch.
     void SetDeferUpdateForUnits(bool defer);
     bool DeferUpdateForUnits() const;
     bool HaveDeferredUpdatesForUnits() const;

@@ -10,51 +10,51 @@ namespace Kavrel::UICore {
 
 class SliderControlImp;
 
-// The integer slider of Slider. It does not jump to a clicked place: a press
-// starts a relative drag from the current position. Arrow and page keys step
-// one position (page: 10) or, when the owner's precision is finer than the
-// positions, emit IncDecKeyPressed() for every press and move the thumb one
-// position per "key threshold" presses. The first held key or button emits
-// sliderPressed(), the last one released emits sliderReleased(); Escape drops
-// every held input and emits EscapeReleased(). A display text can be painted
-// into the groove.
+/// The integer slider of Slider. It does not jump to a clicked place: a press
+/// starts a relative drag from the current position. Arrow and page keys step
+/// one position (page: 10) or, when the owner's precision is finer than the
+/// positions, emit IncDecKeyPressed() for every press and move the thumb one
+/// position per "key threshold" presses. The first held key or button emits
+/// sliderPressed(), the last one released emits sliderReleased(); Escape drops
+/// every held input and emits EscapeReleased(). A display text can be painted
+/// into the groove.
 class KVUICORE_EXPORT SliderControl : public QSlider
 {
     Q_OBJECT
     Q_PROPERTY(QString attributeTextTerm READ GetDisplayText WRITE SetDisplayText)
 
 public:
-    // The pseudo key code that stands for a mouse drag among the held inputs.
+    /// The pseudo key code that stands for a mouse drag among the held inputs.
     static constexpr int MouseInput = 100;
 
     explicit SliderControl(QWidget* parent = nullptr);
     ~SliderControl() override;
 
-    // Stores the range before applying it, so that it can be set again.
+    /// Stores the range before applying it, so that it can be set again.
     void SetRange(int minimum, int maximum);
     int GetStoredMinimum() const;
     int GetStoredMaximum() const;
 
-    // The owner's decimal precision and the precision the positions resolve;
-    // recomputes the key handling.
+    /// The owner's decimal precision and the precision the positions resolve;
+    /// recomputes the key handling.
     void SetPrecision(int precision, int effectivePrecision);
     int GetPrecision() const;
     int GetEffectivePrecision() const;
     bool DefaultKeyHandling() const;
     int KeyThreshold() const;
 
-    // While false the owner only follows the position, without taking it as
-    // the value (used while fine key steps move the thumb).
+    /// While false the owner only follows the position, without taking it as
+    /// the value (used while fine key steps move the thumb).
     bool EmitValue() const;
 
     QString GetDisplayText() const;
     void SetDisplayText(const QString& text);
 
-    // When false, the control shows the horizontal resize cursor.
+    /// When false, the control shows the horizontal resize cursor.
     void SetKeepCursor(bool keep);
     bool KeepCursor() const;
 
-    // Key codes of held stepping keys, MouseInput for a drag.
+    /// Key codes of held stepping keys, MouseInput for a drag.
     QList<int> HeldInputs() const;
 
 Q_SIGNALS:

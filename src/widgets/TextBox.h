@@ -22,10 +22,10 @@ class TextBoxImp;
 class TextBoxEventFilter;
 class ImageEventFilter;
 
-// The library's single-line text field: a themed frame around an embedded
-// LineEdit with an optional icon. It paints its own border, background and
-// focus halo, can validate typed text against a file-name-like rule with a
-// maximum length, and re-publishes the editor's activity as its own signals.
+/// The library's single-line text field: a themed frame around an embedded
+/// LineEdit with an optional icon. It paints its own border, background and
+/// focus halo, can validate typed text against a file-name-like rule with a
+/// maximum length, and re-publishes the editor's activity as its own signals.
 class KVUICORE_EXPORT TextBox : public QWidget
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ class KVUICORE_EXPORT TextBox : public QWidget
     Q_PROPERTY(QAction* imageAction READ GetImageAction WRITE SetImageAction)
 
 public:
-    // Outer icons sit outside the painted frame, inner icons inside it.
+    /// Outer icons sit outside the painted frame, inner icons inside it.
     enum IconPosition
     {
         NoIcon = 0,
@@ -57,9 +57,9 @@ public:
     explicit TextBox(QWidget* parent = nullptr);
     ~TextBox() override;
 
-    // The editor's text; empty while the prompting text is shown.
+    /// The editor's text; empty while the prompting text is shown.
     QString GetText() const;
-    // Sets the text; with validation on only a valid text is taken (trimmed).
+    /// Sets the text; with validation on only a valid text is taken (trimmed).
     void SetText(const QString& text);
 
     void SetPrompt(const QString& prompt);
@@ -73,12 +73,12 @@ public:
     void SetHomeAlways(bool homeAlways);
     void AllowFocusInSelectAll(bool allow);
 
-    // A null icon removes the icon; the first icon shows at OuterLeft.
+    /// A null icon removes the icon; the first icon shows at OuterLeft.
     void SetIcon(const QIcon& icon);
     QIcon GetIcon() const;
     void SetIconPosition(IconPosition position);
     IconPosition GetIconPosition() const;
-    // Clicking the icon triggers the action; the icon follows the action's.
+    /// Clicking the icon triggers the action; the icon follows the action's.
     void SetImageAction(QAction* action);
     QAction* GetImageAction() const;
     void SetImageLabelTooltip(const QString& tooltip);
@@ -87,25 +87,25 @@ public:
 
     void SetNeedValidate(bool needValidate);
     bool NeedValidate() const;
-    // errorMessages[0] is shown for a text longer than maxLength, [1] for a
-    // text that holds a forbidden character.
+    /// errorMessages[0] is shown for a text longer than maxLength, [1] for a
+    /// text that holds a forbidden character.
     void TextValidationInitialize(const QList<QString>& errorMessages, int maxLength);
-    // Cuts the text to 255 characters and tells whether it holds any allowed character.
+    /// Cuts the text to 255 characters and tells whether it holds any allowed character.
     virtual bool Validate();
-    // Checks in against the forbidden characters and the maximum length; out is
-    // in, trimmed when it starts or ends with a blank.
+    /// Checks in against the forbidden characters and the maximum length; out is
+    /// in, trimmed when it starts or ends with a blank.
     bool ValidateText(const QString& in, QString& out, QString& error) const;
 
     LineEdit* GetLineEdit() const;
-    // The label that shows the icon.
+    /// The label that shows the icon.
     QWidget* GetImageLabel() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // The text box's outline in color over a transparent fill, or its panel
-    // filled with brush under a transparent outline, for controls that look
-    // like a text box. lineWidth is the outline's width in device pixels.
+    /// The text box's outline in color over a transparent fill, or its panel
+    /// filled with brush under a transparent outline, for controls that look
+    /// like a text box. lineWidth is the outline's width in device pixels.
     static void DrawTextBoxFrame(QPainter* painter, const QRect& rect, const QColor& color, int lineWidth);
     static void DrawTextBoxPanel(QPainter* painter, const QRect& rect, const QBrush& brush, int lineWidth);
 
@@ -137,7 +137,7 @@ Q_SIGNALS:
     void TextChanged(const QString& text);
     void TextEdited(const QString& text);
     void FocusIn();
-    // Declared for users of the class; the box itself never emits them.
+    /// Declared for users of the class; the box itself never emits them.
     void TabFocusIn();
     void ClickFocusIn();
     void FocusOut();
@@ -172,7 +172,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
 
-    // Rebuilds the layout for the icon position and the box height.
+    /// Rebuilds the layout for the icon position and the box height.
     void UpdateLayout();
 
 private:

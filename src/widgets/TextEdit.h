@@ -10,16 +10,16 @@ namespace Kavrel::UICore {
 
 class TextEditImp;
 
-// The library's multi-line text editor: a plain-text editor in the text box's
-// frame (background, border and focus halo from the same theme keys), with a
-// prompt shown while it is empty, themed scroll bars and an optional maximum
-// length. Like the single-line editors it commits when editing finishes: on
-// losing focus (and on Ctrl+Return) a changed text is announced through
-// TextCommitted(); Escape returns to the last committed text.
-//
-// With a maximum length, typing stops at the limit and a paste or drop
-// inserts only what still fits (nothing when nothing does), leaving the caret
-// where the inserted text ends.
+/// The library's multi-line text editor: a plain-text editor in the text box's
+/// frame (background, border and focus halo from the same theme keys), with a
+/// prompt shown while it is empty, themed scroll bars and an optional maximum
+/// length. Like the single-line editors it commits when editing finishes: on
+/// losing focus (and on Ctrl+Return) a changed text is announced through
+/// TextCommitted(); Escape returns to the last committed text.
+///
+/// With a maximum length, typing stops at the limit and a paste or drop
+/// inserts only what still fits (nothing when nothing does), leaving the caret
+/// where the inserted text ends.
 class KVUICORE_EXPORT TextEdit : public QPlainTextEdit
 {
     Q_OBJECT
@@ -32,19 +32,19 @@ public:
     ~TextEdit() override;
 
     QString GetText() const;
-    // Sets the text (cut to the maximum length) as the committed text; no signal.
+    /// Sets the text (cut to the maximum length) as the committed text; no signal.
     void SetText(const QString& text);
     QString GetCommittedText() const;
-    // Announces the text when it differs from the committed one.
+    /// Announces the text when it differs from the committed one.
     void Commit();
 
     QString GetPrompt() const;
     void SetPrompt(const QString& prompt);
 
-    // 0 (the default) for no limit; a lower limit cuts the present text.
+    /// 0 (the default) for no limit; a lower limit cuts the present text.
     int GetMaximumLength() const;
     void SetMaximumLength(int length);
-    // The length as the limit counts it (characters, line breaks included).
+    /// The length as the limit counts it (characters, line breaks included).
     int GetLength() const;
 
     QSize sizeHint() const override;

@@ -10,9 +10,9 @@ namespace Kavrel::UICore {
 
 class TextLabelImp;
 
-// A static text (captions, headers, wrapped notes) in a theme colour. The bold
-// variant is bold only when the theme says static labels are bold
-// ("StaticLabelFontBold"). Unlike Label it never cuts its text.
+/// A static text (captions, headers, wrapped notes) in a theme colour. The bold
+/// variant is bold only when the theme says static labels are bold
+/// ("StaticLabelFontBold"). Unlike Label it never cuts its text.
 class KVUICORE_EXPORT TextLabel : public QLabel
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     ~TextLabel() override;
 
     QString GetTextColorThemeKey() const;
-    // Ignored for a key the theme lacks.
+    /// Ignored for a key the theme lacks.
     void SetTextColorThemeKey(const QString& key);
     bool IsBold() const;
     void SetBold(bool bold);

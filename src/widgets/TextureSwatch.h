@@ -6,10 +6,10 @@ namespace Kavrel::UICore {
 
 class TextureSwatchImp;
 
-// An image swatch that shows its image as a texture: tiled across the swatch,
-// each tile the swatch's size times the tile scale. With the floating preview
-// enabled, resting the pointer on the swatch (or Shift+Space) shows a larger
-// tiled view beside it until the pointer leaves (or Escape).
+/// An image swatch that shows its image as a texture: tiled across the swatch,
+/// each tile the swatch's size times the tile scale. With the floating preview
+/// enabled, resting the pointer on the swatch (or Shift+Space) shows a larger
+/// tiled view beside it until the pointer leaves (or Escape).
 class KVUICORE_EXPORT TextureSwatch : public ImageSwatch
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit TextureSwatch(QWidget* parent = nullptr);
     ~TextureSwatch() override;
 
-    // One tile's side as a share of the swatch's (clamped to 0.05 ... 1).
+    /// One tile's side as a share of the swatch's (clamped to 0.05 ... 1).
     double GetTileScale() const;
     void SetTileScale(double scale);
 
@@ -31,7 +31,7 @@ public:
     void SetFloatingPreviewEnabled(bool enabled);
     void ShowFloatingPreview();
     void HideFloatingPreview();
-    // The preview window while it is shown, or null.
+    /// The preview window while it is shown, or null.
     QWidget* GetFloatingPreview() const;
 
 protected:

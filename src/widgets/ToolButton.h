@@ -10,9 +10,9 @@ namespace Kavrel::UICore {
 
 class ToolButtonImp;
 
-// A small flat tool button (28 by 24) painted by CustomStyle: invisible until
-// hovered, pressed or checked. Its icon comes from a theme key and follows
-// theme switches.
+/// A small flat tool button (28 by 24) painted by CustomStyle: invisible until
+/// hovered, pressed or checked. Its icon comes from a theme key and follows
+/// theme switches.
 class KVUICORE_EXPORT ToolButton : public QToolButton
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     ~ToolButton() override;
 
     QString GetIconThemeKey() const;
-    // An "Icon" entry or a "String" entry holding an icon path.
+    /// An "Icon" entry or a "String" entry holding an icon path.
     void SetIconThemeKey(const QString& key);
 
 public Q_SLOTS:

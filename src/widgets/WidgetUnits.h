@@ -11,11 +11,11 @@
 
 namespace Kavrel::UICore {
 
-// The value-and-format holder behind every numeric control: one double in a
-// unit type, shown with a unit symbol and a number format. It formats the value
-// into text and parses typed text back, and tells a deriving control through
-// the OnChanged_* notifications whenever a property changes. Each notification
-// is made after the new state is stored, old value first.
+/// The value-and-format holder behind every numeric control: one double in a
+/// unit type, shown with a unit symbol and a number format. It formats the value
+/// into text and parses typed text back, and tells a deriving control through
+/// the OnChanged_* notifications whenever a property changes. Each notification
+/// is made after the new state is stored, old value first.
 class KVUICORE_EXPORT WidgetUnits
 {
 public:
@@ -27,7 +27,7 @@ public:
     WidgetUnits();
     virtual ~WidgetUnits();
 
-    // Notifications for deriving controls; they do nothing here.
+    /// Notifications for deriving controls; they do nothing here.
     virtual void OnChanged_DecimalPrecision(int oldPrecision, int newPrecision);
     virtual void OnChanged_UnitType(UnitType oldType, UnitType newType);
     virtual void OnChanged_UnitSymbol(UnitSymbol oldSymbol, UnitSymbol newSymbol);
@@ -40,28 +40,28 @@ public:
     virtual void OnChanged_UnitSymbolDisplayEnabled(bool oldEnabled, bool newEnabled);
 
     double GetValue() const;
-    // Values within GetTolerance() of the current one change nothing; values
-    // within tolerance of zero become exactly zero.
+    /// Values within GetTolerance() of the current one change nothing; values
+    /// within tolerance of zero become exactly zero.
     void SetValue(double value);
 
     UnitType GetUnitType() const;
-    // Unknown types are ignored.
+    /// Unknown types are ignored.
     void SetUnitType(UnitType type);
-    // The invariant name of the unit type.
+    /// The invariant name of the unit type.
     QString GetUnit() const;
 
     UnitSymbol GetUnitSymbolType() const;
     void SetUnitSymbolType(UnitSymbol symbol);
-    // The invariant name of the unit symbol.
+    /// The invariant name of the unit symbol.
     QString GetUnitSymbol() const;
-    // By invariant name; an unknown name changes nothing.
+    /// By invariant name; an unknown name changes nothing.
     void SetUnitSymbol(const QString& name);
-    // The human-readable name of a symbol, empty when there is none.
+    /// The human-readable name of a symbol, empty when there is none.
     QString GetUnitDisplayName(int symbol) const;
 
     bool GetUnitSymbolDisplayEnabled() const;
-    // Notifies even when the flag does not change, but only when the formatter
-    // accepts the matching formatting string.
+    /// Notifies even when the flag does not change, but only when the formatter
+    /// accepts the matching formatting string.
     void SetUnitSymbolDisplayEnabled(bool enabled);
 
     int GetDecimalPrecision() const;
@@ -69,8 +69,8 @@ public:
 
     QString GetDecimalSeparator() const;
     QString GetGroupSeparator() const;
-    // An empty text selects the system locale's separator; the notification
-    // still carries the text as passed.
+    /// An empty text selects the system locale's separator; the notification
+    /// still carries the text as passed.
     void SetDecimalSeparator(const QString& separator);
     void SetGroupSeparator(const QString& separator);
     void SetSeparators(const QString& decimalSeparator, const QString& groupSeparator);
@@ -78,10 +78,10 @@ public:
     NumberFormat GetNumberFormatId() const;
     void SetNumberFormatId(NumberFormat format);
     QString GetNumberFormatW() const;
-    // By invariant name ("Decimal", "Scientific"); unknown names change nothing.
+    /// By invariant name ("Decimal", "Scientific"); unknown names change nothing.
     void SetNumberFormat(const QString& name);
 
-    // Always notify, also when the flag stays the same.
+    /// Always notify, also when the flag stays the same.
     void ShowPositiveNumberSign(bool show);
     void ShowPositiveExponentSign(bool show);
 
@@ -89,14 +89,14 @@ public:
     const UnitsFormatter& GetFormatter() const;
 
 protected:
-    // Returns whether the value changed; notifies only when asked to.
+    /// Returns whether the value changed; notifies only when asked to.
     bool SetValue(double value, bool notify);
 
-    // Parses user text into a value in the unit type; false when it cannot be
-    // read (the value argument must not be used then).
+    /// Parses user text into a value in the unit type; false when it cannot be
+    /// read (the value argument must not be used then).
     virtual bool ValidateValue(const QString& text, double& value);
-    // Formats with the own formatter; returns the format used, or -1 with an
-    // empty text on failure.
+    /// Formats with the own formatter; returns the format used, or -1 with an
+    /// empty text on failure.
     virtual NumberFormat GetLocaleStringFromValue(double value, QString& text) const;
     virtual double GetTolerance() const;
 
@@ -111,7 +111,7 @@ protected:
     bool HasDegreeMinuteSecond(UnitSymbol symbol) const;
     bool HasFraction(UnitSymbol symbol) const;
 
-    // The smallest step the display can show at a precision.
+    /// The smallest step the display can show at a precision.
     double CalculateStepForDegreeMinuteSecond(int precision) const;
     double CalculateStepForFraction(int precision) const;
 
