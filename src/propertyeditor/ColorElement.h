@@ -7,7 +7,7 @@
 namespace Kavrel::UICore {
 
 /// A colour swatch editing the Color attribute through its pop-up picker:
-/// <ColorElement Id="tint" Label="Tint" Color="Binding(Tint)" IsAlphaEnabled="True"/>.
+/// `<ColorElement Id="tint" Label="Tint" Color="Binding(Tint)" IsAlphaEnabled="True"/>`.
 /// Color is "#rrggbb" or "#rrggbbaa" (or a binding); IsAlphaEnabled (default
 /// False) lets the picker change the alpha. Each change in the picker is
 /// written back as it is made, so the source follows the picker live; Escape

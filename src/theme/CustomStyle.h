@@ -44,12 +44,19 @@ class KVUICORE_EXPORT CustomStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    /// The shared style that controls install on themselves; created on first use.
     static CustomStyle* GetInstance();
 
+    /// The class name of the library's drop-down menu, whose items this style paints.
     static constexpr const char* DropDownMenuClassName = "Kavrel::UICore::DropDownMenu";
+    /// A menu with this dynamic property set to true gets the drop-down menu's look.
     static constexpr const char* DropDownMenuProperty = "kvDropDownMenu";
+    /// Set to true by the drop-down menu while the standard menu painting runs;
+    /// CE_MenuItem then paints nothing.
     static constexpr const char* StandardMenuPaintProperty = "kvStandardMenuPaint";
+    /// An action with this dynamic property set to true is painted as a group label.
     static constexpr const char* GroupLabelProperty = "kvGroupLabel";
+    /// A check box with this property true is drawn whole and keeps its own tool tip.
     static constexpr const char* AlwaysShowTooltipProperty = "alwaysShowTooltip";
 
     /// The tool tip the label rule gives a check box painted by this style: ""

@@ -22,11 +22,18 @@ public:
 
     /// Fixed metrics at design size, not theme keys.
     static const QSize ButtonDefaultSize;
+    /// The size of a normal icon, 16 by 16.
     static const QSize NormalIconSize;
+    /// The gap between a button's icon and its border, 2 by 2.
     static const QPoint Button_IconGapToBorder;
+    /// The height of a palette title bar, 20.
     static const int TitleBarHeight;
+    /// The width of a title bar's close button, 14.
     static const int TitleBarCloseButtonWidth;
+    /// The margin around a title bar's close button, 4.
     static const int TitleBarCloseButtonMargin;
+    /// The horizontal corner radius of rounded frames, 1.
     static const int xRadius;
+    /// The vertical corner radius of rounded frames, 1.
     static const int yRadius;
 };

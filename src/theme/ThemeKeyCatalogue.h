@@ -22,10 +22,15 @@ enum class ThemeKeyUse
     HostOnly,     ///< used only by theme files and hosts
 };
 
+/// One theme key: its ThemeFileKey member name, its text in theme files and how the
+/// library reads it.
 struct ThemeKeyEntry
 {
+    /// The name of the ThemeFileKey member.
     const char* member;
+    /// The key's text in theme files.
     const char* text;
+    /// The getter the library reads the key with.
     ThemeKeyUse use;
 };
 

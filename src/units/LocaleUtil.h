@@ -23,6 +23,8 @@ public:
     /// The Windows locale identifier of a locale name ('-' or '_' accepted,
     /// case-insensitive); 0 for a name the table does not know.
     static std::uint32_t LocaleNameToLCID(const QString& localeName);
+    /// The locale name ("de-DE") of a Windows locale identifier; empty for an identifier the table does
+    /// not know.
     static QString LCIDToLocaleName(std::uint32_t lcid);
 
     /// The three-letter ISO 639-2 language name ("deu" for "de-DE"); the language
@@ -34,7 +36,7 @@ public:
 
     /// The path of the translation file for a base name and locale in a folder.
     /// Naming rule, first existing file wins:
-    ///   <dir>/<base>_<ll_CC>.qm, <dir>/<base>_<ll>.qm, <dir>/<base>.qm,
+    ///   `<dir>/<base>_<ll_CC>.qm`, `<dir>/<base>_<ll>.qm`, `<dir>/<base>.qm`,
     /// tried for the base name and then for the second base name, where ll_CC is
     /// Qt's locale name ("de_DE") and ll its language ("de"). Base names that
     /// already carry the language, as Qt's "qt_de", are found by the last form.

@@ -23,7 +23,9 @@ public:
     static double _round(double value);
     /// Rounds to the given number of decimals, half away from zero.
     static double _round(double value, int decimals);
+    /// base raised to exponent, as std::pow.
     static double _pow(double base, double exponent);
+    /// The absolute value, as std::fabs.
     static double _fabs(double value);
 };
 

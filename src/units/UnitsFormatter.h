@@ -56,7 +56,9 @@ public:
     /// numeric format Decimal, positive sign "+" shown in exponents but not in
     /// numbers, two-digit exponents allowed, unitless default unit and symbol.
     explicit UnitsFormatter(const wchar_t* localeName = nullptr);
+    /// A formatter with the other's settings and custom formatting strings.
     UnitsFormatter(const UnitsFormatter& other);
+    /// Takes over the other's settings and custom formatting strings.
     UnitsFormatter& operator=(const UnitsFormatter& other);
     ~UnitsFormatter();
 
@@ -71,16 +73,21 @@ public:
     /// Reads `text` into `value`, measured in `unit` (0 for the default unit).
     ErrorCode Parse(const wchar_t* text, double& value, int unit) const;
 
+    ///@{
     /// Any value is kept and read back as set; one outside the known formats
     /// writes as kNumberFormatDecimal.
     NumberFormat GetNumericFormat() const;
     ErrorCode SetNumericFormat(NumberFormat format);
+    ///@}
 
+    ///@{
     /// Any value is kept and read back as set; numbers are written with it
     /// limited to 0 to 15. Fractions use denominators up to 2^precision.
     int GetNumberDecimalPrecision() const;
     ErrorCode SetNumberDecimalPrecision(int precision);
+    ///@}
 
+    ///@{
     /// Getters copy into the caller's buffer (terminated) and report
     /// kBufferTooSmall when it cannot hold the text. The separator setters
     /// refuse only null and empty text: separators of any length are kept, and
@@ -95,18 +102,30 @@ public:
     ErrorCode SetNumberGroupSeparator(const wchar_t* separator);
     ErrorCode GetPositiveSign(wchar_t* buffer, std::size_t length) const;
     ErrorCode SetPositiveSign(const wchar_t* sign);
+    ///@}
 
+    /// Whether positive numbers are written with the positive sign; off by default.
     bool IncludePositiveSignInNumber() const;
+    /// Writes positive numbers with the positive sign, or without.
     void SetIncludePositiveSignInNumber(bool include);
+    /// Whether positive exponents are written with the positive sign; on by default.
     bool IncludePositiveSignInExponent() const;
+    /// Writes positive exponents with the positive sign, or without.
     void SetIncludePositiveSignInExponent(bool include);
     /// Two-digit exponents ("E+07") when allowed, three digits ("E+007") otherwise.
     bool AllowTwoDigitExponent() const;
+    /// Allows two-digit exponents, or asks for three digits.
     void SetAllowTwoDigitExponent(bool allow);
 
+    /// The unit type that unit 0 of Format and Parse stands for.
     int GetDefaultUnit() const;
+    /// Sets the unit type that unit 0 stands for; kUnknownUnit, the default unchanged, for a type the
+    /// component does not know.
     ErrorCode SetDefaultUnit(int unit);
+    /// The symbol that symbol 0 of Format stands for.
     int GetDefaultSymbol() const;
+    /// Sets the symbol that symbol 0 stands for; kUnknownUnit, the default unchanged, for an unknown
+    /// symbol.
     ErrorCode SetDefaultSymbol(int symbol);
 
     /// The formatting string in use for a symbol (custom or the library's).
@@ -121,6 +140,8 @@ public:
     /// Human-readable name of a symbol or unit type ("Feet and fractional
     /// inches"). The length counts the terminator.
     ErrorCode GetDisplayNameLength(int symbol, std::size_t& length) const;
+    /// Copies the display name into the buffer (terminated); kUnknownUnit for an unknown symbol or
+    /// type, kBufferTooSmall when the buffer cannot hold it.
     ErrorCode GetDisplayName(int symbol, wchar_t* buffer, std::size_t length) const;
 
 private:

@@ -19,15 +19,19 @@ public:
     static bool Initialize();
     /// Destroys the instance; a later GetInstance() builds a fresh one.
     static bool Uninitialize();
+    /// Whether Initialize was called and Uninitialize not since.
     static bool IsInitialized();
+    /// The instance, created on first use with the system locale.
     static UnitsManager* GetInstance();
 
     /// The name in the form "en-US" or "en_US"; empty selects the system locale.
     void SetCurrentLocale(const wchar_t* localeName);
+    /// The locale in use in the form "en-US": the one set, or the system's.
     QString GetCurrentLocale() const;
     /// The current locale's decimal point and group separator; new formatters
     /// start with them.
     QString GetDecimalSeparator() const;
+    /// The current locale's group separator; new formatters start with it.
     QString GetGroupSeparator() const;
 
     ~UnitsManager();

@@ -13,7 +13,9 @@ class KVCOREUNITS_EXPORT UnitsUtilities
 public:
     UnitsUtilities() = delete;
 
+    /// Whether the component knows the unit type.
     static bool IsUnit(int type);
+    /// Whether the component knows the symbol.
     static bool IsUnitSymbol(int symbol);
     /// The unit type a symbol writes; kUnknownUnit for an unknown symbol.
     static ErrorCode GetUnitType(UnitSymbol symbol, kvp::IDesignPropertyUnits::teType& type);
@@ -27,6 +29,7 @@ public:
 
     /// Every unit type and every symbol the component knows, in table order.
     static QList<kvp::IDesignPropertyUnits::teType> GetAllUnits();
+    /// Every symbol the component knows, in table order.
     static QList<UnitSymbol> GetAllSymbols();
 };
 

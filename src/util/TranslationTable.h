@@ -21,11 +21,11 @@ class TranslationTableImp;
 /// or ".xliff" names the file itself, relative to F unless it is absolute.
 /// File names match without regard to case.
 ///
-/// In the file every <trans-unit> gives one entry: its "id" attribute is the
+/// In the file every `<trans-unit>` gives one entry: its "id" attribute is the
 /// id (the "resname" attribute counts as a second id), the text of its
-/// <target> the translation. Units without an id or with an empty target are
+/// `<target>` the translation. Units without an id or with an empty target are
 /// skipped, and so are units that the file marks translate="no". XLIFF 2
-/// files are read the same way: a <unit> gives one entry, the targets of its
+/// files are read the same way: a `<unit>` gives one entry, the targets of its
 /// segments joined.
 ///
 /// An id without a translation reads as the id itself.
@@ -39,13 +39,18 @@ class TranslationTableImp;
 class KVUICORE_EXPORT TranslationTable
 {
 public:
+    /// The largest translation file read, in bytes.
     static constexpr qint64 kMaxFileSize = 16 * 1024 * 1024;
+    /// The deepest nesting of elements in a translation file.
     static constexpr int kMaxDepth = 256;
+    /// The most attributes one element of a translation file may carry.
     static constexpr int kMaxAttributes = 256;
 
+    /// An empty table of that name; Load reads its file.
     explicit TranslationTable(const QString& name = QString());
     ~TranslationTable();
 
+    /// The table's name, the base of its translation file names.
     QString GetName() const;
     /// A different name empties the table; names that differ only in case
     /// are different names (the cache, not the table, ignores case).
@@ -53,9 +58,13 @@ public:
 
     /// The translation of the id, or the id itself.
     QString GetText(const QString& id) const;
+    /// Whether the table has a translation for the id.
     bool Contains(const QString& id) const;
+    /// The number of entries.
     int GetCount() const;
+    /// Adds or replaces the translation of an id.
     void Insert(const QString& id, const QString& text);
+    /// Removes every entry and forgets what the table was loaded for.
     void Clear();
 
     /// The translation file for the table's name and the current locale, by

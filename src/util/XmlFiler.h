@@ -78,11 +78,16 @@ using XmlWordTable = QList<QPair<int, QString>>;
 class KVUICORE_EXPORT XmlFiler
 {
 public:
+    /// The largest file the filer reads, in bytes.
     static constexpr qint64 kMaxFileSize = 8 * 1024 * 1024;
+    /// The deepest nesting of elements the filer reads or writes.
     static constexpr int kMaxDepth = 256;
+    /// The most attributes one element may carry.
     static constexpr int kMaxAttributes = 256;
+    /// The most nodes (attributes included) a document may hold.
     static constexpr int kMaxNodes = 500000;
 
+    /// An empty filer: no document, no file name, no cursor.
     XmlFiler();
     ~XmlFiler();
 
@@ -124,15 +129,22 @@ public:
     /// or when it is nested deeper than kMaxDepth.
     QString ToString() const;
 
+    /// The remembered file name; empty for a parsed text or a new filer.
     QString GetFileName() const;
+    /// The document (shared, not copied); changes made through it are not replayed on a save that
+    /// merges.
     QDomDocument GetDocument() const;
+    /// The cursor; null in an empty document.
     QDomElement GetCurrentElement() const;
     /// Moves the cursor to an element of this filer's document; a null or
     /// foreign element is refused.
     bool SetCurrentElement(const QDomElement& element);
+    /// The tag name of the current element; empty when there is none.
     QString GetElementName() const;
 
+    /// Whether the document changed since it was read or last saved.
     bool IsModified() const;
+    /// Marks the document as modified, or as saved.
     void SetModified(bool modified);
     /// The time of the last save through Save() or SaveIfModified(); invalid
     /// before the first one.
@@ -140,19 +152,33 @@ public:
 
     /// The table that tr(id) texts are translated with; not owned, may be null.
     void SetTranslationTable(TranslationTable* table);
+    /// The table tr(id) texts are translated with; null when none is set.
     TranslationTable* GetTranslationTable() const;
     /// When off, tr(id) texts are returned as written. On by default.
     void SetTranslate(bool translate);
+    /// Whether tr(id) texts are translated.
     bool IsTranslate() const;
 
     // ---- Navigation ---------------------------------------------------------
 
+    /// Moves the cursor to the document element (the root of the innermost RootScope); false in an
+    /// empty document.
     bool GoToDocumentElement();
+    /// Moves the cursor to the first child element; false, the cursor unchanged, when there is none.
     bool GoToFirstChild();
+    /// Moves the cursor to the first child element of that name; false, the cursor unchanged, when
+    /// there is none.
     bool GoToFirstChild(const QString& name);
+    /// Moves the cursor to the next sibling element; false, the cursor unchanged, when there is none.
     bool GoToNextSibling();
+    /// Moves the cursor to the next sibling element of that name; false, the cursor unchanged, when
+    /// there is none.
     bool GoToNextSibling(const QString& name);
+    /// Moves the cursor to the parent element; false, the cursor unchanged, at the document element or
+    /// the root of a RootScope.
     bool GoToParent();
+    /// Moves the cursor along a path (see the class description); false, the cursor unchanged, when a
+    /// component does not exist.
     bool GoToPath(const QString& path);
     /// The element that plays the part of the document element: the root of
     /// the innermost RootScope, or the document element.
@@ -168,6 +194,7 @@ public:
     class KVUICORE_EXPORT RootScope
     {
     public:
+        /// Makes root play the part of the filer's document element until the scope ends.
         RootScope(XmlFiler& filer, const QDomElement& root);
         ~RootScope();
 
@@ -179,14 +206,21 @@ public:
 
     /// Pushes the cursor; RestorePosition pops it (false when nothing was pushed).
     void RememberPosition();
+    /// Moves the cursor back to the position last remembered; false when nothing is remembered.
     bool RestorePosition();
+    /// The number of child elements of the current element.
     int GetChildElementCount() const;
 
     // ---- Reading the current element ----------------------------------------
 
+    /// Whether the current element has the attribute.
     bool HasAttribute(const QString& name) const;
+    /// The names of the current element's attributes; empty without a current element.
     QStringList GetAttributeNames() const;
-    /// The value, translated when it has the form tr(id).
+    ///@{
+    /// The attribute of the current element read in the type's text form (see
+    /// the class description); the default when it is absent, empty or
+    /// malformed. A string of the form tr(id) is translated.
     QString ReadString(const QString& name, const QString& defaultValue = QString()) const;
     int ReadInt(const QString& name, int defaultValue = 0) const;
     uint ReadUInt(const QString& name, uint defaultValue = 0) const;
@@ -200,6 +234,7 @@ public:
     QRect ReadRect(const QString& name, const QRect& defaultValue = QRect()) const;
     QSize ReadSize(const QString& name, const QSize& defaultValue = QSize()) const;
     QPoint ReadPoint(const QString& name, const QPoint& defaultValue = QPoint()) const;
+    ///@}
     /// The value of the word the attribute holds; the default for an absent or
     /// empty attribute or a word not in the table.
     int ReadEnum(const QString& name, const XmlWordTable& table, int defaultValue) const;
@@ -227,11 +262,15 @@ public:
     bool RemoveCurrentElement();
     /// Removes every child element of that name (all child nodes for an empty name).
     int RemoveChildren(const QString& name = QString());
+    /// Removes the attribute; false when there is no current element or it has no such attribute.
     bool RemoveAttribute(const QString& name);
     /// Parses an XML fragment (any number of nodes) and appends its nodes to
     /// the current element.
     bool InsertFragment(const QString& fragment);
 
+    ///@{
+    /// Sets the attribute of the current element in the value's text form (see the class description)
+    /// and marks the document modified; false without a current element or for an empty name.
     bool WriteString(const QString& name, const QString& value);
     bool WriteInt(const QString& name, int value);
     bool WriteUInt(const QString& name, uint value);
@@ -245,6 +284,7 @@ public:
     bool WriteRect(const QString& name, const QRect& value);
     bool WriteSize(const QString& name, const QSize& value);
     bool WritePoint(const QString& name, const QPoint& value);
+    ///@}
     /// Writes the table's word for the value; false when the table has none.
     bool WriteEnum(const QString& name, const XmlWordTable& table, int value);
     /// Writes the words whose values are all contained in the value, joined by
@@ -255,6 +295,7 @@ public:
     /// Text of blanks only is kept as CDATA: a text node of blanks alone would
     /// not survive reading the file again.
     bool WriteElementText(const QString& text, bool asCData = false);
+    /// Replaces the element's text content with the data in Base64; false without a current element.
     bool WriteBinary(const QByteArray& data);
 
     // ---- Translation ------------------------------------------------------------
