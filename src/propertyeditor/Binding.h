@@ -39,7 +39,9 @@ class KVUICORE_EXPORT Binding : public QObject
     Q_OBJECT
 
 public:
+    /// An unbound binding without expression, holding an invalid literal.
     explicit Binding(QObject* parent = nullptr);
+    /// A binding to a property of source, as SetSource.
     Binding(QObject* source, const QString& property, QObject* parent = nullptr);
     /// A string value in call form becomes the expression; any other value is
     /// held as a literal converted to the type: "True"/"False" (any case, or
@@ -57,13 +59,17 @@ public:
 
     /// Sets the expression; false when the text doesn't have the call form.
     bool SetExpression(const QString& expression);
+    /// The expression; empty for a literal or a binding made with a source.
     QString GetExpression() const;
 
     /// Binds to a property of an object; a property that is missing or not
     /// readable leaves the binding unbound. A null object unbinds.
     void SetSource(QObject* source, const QString& property);
+    /// The object bound to; null when unbound.
     QObject* GetSource() const;
+    /// The name of the property bound to; empty when unbound.
     QString GetSourceProperty() const;
+    /// Whether the binding follows a source property.
     bool IsBound() const;
 
     /// The source property's value when bound, the literal otherwise.
@@ -72,6 +78,7 @@ public:
     /// literal; nothing happens when it equals the current value.
     bool SetValue(const QVariant& value);
 
+    ///@{
     /// The type of the value; for a bound binding the property's type, with
     /// UserType standing for every type above it. The second form also gives
     /// the full meta-type id.
@@ -79,12 +86,14 @@ public:
     QT_WARNING_DISABLE_DEPRECATED
     QVariant::Type GetValueType() const;
     QVariant::Type GetValueType(int& typeId) const;
+    ///@}
     QT_WARNING_POP
-    // The same type as a meta-type.
+    /// The same type as a meta-type.
     QMetaType::Type GetValueMetaType() const;
 
     /// The context that expressions are resolved against; not owned.
     void SetContext(BindingContext* context);
+    /// The context expressions are resolved against; null when none is set.
     BindingContext* GetContext() const;
 
     /// Resolves the expression if it isn't resolved yet.
@@ -94,7 +103,12 @@ public:
     static bool IsExpression(const QString& text);
 
 Q_SIGNALS:
+    /// The value changed: the source property notified a change, the binding
+    /// was bound to another source or lost its source, or a new literal was
+    /// stored.
     void ValueChanged();
+    /// Follows ValueChanged for a bound binding's change and for binding to
+    /// another source or losing it; not for a new literal.
     void BindingModified();
 
 private:

@@ -15,6 +15,7 @@ class KVUICORE_EXPORT BindingContext : public QObject
     Q_OBJECT
 
 public:
+    /// A context that knows no objects.
     explicit BindingContext(QObject* parent = nullptr);
     ~BindingContext() override;
 
@@ -24,6 +25,7 @@ public:
     virtual QObject* GetContextObject(const QString& name) const;
 
 Q_SIGNALS:
+    /// A lookup may give another answer now; bindings resolve again.
     void ContextChanged();
 };
 

@@ -10,10 +10,13 @@ class KVUICORE_EXPORT ComboBoxElement : public ListElement
     Q_OBJECT
 
 public:
+    /// A combo box element without items.
     explicit ComboBoxElement(QObject* parent = nullptr);
     ~ComboBoxElement() override;
 
 protected Q_SLOTS:
+    /// Writes the chosen item back through the Current binding (connected to the combo
+    /// box); ignored while the items are being replaced.
     void ComboBoxCurrentIndexChanged(int index);
 
 protected:

@@ -17,11 +17,15 @@ class ListItemImp;
 class KVUICORE_EXPORT ListItem
 {
 public:
+    /// An item with a text, an image and a value.
     ListItem(const QString& text = QString(), const QImage& image = QImage(), const QVariant& value = QVariant());
     ~ListItem();
 
+    /// The item's text.
     QString GetText() const;
+    /// The item's image; null when it has none.
     QImage GetImage() const;
+    /// The item's value; invalid when it has none.
     QVariant GetValue() const;
 
 private:

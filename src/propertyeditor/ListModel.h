@@ -24,16 +24,20 @@ class KVUICORE_EXPORT ListModel : public QAbstractListModel
     Q_OBJECT
 
 public:
+    /// An empty list.
     explicit ListModel(QObject* parent = nullptr);
     ~ListModel() override;
 
     /// Takes ownership; a null item is ignored.
     void Add(ListItem* item);
+    /// Appends an item with this text.
     void Add(const QString& text);
+    /// Appends an item with this text, image and value.
     void Add(const QString& text, const QImage& image, const QVariant& value);
 
     /// The item of that row, or null.
     ListItem* GetItem(int row) const;
+    /// The number of items.
     int GetCount() const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

@@ -10,6 +10,7 @@ class KVUICORE_EXPORT PageElement : public PropertyEditorElement
     Q_OBJECT
 
 public:
+    /// An empty page.
     explicit PageElement(QObject* parent = nullptr);
     ~PageElement() override;
 

@@ -10,6 +10,7 @@ class KVUICORE_EXPORT PanelElement : public PropertyEditorElement
     Q_OBJECT
 
 public:
+    /// An empty panel.
     explicit PanelElement(QObject* parent = nullptr);
     ~PanelElement() override;
 

@@ -56,11 +56,16 @@ class KVUICORE_EXPORT PropertyEditor : public QWidget
     Q_OBJECT
 
 public:
+    /// The largest definition file read, in bytes (the XML filer's limit).
     static constexpr qint64 kMaxDefinitionFileSize = XmlFiler::kMaxFileSize;
+    /// The deepest element nesting of a definition (the XML filer's limit).
     static constexpr int kMaxDefinitionDepth = XmlFiler::kMaxDepth;
+    /// The most attributes one element of a definition may carry (the XML filer's limit).
     static constexpr int kMaxAttributesPerElement = XmlFiler::kMaxAttributes;
+    /// The deepest nesting of groups and panels below the page.
     static constexpr int kMaxNestingDepth = 64;
 
+    /// An editor with an empty page.
     explicit PropertyEditor(QWidget* parent = nullptr);
     ~PropertyEditor() override;
 
@@ -80,13 +85,20 @@ public:
     /// application. Definitions are not validated against it.
     static QString GetSchemaFile();
 
+    /// The page holding the loaded elements; never null.
     PageElement* GetPage() const;
     /// The element of the page with that Id (without regard to case), or null.
     QObject* FindElement(const QString& id) const;
 
+    /// Sets the default object of the editor's context: names in bindings are its
+    /// properties.
     void SetContextObject(QObject* object);
+    /// Sets a named object of the editor's context (null removes the name).
     void SetContextObject(const QString& name, QObject* object);
+    /// The default object of the editor's context; null when none.
     QObject* GetContextObject() const;
+    /// The object the editor's context gives for a name (the page's elements by Id
+    /// included); null when none.
     QObject* GetContextObject(const QString& name) const;
     /// The context that the page's bindings resolve against.
     PropertyEditorContext* GetContext() const;

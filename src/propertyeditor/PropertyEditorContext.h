@@ -25,17 +25,22 @@ class KVUICORE_EXPORT PropertyEditorContext : public BindingContext
     Q_OBJECT
 
 public:
+    /// An empty context without a parent.
     explicit PropertyEditorContext(QObject* parent = nullptr);
+    /// An empty context asking parentContext for what it doesn't know.
     explicit PropertyEditorContext(BindingContext* parentContext, QObject* parent = nullptr);
     ~PropertyEditorContext() override;
 
     /// A context that has this one above it is refused.
     bool SetParentContext(BindingContext* parentContext);
+    /// The parent context; null when none.
     BindingContext* GetParentContext() const;
 
+    /// Sets the default object (null: none) and reports a change.
     void SetContextObject(QObject* object);
     /// A null object removes the name.
     void SetContextObject(const QString& name, QObject* object);
+    /// The names set, sorted without regard to case.
     QStringList GetContextObjectNames() const;
 
     QObject* GetContextObject() const override;
@@ -43,6 +48,7 @@ public:
 
     /// Asked for names that were not set, before the parent context.
     using Resolver = std::function<QObject*(const QString& name)>;
+    /// Sets the function asked for names that were not set, and reports a change.
     void SetResolver(Resolver resolver);
 
     /// Tells the bindings that lookups may give other answers now (for
@@ -50,12 +56,14 @@ public:
     void NotifyContextChanged();
 
 public Q_SLOTS:
+    /// Passes a change of the parent context on as this context's change.
     void ParentContextChanged();
 
 protected:
     /// The object set under that name or given by the resolver, without
     /// asking the parent context.
     QObject* FindLocalContextObject(const QString& name) const;
+    /// The default object set on this context, without asking the parent; null when none.
     QObject* GetLocalDefaultObject() const;
 
 private:

@@ -21,11 +21,15 @@ class KVUICORE_EXPORT PropertyEditorSourceContext : public PropertyEditorContext
     Q_OBJECT
 
 public:
+    /// A context around source (may be null), asking parentContext for what it doesn't
+    /// know.
     explicit PropertyEditorSourceContext(QObject* source = nullptr, BindingContext* parentContext = nullptr,
                                          QObject* parent = nullptr);
     ~PropertyEditorSourceContext() override;
 
+    /// Makes source the default object and the start of name paths, and reports a change.
     void SetSourceObject(QObject* source);
+    /// The source object; null when none.
     QObject* GetSourceObject() const;
 
     QObject* GetContextObject() const override;

@@ -13,6 +13,7 @@ class KVUICORE_EXPORT RadioButtonGroupElement : public ListElement
     Q_OBJECT
 
 public:
+    /// A radio button group without items.
     explicit RadioButtonGroupElement(QObject* parent = nullptr);
     ~RadioButtonGroupElement() override;
 
@@ -20,6 +21,8 @@ public:
     QButtonGroup* GetButtonGroup() const;
 
 protected Q_SLOTS:
+    /// Writes the newly checked item back through the Current binding (connected to the
+    /// buttons).
     void RadioButtonGroupCurrentIndexChanged(bool checked);
 
 protected:

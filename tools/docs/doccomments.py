@@ -140,7 +140,7 @@ def convert(lines):
             else:
                 pending += ch
         pending += " "
-        if re.match(r"^\s*Q_[A-Z_]+\b[^;]*$", code) and code.count("(") == code.count(")"):
+        if re.match(r"^\s*QT?_[A-Z_]+\b[^;]*$", code) and code.count("(") == code.count(")"):
             pending = ""  # Qt's declaration macros end without a semicolon
     return out
 
