@@ -9,6 +9,7 @@ namespace Kavrel::UICore {
 class KVUICORE_EXPORT MessageBoxProvider : public IMessageBoxProvider
 {
 public:
+    /// The library's provider.
     MessageBoxProvider();
     ~MessageBoxProvider() override;
 

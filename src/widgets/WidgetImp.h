@@ -38,25 +38,36 @@ public:
     /// The position in the host's pixels: native pixels of the parent window
     /// when the widget sits in a native window.
     int GetX() const;
+    /// The vertical position, as GetX.
     int GetY() const;
+    /// The width of the host widget; 0 without one.
     int GetWidth() const;
+    /// The height of the host widget; 0 without one.
     int GetHeight() const;
+    /// The widget's minimum height.
     int GetMinimumHeight();
+    /// The native handle of the host widget's window; null without a host widget.
     HWND GetWinId() const;
+    /// Whether the host widget is enabled.
     bool IsEnabled() const;
+    /// Whether the host widget is visible.
     bool IsVisible() const;
 
     /// Moves the host widget; the position is used as given.
     void Move(int x, int y);
+    /// Emits Resizing, then resizes the host widget.
     void Resize(int width, int height);
     /// In a native window on a scaled screen the position is taken as native
     /// pixels and scaled down, the size is used as given: intended.
     void Resize(int x, int y, int width, int height);
+    /// Shows the host widget.
     void Show();
+    /// Hides the host widget.
     void Hide();
 
     /// Calls BorderVisibleChanged() every time, also when nothing changed.
     void ShowBorder(bool show);
+    /// Whether the border is shown (see ShowBorder).
     bool IsBorderVisible();
     /// True when the widget sits in a native window through a wrapper.
     bool IsParentWindowsNativeWindow();
@@ -87,7 +98,9 @@ public:
     bool SaveState(const QString& filePath, const QString& nodePath) const;
 
 public Q_SLOTS:
+    /// Shows or hides the host widget.
     virtual void SetVisible(bool visible);
+    /// Enables or disables the host widget.
     virtual void SetEnabled(bool enabled);
 
 Q_SIGNALS:
@@ -95,16 +108,24 @@ Q_SIGNALS:
     void Resizing(int width, int height);
 
 protected:
+    /// Reads the subclass's state from its element; the default reads nothing.
     virtual void LoadState(QDomElement& element);
+    /// Writes the subclass's state into its element; the default writes nothing.
     virtual void SaveState(QDomElement& element) const;
     /// The tag of the string form; empty switches the string form off.
     virtual QString StateNodeId() const;
+    /// Called by ShowBorder; a subclass shows or hides its border. The default does
+    /// nothing.
     virtual void BorderVisibleChanged();
 
     /// Absent or empty gives the default; text that is not a number reads as 0.
     bool GetBoolAttribute(QDomElement& element, const QString& name, bool defaultValue);
+    /// An integer attribute; absent or empty gives the default, text that is not a number
+    /// reads as 0.
     int GetIntAttribute(QDomElement& element, const QString& name, int defaultValue);
+    /// Writes a bool attribute as "1" or "0".
     void SetBoolAttribute(QDomElement& element, const QString& name, bool value) const;
+    /// Writes an integer attribute in decimal.
     void SetIntAttribute(QDomElement& element, const QString& name, int value) const;
 
 private:
