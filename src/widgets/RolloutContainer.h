@@ -20,36 +20,51 @@ class KVUICORE_EXPORT RolloutContainer : public QWidget
     Q_OBJECT
 
 public:
+    /// An expanded container without title, not checkable.
     explicit RolloutContainer(QWidget* parent = nullptr);
     ~RolloutContainer() override;
 
     /// Setting the title does not repaint by itself.
     void SetTitle(QString const& title);
+    /// The title.
     QString GetTitle() const;
     /// The tooltip of the title bar while the title is shown whole; a cut title
     /// shows the full title instead.
     void SetTitleToolTip(QString const& toolTip);
+    /// Where a title that does not fit is cut.
     void SetElideMode(Qt::TextElideMode mode);
+    /// Where a title that does not fit is cut.
     Qt::TextElideMode GetElideMode() const;
 
+    /// Shows or hides the check box in the title bar.
     void SetIsCheckable(bool checkable);
+    /// Whether the title bar has a check box.
     bool IsCheckable() const;
+    /// Whether the title's check box is checked.
     bool IsChecked() const;
+    /// Enables or disables the title's check box.
     void SetCheckboxEnabled(bool enabled);
+    /// Sets the tool tip of the title's check box.
     void SetCheckboxToolTip(QString const& toolTip);
 
+    /// Collapses or expands the content; emits Collapsed when that changes.
     void SetIsCollapsed(bool collapsed);
+    /// Whether the content is collapsed.
     bool IsCollapsed() const;
     /// Without the expand button the container stays expanded.
     void SetExpandButtonVisible(bool visible);
+    /// Whether the expand button shows.
     bool IsExpandButtonVisible() const;
     /// A disabled container still collapses and expands from its title.
     void SetIsExpandableWhenDisabled(bool expandable);
+    /// Whether a disabled container still collapses and expands.
     bool IsExpandableWhenDisabled() const;
+    /// How many rollout containers hold this one; the title is indented by it.
     int IndentLevel() const;
 
     /// The title bar as measured for hit tests and size hints.
     QRect GetTitleRect() const;
+    /// The height of the title bar, from the theme.
     int TitleHeight() const;
 
     /// top is kept as extra space below the title bar, also across theme
@@ -60,14 +75,18 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The content was collapsed or expanded.
     void Collapsed(bool collapsed);
+    /// The title's check box changed state.
     void CheckBoxToggled(bool checked);
+    /// The user clicked the title's check box.
     void CheckBoxClicked(bool checked);
 
 public Q_SLOTS:
     /// Checked enables the content, unchecked disables it; children the host
     /// disabled itself stay disabled either way.
     void SetChecked(bool checked);
+    /// Takes the theme's title height and colours again.
     void OnThemeChanged();
 
 protected:
