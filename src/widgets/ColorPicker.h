@@ -36,42 +36,60 @@ class ColorWheel;
 class KVUICORE_EXPORT ColorPicker : public QWidget
 {
     Q_OBJECT
+    /// The colour edited.
     Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
 
 public:
+    /// How many recent colours are kept.
     static constexpr int kMaxRecentColors = 12;
 
+    /// A colour picker without alpha.
     explicit ColorPicker(QWidget* parent = nullptr);
     ~ColorPicker() override;
 
+    /// The colour edited.
     QColor GetColor() const;
     /// Sets the colour without signals; the old colour shown follows it.
     void SetColor(const QColor& color);
     /// The colour shown as the one before editing.
     QColor GetOldColor() const;
+    /// Sets the colour shown as the one before editing.
     void SetOldColor(const QColor& color);
 
+    /// Whether the alpha can be edited.
     bool IsAlphaEnabled() const;
+    /// Shows or hides the alpha controls.
     void SetAlphaEnabled(bool enabled);
 
+    /// The colour wheel of the picker.
     ColorWheel* GetWheel() const;
 
     /// Whether the platform lets the eyedropper read the screen.
     static bool IsEyedropperSupported();
+    /// Whether the eyedropper is running.
     bool IsPicking() const;
+    /// Starts picking a colour from the screen; nothing happens while picking, when the
+    /// platform can't read the screen or when the picker is disabled.
     void StartEyedropper();
+    /// Stops picking and returns to the colour from before; nothing happens when not
+    /// picking.
     void CancelEyedropper();
 
     /// The colours recently chosen in this process, newest first.
     static QList<QColor> GetRecentColors();
+    /// Puts a colour in front of the recent colours; an invalid colour is ignored.
     static void AddRecentColor(const QColor& color);
+    /// Forgets the recent colours.
     static void ClearRecentColors();
 
 Q_SIGNALS:
+    /// The colour changed by an edit in the picker.
     void ColorChanged(const QColor& color);
+    /// An edit was finished: the colour is the one chosen.
     void ColorCommitted(const QColor& color);
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

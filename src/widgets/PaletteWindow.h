@@ -28,7 +28,9 @@ class PaletteWindowImp;
 class KVUICORE_EXPORT PaletteWindow : public WidgetImp
 {
     Q_OBJECT
+    /// The title shown in the title bar.
     Q_PROPERTY(QString title READ GetTitle WRITE SetTitle)
+    /// Whether only the title bar shows.
     Q_PROPERTY(bool collapsed READ IsCollapsed WRITE SetCollapsed NOTIFY CollapsedChanged)
 
 public:
@@ -44,17 +46,26 @@ public:
     using WidgetImp::LoadState;
     using WidgetImp::SaveState;
 
+    /// The title shown in the title bar.
     QString GetTitle() const;
+    /// Sets the title of the title bar and the window.
     void SetTitle(const QString& title);
 
     /// The palette takes ownership; a previous content widget is deleted.
     void SetContentWidget(QWidget* content);
+    /// The content widget; null when none is set.
     QWidget* GetContentWidget() const;
 
+    /// Whether only the title bar shows.
     bool IsCollapsed() const;
+    /// Collapses the palette to its title bar or expands it to its remembered height;
+    /// emits CollapsedChanged when that changes.
     void SetCollapsed(bool collapsed);
 
+    /// Whether the palette is a window of its own.
     bool IsFloating() const;
+    /// Makes the palette a window of its own at the same place on screen, or docks it
+    /// back into its parent; docking without a parent is ignored.
     void SetFloating(bool floating);
 
     /// Loads the state at once when the file holds it, and saves it whenever
@@ -64,17 +75,21 @@ public:
     /// The size when expanded (the height the palette returns to).
     QSize GetExpandedSize() const;
 
+    /// The title bar.
     PaletteTitleBar* GetTitleBar() const;
+    /// The resize grip in the corner.
     PaletteResizeButton* GetResizeButton() const;
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The palette was collapsed or expanded.
     void CollapsedChanged(bool collapsed);
     /// The close button hid the palette.
     void Closed();
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:
