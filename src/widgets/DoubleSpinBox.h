@@ -28,6 +28,7 @@ class KVUICORE_EXPORT DoubleSpinBox : public QDoubleSpinBox, public WidgetUnits
     Q_OBJECT
 
 public:
+    /// A unitless spin box; a compact one hints 56 × 24.
     explicit DoubleSpinBox(QWidget* parent = nullptr, bool compactSize = false);
     ~DoubleSpinBox() override;
 
@@ -39,6 +40,7 @@ public:
     /// 1 / 2^precision for the fractional number format, else 0.1^precision:
     /// the smallest step the display shows.
     virtual double CalculateSingleStep(int precision);
+    /// Sets the step to CalculateSingleStep of the current precision.
     virtual void ResetSingleStep();
 
     /// The line edit, a DoubleSpinBoxNumericField.
@@ -46,12 +48,15 @@ public:
 
     /// The sticky modified flag of the line edit.
     bool IsModified() const;
+    /// Clears the line edit's modified flag.
     void ClearModified();
 
     /// While set, format changes only mark that an update is due; the owner
     /// calls UpdateForUnits() once after the batch.
     void SetDeferUpdateForUnits(bool defer);
+    /// Whether format changes are being deferred.
     bool DeferUpdateForUnits() const;
+    /// Whether a deferred update is due.
     bool HaveDeferredUpdatesForUnits() const;
 
     void OnChanged_DecimalPrecision(int oldPrecision, int newPrecision) override;
@@ -76,12 +81,15 @@ public Q_SLOTS:
     virtual double GetAcceptedValue();
     /// Stores the current value() as the accepted one (on every editingFinished).
     virtual void SaveAcceptedValue();
+    /// Applies the theme's colours again.
     void OnThemeChanged();
 
 protected:
     bool ValidateValue(const QString& text, double& value) override;
 
+    /// Whether a precision change also sets the spin box's decimals; true by default.
     void SetCanChangeQtDecimals(bool canChange);
+    /// Whether a precision change also sets the spin box's decimals.
     bool CanChangeQtDecimals() const;
 
     /// Formats the current value again and clears the deferred mark.

@@ -33,24 +33,36 @@ class KVUICORE_EXPORT GradientSwatch : public QWidget
     Q_OBJECT
 
 public:
+    /// The fewest stops a gradient keeps.
     static constexpr int kMinimumStops = 2;
 
+    /// A swatch with a black to white gradient.
     explicit GradientSwatch(QWidget* parent = nullptr);
     ~GradientSwatch() override;
 
+    /// The stops, sorted by position.
     QGradientStops GetStops() const;
     /// Stops outside 0..1 are clamped, non-finite positions and invalid colours
     /// dropped, and the rest sorted; fewer than two stops become black to white.
     void SetStops(const QGradientStops& stops);
 
+    /// The selected stop's index; -1 when none is selected.
     int GetSelectedStop() const;
+    /// Selects a stop; an index out of range selects none.
     void SetSelectedStop(int index);
 
-    /// The editing operations; each returns false when it changes nothing.
-    /// AddStop returns the new stop's index (or -1).
+    /// Adds a stop at position (clamped to 0..1) with the gradient's colour
+    /// there, selects it and returns its index; -1 for a position that is not
+    /// finite. The other editing operations return false when they change
+    /// nothing.
     int AddStop(double position);
+    /// Removes a stop; refused for an index out of range or when only the fewest stops
+    /// are left.
     bool RemoveStop(int index);
+    /// Moves a stop, kept between its neighbours; refused for an index out of range or a
+    /// position that is not finite.
     bool MoveStop(int index, double position);
+    /// Sets a stop's colour; refused for an index out of range or an invalid colour.
     bool SetStopColor(int index, const QColor& color);
 
     /// The colour of the gradient at a position, each channel interpolated
@@ -60,10 +72,15 @@ public:
     /// Geometry, in widget coordinates: the bar, the tip of a stop's node, the
     /// delete icon's rectangle.
     QRect BarRect() const;
+    /// The tip of a stop's node; a null point for an index out of range.
     QPoint NodePoint(int index) const;
+    /// The rectangle of the delete icon, beside the bar.
     QRect DeleteButtonRect() const;
+    /// The gradient position under x, 0 to 1 (mirrored right to left).
     double PositionAt(int x) const;
 
+    /// Opens a colour picker for a stop; nothing happens while disabled, for an index out
+    /// of range or when a picker is open.
     void OpenStopPicker(int index);
     /// The picker open for a stop, or null.
     ColorPicker* GetPicker() const;
@@ -72,10 +89,13 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The stops changed by an edit.
     void GradientChanged(const QGradientStops& stops);
+    /// Another stop was selected; -1 when none is.
     void SelectedStopChanged(int index);
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:
