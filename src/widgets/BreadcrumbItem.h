@@ -19,22 +19,32 @@ class KVUICORE_EXPORT BreadcrumbItem : public QAbstractButton
     Q_OBJECT
 
 public:
+    /// An item showing text.
     explicit BreadcrumbItem(const QString& text = QString(), QWidget* parent = nullptr);
     ~BreadcrumbItem() override;
 
+    /// The item's level in the path, set by the bar.
     int GetLevel() const;
+    /// Sets the item's level in the path.
     void SetLevel(int level);
 
+    /// Whether the item is the path's last, current, item.
     bool IsCurrent() const;
+    /// Marks the item as the current one (shown in bold).
     void SetCurrent(bool current);
+    /// Whether the item is highlighted.
     bool IsHighlighted() const;
+    /// Highlights the item, or not.
     void SetHighlighted(bool highlighted);
 
     /// Shows the icon without the text (the text stays the tool tip and name).
     bool IsIconOnly() const;
+    /// Shows the icon without the text, or both.
     void SetIconOnly(bool iconOnly);
 
+    /// Whether the separator after the item shows.
     bool IsSeparatorVisible() const;
+    /// Shows or hides the separator after the item.
     void SetSeparatorVisible(bool visible);
     /// The separator's rectangle in the item, mirrored right to left.
     QRect SeparatorRect() const;
@@ -43,11 +53,13 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The separator was clicked; the bar opens the level's choices.
     void SeparatorActivated();
     /// Left/Right (-1/+1 in reading order), Home (INT_MIN), End (INT_MAX).
     void NavigateRequested(int step);
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

@@ -30,29 +30,39 @@ class ColorWheelImp;
 class KVUICORE_EXPORT ColorWheel : public QWidget
 {
     Q_OBJECT
+    /// The colour shown.
     Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
 
 public:
+    /// A wheel showing an opaque colour.
     explicit ColorWheel(QWidget* parent = nullptr);
     ~ColorWheel() override;
 
+    /// The colour, with the alpha set last.
     QColor GetColor() const;
+    /// Shows a colour without signals; an invalid colour is ignored.
     void SetColor(const QColor& color);
 
     /// Hue in degrees (0 up to 360), saturation and value from 0 to 1.
     double GetHue() const;
+    /// The saturation, 0 to 1.
     double GetSaturation() const;
+    /// The value, 0 to 1.
     double GetValue() const;
+    /// Shows a colour by hue, saturation and value, without signals.
     void SetHsv(double hue, double saturation, double value);
 
     /// Where the ring's marker stands for a hue, and the square's marker for a
     /// saturation and value, in widget coordinates.
     QPointF PointForHue(double hue) const;
+    /// The square's marker position for a saturation and value (clamped to 0..1).
     QPointF PointForSaturationValue(double saturation, double value) const;
+    /// The square of saturation and value, in widget coordinates.
     QRectF SquareRect() const;
 
     /// How often the ring and the square images were rendered.
     int GetRingRenderCount() const;
+    /// How often the square image was rendered.
     int GetSquareRenderCount() const;
 
     QSize sizeHint() const override;
@@ -61,10 +71,13 @@ public:
     int heightForWidth(int width) const override;
 
 Q_SIGNALS:
+    /// The colour changed by an edit in the wheel.
     void ColorChanged(const QColor& color);
+    /// An edit that changed the colour was finished.
     void ColorCommitted(const QColor& color);
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:
