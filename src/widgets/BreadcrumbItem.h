@@ -30,7 +30,7 @@ public:
 
     /// Whether the item is the path's last, current, item.
     bool IsCurrent() const;
-    /// Marks the item as the current one (shown in bold).
+    /// Marks the item as the path's current item, or not.
     void SetCurrent(bool current);
     /// Whether the item is highlighted.
     bool IsHighlighted() const;

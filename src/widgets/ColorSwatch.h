@@ -24,21 +24,31 @@ class ColorSwatchImp;
 class KVUICORE_EXPORT ColorSwatch : public QWidget
 {
     Q_OBJECT
+    /// The colour shown.
     Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    /// Whether the picker offers alpha.
     Q_PROPERTY(bool alphaEnabled READ IsAlphaEnabled WRITE SetAlphaEnabled)
 
 public:
+    /// A swatch without a colour.
     explicit ColorSwatch(QWidget* parent = nullptr);
     ~ColorSwatch() override;
 
+    /// The colour; invalid when none is set.
     QColor GetColor() const;
+    /// Shows a colour without signals; made opaque unless alpha is enabled. An invalid
+    /// colour shows none.
     void SetColor(const QColor& color);
 
     /// Whether the picker offers alpha; without it colours are made opaque.
     bool IsAlphaEnabled() const;
+    /// Lets the picker offer alpha; turning it off makes the colour opaque.
     void SetAlphaEnabled(bool enabled);
 
+    /// Opens the pop-up picker on the colour (white when none); nothing happens while
+    /// disabled or when it is open.
     void OpenPicker();
+    /// Whether the pop-up picker is open.
     bool IsPickerOpen() const;
     /// The open pop-up's picker, or null.
     ColorPicker* GetPicker() const;
@@ -47,10 +57,13 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The colour changed by an edit in the picker.
     void ColorChanged(const QColor& color);
+    /// The picker closed accepted with a colour other than the one it opened with.
     void ColorCommitted(const QColor& color);
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

@@ -32,9 +32,11 @@ class ImageSwatchImp;
 class KVUICORE_EXPORT ImageSwatch : public QWidget
 {
     Q_OBJECT
+    /// The image file shown.
     Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath)
 
 public:
+    /// What the swatch shows.
     enum State
     {
         NoImage,
@@ -44,14 +46,18 @@ public:
     };
     Q_ENUM(State)
 
+    /// A swatch without an image that accepts dropped files.
     explicit ImageSwatch(QWidget* parent = nullptr);
     ~ImageSwatch() override;
 
+    /// The image file; empty when none.
     QString GetFilePath() const;
+    /// Shows the image file; the state tells whether it could be read.
     void SetFilePath(const QString& path);
     /// Reads the file again (after it changed on disk).
     void Reload();
 
+    /// Whether the swatch shows an image, or why not.
     State GetState() const;
     /// Why the file is missing or unreadable; empty otherwise.
     QString GetStateText() const;
@@ -60,17 +66,22 @@ public:
     /// The thumbnail for the swatch's present size and screen scale.
     QImage GetThumbnail() const;
 
+    /// Whether files can be dropped on the swatch; true by default.
     bool IsDropEnabled() const;
+    /// Lets files be dropped on the swatch, or not.
     void SetDropEnabled(bool enabled);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The file shown changed, by a drop, a key or in code.
     void FilePathChanged(const QString& path);
+    /// The swatch was clicked, or Space or Return was pressed on it.
     void Activated();
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

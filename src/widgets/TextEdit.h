@@ -23,26 +23,36 @@ class TextEditImp;
 class KVUICORE_EXPORT TextEdit : public QPlainTextEdit
 {
     Q_OBJECT
+    /// The text, notified when it is committed.
     Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextCommitted USER true)
+    /// The text shown while the editor is empty.
     Q_PROPERTY(QString prompt READ GetPrompt WRITE SetPrompt)
+    /// The most characters the text may hold; 0 for no limit.
     Q_PROPERTY(int maximumLength READ GetMaximumLength WRITE SetMaximumLength)
 
 public:
+    /// An empty editor without a length limit.
     explicit TextEdit(QWidget* parent = nullptr);
     ~TextEdit() override;
 
+    /// The text as it stands, committed or not.
     QString GetText() const;
     /// Sets the text (cut to the maximum length) as the committed text; no signal.
     void SetText(const QString& text);
+    /// The text last committed or set.
     QString GetCommittedText() const;
     /// Announces the text when it differs from the committed one.
     void Commit();
 
+    /// The text shown while the editor is empty.
     QString GetPrompt() const;
+    /// Sets the text shown while the editor is empty; it also names the editor for
+    /// assistive technology.
     void SetPrompt(const QString& prompt);
 
     /// 0 (the default) for no limit; a lower limit cuts the present text.
     int GetMaximumLength() const;
+    /// Sets the most characters the text may hold (negative counts as 0, no limit).
     void SetMaximumLength(int length);
     /// The length as the limit counts it (characters, line breaks included).
     int GetLength() const;
@@ -51,9 +61,11 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// Editing finished with a text different from the committed one.
     void TextCommitted(const QString& text);
 
 public Q_SLOTS:
+    /// Applies the theme's colours again.
     void OnThemeChanged();
 
 protected:
