@@ -28,23 +28,31 @@ public:
     /// More levels are cut from the top: a path is a place, not a list.
     static constexpr int MaximumLevels = 256;
 
+    /// An empty bar.
     explicit BreadcrumbBar(QWidget* parent = nullptr);
     ~BreadcrumbBar() override;
 
+    /// Shows a path, top level first; beyond MaximumLevels the top levels are cut.
     void SetPath(const QStringList& texts);
+    /// The path shown, top level first.
     QStringList GetPath() const;
+    /// The number of levels of the path.
     int GetLevelCount() const;
 
     /// The choices at `level` (the entries of the menu of the separator before
     /// that level); an empty list hides that separator. The level after the
     /// last one holds the current level's children.
     void SetChoices(int level, const QStringList& choices);
+    /// The choices at level; empty when none are set.
     QStringList GetChoices(int level) const;
+    /// Sets the icon of the item at level; a level out of range is ignored.
     void SetItemIcon(int level, const QIcon& icon);
 
+    /// The item of a level; null for a level out of range.
     BreadcrumbItem* GetItem(int level) const;
     /// The levels folded into the overflow menu, top level first.
     QList<int> GetOverflowLevels() const;
+    /// The button of the overflow menu.
     QWidget* GetOverflowButton() const;
     /// Opens the separator menu before `level`; null when it has no choices.
     QWidget* ShowChoicesMenu(int level);
@@ -61,6 +69,7 @@ Q_SIGNALS:
     void ChoicesRequested(int level);
 
 public Q_SLOTS:
+    /// Applies the theme to the items and lays them out again.
     void OnThemeChanged();
 
 protected:

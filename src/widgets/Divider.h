@@ -15,22 +15,30 @@ class DividerImp;
 class KVUICORE_EXPORT Divider : public QWidget
 {
     Q_OBJECT
+    /// Whether the line runs horizontally or vertically.
     Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation)
+    /// The theme key of the line colour.
     Q_PROPERTY(QString colorThemeKey READ GetColorThemeKey WRITE SetColorThemeKey)
 
 public:
+    /// A line in the theme's divider colour.
     explicit Divider(Qt::Orientation orientation = Qt::Horizontal, QWidget* parent = nullptr);
     ~Divider() override;
 
+    /// Whether the line runs horizontally or vertically.
     Qt::Orientation GetOrientation() const;
+    /// Turns the line horizontal or vertical.
     void SetOrientation(Qt::Orientation orientation);
+    /// The theme key of the line colour.
     QString GetColorThemeKey() const;
+    /// Takes the line colour from another theme key.
     void SetColorThemeKey(const QString& key);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

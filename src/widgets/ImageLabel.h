@@ -16,21 +16,30 @@ class ImageLabelImp;
 class KVUICORE_EXPORT ImageLabel : public QLabel
 {
     Q_OBJECT
+    /// The theme key of the image shown.
     Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey)
+    /// The size the image is shown at.
     Q_PROPERTY(QSize imageSize READ GetImageSize WRITE SetImageSize)
 
 public:
+    /// A label without an image.
     explicit ImageLabel(QWidget* parent = nullptr);
+    /// A label showing the theme's image of a key at a size.
     explicit ImageLabel(const QString& imageThemeKey, const QSize& imageSize = QSize(16, 16),
                         QWidget* parent = nullptr);
     ~ImageLabel() override;
 
+    /// The theme key of the image shown.
     QString GetImageThemeKey() const;
+    /// Shows the theme's image of another key.
     void SetImageThemeKey(const QString& key);
+    /// The size the image is shown at.
     QSize GetImageSize() const;
+    /// Shows the image at another size.
     void SetImageSize(const QSize& size);
 
 public Q_SLOTS:
+    /// Takes the key's image from the new theme.
     void OnThemeChanged();
 
 protected:

@@ -19,20 +19,28 @@ class KVUICORE_EXPORT ItemGroup : public QObject
     Q_OBJECT
 
 public:
+    /// An empty group of normal items with a visible separator.
     explicit ItemGroup(QObject* parent = nullptr);
     ~ItemGroup() override;
 
+    /// What the group's items are.
     DropDown::ItemType GetItemType() const;
+    /// Sets what the group's items are.
     void SetItemType(DropDown::ItemType type);
+    /// The action group the items belong to.
     QActionGroup* GetActionGroup() const;
+    /// Whether the separator after the group shows.
     bool IsSeparatorVisible() const;
+    /// Shows or hides the separator after the group.
     void SetSeparatorVisible(bool visible);
 
     /// The group's actions in menu order, the trailing separator included.
     const QList<QAction*>& GetActions() const;
+    /// The group's actions in menu order, for the drop-down to change.
     QList<QAction*>& Actions();
     /// The separator between this group and the next one, or null.
     QAction* GetTrailingSeparator() const;
+    /// Sets the separator between this group and the next one (null for none).
     void SetTrailingSeparator(QAction* separator);
     /// The number of actions before the trailing separator.
     int ItemCount() const;

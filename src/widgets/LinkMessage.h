@@ -19,17 +19,22 @@ class LinkMessageImp;
 class KVUICORE_EXPORT LinkMessage : public QLabel
 {
     Q_OBJECT
+    /// The message, with its links.
     Q_PROPERTY(QString message READ GetMessage WRITE SetMessage)
 
 public:
     /// Longer messages are cut: a message is a sentence or two, not a document.
     static constexpr int MaximumMessageLength = 65536;
 
+    /// An empty message.
     explicit LinkMessage(QWidget* parent = nullptr);
+    /// A label showing message.
     explicit LinkMessage(const QString& message, QWidget* parent = nullptr);
     ~LinkMessage() override;
 
+    /// Shows a message, cut to MaximumMessageLength.
     void SetMessage(const QString& message);
+    /// The message as set (cut to MaximumMessageLength).
     QString GetMessage() const;
     /// The message as read: each link replaced by its text.
     QString GetPlainText() const;
@@ -38,15 +43,18 @@ public:
 
     /// The key of the text colour (links keep the link colour).
     void SetTextColorThemeKey(const QString& key);
+    /// The theme key of the text colour.
     QString GetTextColorThemeKey() const;
 
     /// Activates the link of that target as a click would; false when there is none.
     bool ActivateLink(const QString& target);
 
 Q_SIGNALS:
+    /// A link was activated; target is the link's target.
     void LinkActivated(const QString& target);
 
 public Q_SLOTS:
+    /// Applies the theme's text and link colours again.
     void OnThemeChanged();
 
 protected:

@@ -19,6 +19,7 @@ class KVUICORE_EXPORT PushButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// Where the mouse stands with the button, for painting.
     enum MouseState
     {
         Idle = 0,
@@ -27,13 +28,20 @@ public:
         Released = 3,
     };
 
+    /// A push button painted from the theme.
     explicit PushButton(QWidget* parent = nullptr);
     ~PushButton() override;
 
+    /// Makes the button checkable; with lockToggleOn a checked button can't be unchecked
+    /// by the user.
     void SetCheckable(bool checkable, bool lockToggleOn = false);
+    /// Whether a checked button stays checked when clicked.
     bool IsToggleOnStateLocked() const;
+    /// Shows the theme's toggle images instead of the icon, or not.
     void SetIsMiniIcon(bool miniIcon);
+    /// Whether the button shows the theme's toggle images.
     bool IsMiniIcon() const;
+    /// The MouseState the button is painted in.
     int GetMouseState() const;
 
     /// Both also lay out the icon and text rectangles.

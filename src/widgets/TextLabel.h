@@ -16,21 +16,29 @@ class TextLabelImp;
 class KVUICORE_EXPORT TextLabel : public QLabel
 {
     Q_OBJECT
+    /// The theme key of the text colour.
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
+    /// Whether the text is bold.
     Q_PROPERTY(bool bold READ IsBold WRITE SetBold)
 
 public:
+    /// An empty label in the theme's text colour.
     explicit TextLabel(QWidget* parent = nullptr);
+    /// A label showing text in the theme's text colour.
     explicit TextLabel(const QString& text, QWidget* parent = nullptr);
     ~TextLabel() override;
 
+    /// The theme key of the text colour.
     QString GetTextColorThemeKey() const;
     /// Ignored for a key the theme lacks.
     void SetTextColorThemeKey(const QString& key);
+    /// Whether the text is bold.
     bool IsBold() const;
+    /// Makes the text bold, or not.
     void SetBold(bool bold);
 
 public Q_SLOTS:
+    /// Applies the theme's text colour and font again.
     void OnThemeChanged();
 
 private:
