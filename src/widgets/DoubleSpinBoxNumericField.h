@@ -12,6 +12,7 @@ class KVUICORE_EXPORT DoubleSpinBoxNumericField : public NumericField
     Q_OBJECT
 
 public:
+    /// A field for a DoubleSpinBox.
     explicit DoubleSpinBoxNumericField(QWidget* parent = nullptr);
     ~DoubleSpinBoxNumericField() override;
 

@@ -25,19 +25,24 @@ public:
     /// that the custom style paints no items then.
     static const char* const StandardMenuPaintProperty;
 
+    /// An empty menu in the drop-down look.
     explicit DropDownMenu(QWidget* parent = nullptr);
     ~DropDownMenu() override;
 
     /// 0 or less: as wide as the items need and at least minimumListWidth.
     void SetListWidth(int width);
+    /// The width set with SetListWidth; 0 or less for the width the items need.
     int GetListWidth() const;
+    /// Sets the least width the menu takes and recomputes its width.
     void SetMinimumListWidth(int width);
     /// Paint through the style only, without the menu's own item painting.
     void SetUseDefaultPaintEvent(bool useDefault);
+    /// Whether the menu paints through the style only.
     bool IsUseDefaultPaintEvent() const;
     /// The action to highlight when the menu next shows.
     void SetActiveOnShow(QAction* action);
 
+    /// Whether the action is a group label row; false for null.
     static bool IsGroupLabel(const QAction* action);
 
     /// Recomputes the width from the items.
@@ -50,6 +55,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The mouse moved over the menu; action is the entry under it, or null.
     void MouseMoveOnMenu(QAction* action);
 
 protected:

@@ -22,16 +22,20 @@ class KVUICORE_EXPORT NumericField : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty field, not modified.
     explicit NumericField(QWidget* parent = nullptr);
     ~NumericField() override;
 
+    /// The sticky modified flag: set by an edit, kept until ClearModified.
     bool IsModified() const;
+    /// Clears the sticky modified flag.
     void ClearModified();
 
     /// 0 pointer outside, 1 pointer over the field, 2 pressed.
     int HoverState() const;
 
 Q_SIGNALS:
+    /// The field lost focus.
     void FocusOut();
 
 protected:

@@ -14,8 +14,10 @@ class KVUICORE_EXPORT PaletteResizeButton : public QAbstractButton
     Q_OBJECT
 
 public:
+    /// How far one arrow key press resizes, in pixels.
     static constexpr int KeyboardStep = 10;
 
+    /// A resize grip for the palette that is its parent.
     explicit PaletteResizeButton(QWidget* parent = nullptr);
     ~PaletteResizeButton() override;
 
@@ -24,9 +26,11 @@ public:
 Q_SIGNALS:
     /// The size the palette should take, in logical pixels.
     void ResizeRequested(const QSize& size);
+    /// A resize by mouse or keyboard ended.
     void ResizeFinished();
 
 public Q_SLOTS:
+    /// Repaints in the new theme.
     void OnThemeChanged();
 
 protected:

@@ -13,6 +13,7 @@ class KVUICORE_EXPORT ProgressBar : public QProgressBar
     Q_OBJECT
 
 public:
+    /// A progress bar painted from the theme.
     explicit ProgressBar(QWidget* parent = nullptr);
     ~ProgressBar() override;
 

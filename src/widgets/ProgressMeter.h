@@ -21,22 +21,30 @@ class KVUICORE_EXPORT ProgressMeter : public QWidget
     Q_OBJECT
 
 public:
+    /// A stopped meter with the default frames and no text.
     explicit ProgressMeter(QWidget* parent = nullptr);
     ~ProgressMeter() override;
 
+    /// Starts cycling through the frames.
     void Start();
+    /// Stops cycling and returns to the first frame.
     void End();
 
     /// A non-empty text makes the meter as wide as the text's advance plus 33.
     void SetText(QString const& text);
+    /// The text beside the frames.
     QString GetText() const;
 
     /// Replaces the frames; a non-empty list shows its first frame at once.
     void SetImageFrameList(QList<QPixmap> frames);
+    /// The frames cycled through.
     QList<QPixmap> GetImageFrameList() const;
 
+    ///@{
+    /// Both lay out the frame and the text in the meter's rectangle.
     void setGeometry(QRect const& rect);
     void updateGeometry();
+    ///@}
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -44,9 +44,11 @@ public:
     /// The MouseState the button is painted in.
     int GetMouseState() const;
 
+    ///@{
     /// Both also lay out the icon and text rectangles.
     void setGeometry(const QRect& rect);
     void updateGeometry();
+    ///@}
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -16,17 +16,21 @@ class ToolButtonImp;
 class KVUICORE_EXPORT ToolButton : public QToolButton
 {
     Q_OBJECT
+    /// The theme key of the icon shown.
     Q_PROPERTY(QString iconThemeKey READ GetIconThemeKey WRITE SetIconThemeKey)
 
 public:
+    /// A tool button painted from the theme.
     explicit ToolButton(QWidget* parent = nullptr);
     ~ToolButton() override;
 
+    /// The theme key of the icon shown; empty when none.
     QString GetIconThemeKey() const;
     /// An "Icon" entry or a "String" entry holding an icon path.
     void SetIconThemeKey(const QString& key);
 
 public Q_SLOTS:
+    /// Applies the theme's colour and the key's icon again.
     void OnThemeChanged();
 
 private:
