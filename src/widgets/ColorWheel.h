@@ -34,7 +34,7 @@ class KVUICORE_EXPORT ColorWheel : public QWidget
     Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
 
 public:
-    /// A wheel showing an opaque colour.
+    /// A colour wheel, opaque.
     explicit ColorWheel(QWidget* parent = nullptr);
     ~ColorWheel() override;
 

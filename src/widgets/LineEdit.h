@@ -64,8 +64,8 @@ public:
     /// Whether the text shows in the themed default colour (no custom colour set).
     bool IsUseDefaultTextColor() const;
 
-    /// Where a text that does not fit is cut with an ellipsis; Qt::ElideNone shows it
-    /// whole.
+    /// Where a text that does not fit is cut with an ellipsis while the editor
+    /// has no focus; Qt::ElideNone (the default) shows it whole.
     void SetElideMode(Qt::TextElideMode mode);
     /// Where a text that does not fit is cut.
     Qt::TextElideMode GetElideMode() const;
@@ -93,8 +93,8 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Sets the accessible name.
     void UpdateAccessibleName(const QString& name);
-    /// Sets the text (shown elided when it does not fit); an empty text shows the
-    /// prompting text.
+    /// Sets the full text; without focus an empty text shows the prompting
+    /// text.
     void SetText(const QString& text);
     /// Applies the theme's colours again.
     void OnThemeChanged();

@@ -89,7 +89,8 @@ Q_SIGNALS:
     /// The search to run: after the delay, on Return, on clearing, on SetText.
     /// A text is never announced twice in a row.
     void SearchChanged(const QString& text);
-    /// Return was pressed: the search was announced and remembered.
+    /// Return was pressed or a recent search was picked: the search was
+    /// announced and remembered.
     void SearchSubmitted(const QString& text);
     /// Every change of the text, not debounced.
     void TextChanged(const QString& text);

@@ -83,7 +83,8 @@ public:
     void SetReadOnly(bool readOnly);
     /// Whether the text is read-only.
     bool IsReadOnly() const;
-    /// Where a text that does not fit is cut with an ellipsis.
+    /// Where a text that does not fit is cut with an ellipsis while the box has
+    /// no focus.
     void SetElideMode(Qt::TextElideMode mode);
     /// Where a text that does not fit is cut.
     Qt::TextElideMode GetElideMode() const;
