@@ -39,7 +39,7 @@ public:
     /// The process-wide manager, created on first use with the system locale and the
     /// library's translator installed.
     static CoreUIManager* GetInstance();
-    /// Whether OverrideApplicationStyleSheet sets the theme's global style sheet on the
+    /// Sets whether OverrideApplicationStyleSheet sets the theme's global style sheet on the
     /// application; on by default and again after Uninitialize.
     static void EnableGlobalStyleSheet(bool enable);
     /// Whether the global style sheet is enabled (see EnableGlobalStyleSheet).

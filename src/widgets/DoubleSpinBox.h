@@ -87,7 +87,7 @@ public Q_SLOTS:
 protected:
     bool ValidateValue(const QString& text, double& value) override;
 
-    /// Whether a precision change also sets the spin box's decimals; true by default.
+    /// Sets whether a precision change also sets the spin box's decimals; true by default.
     void SetCanChangeQtDecimals(bool canChange);
     /// Whether a precision change also sets the spin box's decimals.
     bool CanChangeQtDecimals() const;
