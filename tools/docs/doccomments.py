@@ -158,7 +158,8 @@ def main(argv):
             if not check:
                 path.write_text(new)
     for path in changed:
-        print(("would change " if check else "changed ") + str(path.relative_to(ROOT)))
+        shown = path.relative_to(ROOT) if ROOT in path.parents else path
+        print(("would change " if check else "changed ") + str(shown))
     return 1 if check and changed else 0
 
 
