@@ -17,11 +17,13 @@ typedef HWND__* HWND;
 
 namespace Kavrel::UICore::Platform {
 
+/// Qt's window id of a native window handle.
 inline WId WIdFromHandle(HWND handle)
 {
     return WId(reinterpret_cast<quintptr>(handle));
 }
 
+/// The native window handle of a Qt window id.
 inline HWND HandleFromWId(WId id)
 {
     return reinterpret_cast<HWND>(quintptr(id));

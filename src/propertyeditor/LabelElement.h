@@ -4,18 +4,23 @@
 
 namespace Kavrel::UICore {
 
-// A word-wrapping text (the Text attribute), beside its label if it has one.
+/// A word-wrapping text (the Text attribute), beside its label if it has one.
 class KVUICORE_EXPORT LabelElement : public PropertyEditorElement
 {
     Q_OBJECT
+    /// The text shown.
     Q_PROPERTY(QString Text READ GetText WRITE SetText NOTIFY AttributesChanged)
 
 public:
+    /// A label element without text.
     explicit LabelElement(QObject* parent = nullptr);
     ~LabelElement() override;
 
+    /// The Text attribute.
     QString GetText() const;
+    /// Sets the Text attribute (through its binding when it has one).
     void SetText(const QString& text);
+    /// Binds the Text attribute; see SetBinding.
     void SetText(Binding* binding);
 
 protected:

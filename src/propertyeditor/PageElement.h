@@ -4,12 +4,13 @@
 
 namespace Kavrel::UICore {
 
-// The root of a property editor page: its children stand one below the other.
+/// The root of a property editor page: its children stand one below the other.
 class KVUICORE_EXPORT PageElement : public PropertyEditorElement
 {
     Q_OBJECT
 
 public:
+    /// An empty page.
     explicit PageElement(QObject* parent = nullptr);
     ~PageElement() override;
 

@@ -4,12 +4,13 @@
 
 namespace Kavrel::UICore {
 
-// A container whose children sit side by side.
+/// A container whose children sit side by side.
 class KVUICORE_EXPORT PanelElement : public PropertyEditorElement
 {
     Q_OBJECT
 
 public:
+    /// An empty panel.
     explicit PanelElement(QObject* parent = nullptr);
     ~PanelElement() override;
 

@@ -6,10 +6,11 @@
 
 namespace kvp {
 
-// Unit types and groups of design properties. A unit type is its group ORed
-// with an index inside the group; the group sits in bits 12..15.
+/// Unit types and groups of design properties. A unit type is its group ORed
+/// with an index inside the group; the group sits in bits 12..15.
 struct KVCOREUNITS_EXPORT IDesignPropertyUnits
 {
+    /// The unit groups; a group's value sits in bits 12..15.
     enum teGroup : std::int32_t
     {
         eGroupNone = 0,
@@ -24,6 +25,7 @@ struct KVCOREUNITS_EXPORT IDesignPropertyUnits
         eGroupPercent = 0x9000,
     };
 
+    /// The unit types: a group ORed with an index inside the group.
     enum teType : std::int32_t
     {
         eTypeNone = 0,

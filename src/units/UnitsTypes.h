@@ -6,39 +6,39 @@
 
 namespace kavrel::platform::core::units {
 
-// Result of every fallible operation of the units component; 0 is success.
+/// Result of every fallible operation of the units component; 0 is success.
 enum ErrorCode : std::int32_t
 {
     kSuccess = 0,
-    kInvalidArgument = 1,  // null pointer, unknown enumeration value
-    kBufferTooSmall = 2,   // the caller's buffer cannot hold the text and its terminator
-    kUnknownUnit = 3,      // a unit, symbol or unit name nobody knows
-    kInvalidText = 4,      // text that cannot be interpreted in the requested unit
-    kIncompatibleUnit = 5, // a unit of another group, or unit algebra that leaves the group
+    kInvalidArgument = 1,  ///< null pointer, unknown enumeration value
+    kBufferTooSmall = 2,   ///< the caller's buffer cannot hold the text and its terminator
+    kUnknownUnit = 3,      ///< a unit, symbol or unit name nobody knows
+    kInvalidText = 4,      ///< text that cannot be interpreted in the requested unit
+    kIncompatibleUnit = 5, ///< a unit of another group, or unit algebra that leaves the group
     kDivisionByZero = 6,
-    kOutOfRange = 7,      // not finite, or an exponent beyond the range of a double
-    kNestingTooDeep = 8,  // parentheses or signs nested beyond the parser's limit
-    kTemplateRefused = 9, // a formatting string whose parts do not fit the symbol
+    kOutOfRange = 7,      ///< not finite, or an exponent beyond the range of a double
+    kNestingTooDeep = 8,  ///< parentheses or signs nested beyond the parser's limit
+    kTemplateRefused = 9, ///< a formatting string whose parts do not fit the symbol
     kEmptyText = 10,
-    kUnknownName = 11, // a global name that no unit, symbol or format carries
+    kUnknownName = 11, ///< a global name that no unit, symbol or format carries
 };
 
-// How the numbers of a value are written. 0 and 1 write an exponent, the rest
-// are plain forms.
+/// How the numbers of a value are written. 0 and 1 write an exponent, the rest
+/// are plain forms.
 enum NumberFormat : std::int32_t
 {
-    kNumberFormatScientific = 0,     // 1.23E+07
-    kNumberFormatEngineering = 1,    // 12.30E+06, exponent a multiple of three
-    kNumberFormatDecimal = 2,        // 12345678.00
-    kNumberFormatDecimalGrouped = 3, // 12,345,678.00
-    kNumberFormatGeneral = 4,        // decimals up to the precision, trailing zeros dropped
-    kNumberFormatGeneralGrouped = 5, // the same with group separators
-    kNumberFormatFractional = 6,     // 12 1/2: binary fractions down to 1/2^precision
+    kNumberFormatScientific = 0,     ///< 1.23E+07
+    kNumberFormatEngineering = 1,    ///< 12.30E+06, exponent a multiple of three
+    kNumberFormatDecimal = 2,        ///< 12345678.00
+    kNumberFormatDecimalGrouped = 3, ///< 12,345,678.00
+    kNumberFormatGeneral = 4,        ///< decimals up to the precision, trailing zeros dropped
+    kNumberFormatGeneralGrouped = 5, ///< the same with group separators
+    kNumberFormatFractional = 6,     ///< 12 1/2: binary fractions down to 1/2^precision
     kNumberFormatCount = 7,
 };
 
-// A unit symbol: (variant << 16) | unit type. The variant chooses how a value of
-// that type is written (mm, feet-dash-inches, degrees/minutes/seconds, ...).
+/// A unit symbol: (variant << 16) | unit type. The variant chooses how a value of
+/// that type is written (mm, feet-dash-inches, degrees/minutes/seconds, ...).
 enum UnitSymbol : std::int32_t
 {
     kSymbolNone = 0,
@@ -49,17 +49,17 @@ enum UnitSymbol : std::int32_t
     kSymbolMeter = 0x012003,
     kSymbolKilometer = 0x012004,
     kSymbolMicrometer = 0x012005,
-    kSymbolFoot = 0x012015,                           // 5.50 ft
-    kSymbolFootMark = 0x022015,                       // 5.50'
-    kSymbolInch = 0x012016,                           // 12.50 in
-    kSymbolInchMark = 0x022016,                       // 12.50"
-    kSymbolFeetInches = 0x302016,                     // 5' 6.50"
-    kSymbolFeetInchesWords = 0x402016,                // 5 ft 6.50 in
-    kSymbolFeetDashInches = 0x602016,                 // 5'-6.50"
-    kSymbolFractionalInches = 0x702016,               // 66 1/2"
-    kSymbolFeetDashFractionalInches = 0x802016,       // 5'-6 1/2"
-    kSymbolFractionalInchesWords = 0x902016,          // 66 1/2 in
-    kSymbolFeetDashHyphenFractionalInches = 0xA02016, // 5'-6-1/2"
+    kSymbolFoot = 0x012015,                           ///< 5.50 ft
+    kSymbolFootMark = 0x022015,                       ///< 5.50'
+    kSymbolInch = 0x012016,                           ///< 12.50 in
+    kSymbolInchMark = 0x022016,                       ///< 12.50"
+    kSymbolFeetInches = 0x302016,                     ///< 5' 6.50"
+    kSymbolFeetInchesWords = 0x402016,                ///< 5 ft 6.50 in
+    kSymbolFeetDashInches = 0x602016,                 ///< 5'-6.50"
+    kSymbolFractionalInches = 0x702016,               ///< 66 1/2"
+    kSymbolFeetDashFractionalInches = 0x802016,       ///< 5'-6 1/2"
+    kSymbolFractionalInchesWords = 0x902016,          ///< 66 1/2 in
+    kSymbolFeetDashHyphenFractionalInches = 0xA02016, ///< 5'-6-1/2"
     kSymbolYard = 0x012017,
     kSymbolMile = 0x012018,
 
@@ -103,11 +103,11 @@ enum UnitSymbol : std::int32_t
     kSymbolRankine = 0x017004,
 
     kSymbolRadian = 0x018001,
-    kSymbolDegree = 0x018002,                       // 45.50°
-    kSymbolDegreeWord = 0x028002,                   // 45.50 deg
-    kSymbolDegreesMinutesSeconds = 0x408002,        // 45°30'15"
-    kSymbolDegreesMinutesSecondsLetters = 0x508002, // 45d30m15s
-    kSymbolDegreesMinutesSecondsSpaced = 0x608002,  // 45° 30' 15"
+    kSymbolDegree = 0x018002,                       ///< 45.50°
+    kSymbolDegreeWord = 0x028002,                   ///< 45.50 deg
+    kSymbolDegreesMinutesSeconds = 0x408002,        ///< 45°30'15"
+    kSymbolDegreesMinutesSecondsLetters = 0x508002, ///< 45d30m15s
+    kSymbolDegreesMinutesSecondsSpaced = 0x608002,  ///< 45° 30' 15"
     kSymbolGradian = 0x018003,
     kSymbolTurn = 0x018004,
     kSymbolArcMinute = 0x018005,

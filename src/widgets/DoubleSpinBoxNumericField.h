@@ -5,13 +5,14 @@
 
 namespace Kavrel::UICore {
 
-// The line edit of DoubleSpinBox. Unlike the plain field it leaves Page Up and
-// Page Down to the normal handling, so that they reach the spin box's stepping.
+/// The line edit of DoubleSpinBox. Unlike the plain field it leaves Page Up and
+/// Page Down to the normal handling, so that they reach the spin box's stepping.
 class KVUICORE_EXPORT DoubleSpinBoxNumericField : public NumericField
 {
     Q_OBJECT
 
 public:
+    /// A field for a DoubleSpinBox.
     explicit DoubleSpinBoxNumericField(QWidget* parent = nullptr);
     ~DoubleSpinBoxNumericField() override;
 

@@ -10,46 +10,52 @@ namespace Kavrel::UICore {
 
 class DropDownMenuImp;
 
-// The menu of a DropDown (and of its sub-menus). It paints its items itself
-// from the theme's drop-down keys, group labels included, and sizes itself to
-// its items; a drop-down that owns it keeps it at least as wide as itself.
+/// The menu of a DropDown (and of its sub-menus). It paints its items itself
+/// from the theme's drop-down keys, group labels included, and sizes itself to
+/// its items; a drop-down that owns it keeps it at least as wide as itself.
 class KVUICORE_EXPORT DropDownMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    // The dynamic property that marks an action as a group label row (the
-    // custom style reads the same name).
+    /// The dynamic property that marks an action as a group label row (the
+    /// custom style reads the same name).
     static const char* const GroupLabelProperty;
-    // The dynamic property raised while the standard menu painting runs, so
-    // that the custom style paints no items then.
+    /// The dynamic property raised while the standard menu painting runs, so
+    /// that the custom style paints no items then.
     static const char* const StandardMenuPaintProperty;
 
+    /// An empty menu in the drop-down look.
     explicit DropDownMenu(QWidget* parent = nullptr);
     ~DropDownMenu() override;
 
-    // 0 or less: as wide as the items need and at least minimumListWidth.
+    /// 0 or less: as wide as the items need and at least minimumListWidth.
     void SetListWidth(int width);
+    /// The width set with SetListWidth; 0 or less for the width the items need.
     int GetListWidth() const;
+    /// Sets the least width the menu takes and recomputes its width.
     void SetMinimumListWidth(int width);
-    // Paint through the style only, without the menu's own item painting.
+    /// Paint through the style only, without the menu's own item painting.
     void SetUseDefaultPaintEvent(bool useDefault);
+    /// Whether the menu paints through the style only.
     bool IsUseDefaultPaintEvent() const;
-    // The action to highlight when the menu next shows.
+    /// The action to highlight when the menu next shows.
     void SetActiveOnShow(QAction* action);
 
+    /// Whether the action is a group label row; false for null.
     static bool IsGroupLabel(const QAction* action);
 
-    // Recomputes the width from the items.
+    /// Recomputes the width from the items.
     void UpdateWidth();
-    // The width the items need.
+    /// The width the items need.
     int ContentWidth() const;
-    // The width the menu takes when it opens.
+    /// The width the menu takes when it opens.
     int TargetWidth() const;
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The mouse moved over the menu; action is the entry under it, or null.
     void MouseMoveOnMenu(QAction* action);
 
 protected:

@@ -5,10 +5,11 @@
 
 namespace Kavrel::UICore {
 
-// The provider the core manager falls back to: the library's own message box.
+/// The provider the core manager falls back to: the library's own message box.
 class KVUICORE_EXPORT MessageBoxProvider : public IMessageBoxProvider
 {
 public:
+    /// The library's provider.
     MessageBoxProvider();
     ~MessageBoxProvider() override;
 

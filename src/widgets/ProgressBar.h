@@ -6,13 +6,14 @@
 
 namespace Kavrel::UICore {
 
-// A progress bar painted by CustomStyle, its text in the theme's "FontNormal1",
-// enabled or not.
+/// A progress bar painted by CustomStyle, its text in the theme's "FontNormal1",
+/// enabled or not.
 class KVUICORE_EXPORT ProgressBar : public QProgressBar
 {
     Q_OBJECT
 
 public:
+    /// A progress bar painted from the theme.
     explicit ProgressBar(QWidget* parent = nullptr);
     ~ProgressBar() override;
 

@@ -10,15 +10,16 @@ namespace Kavrel::UICore {
 
 class PushButtonImp;
 
-// A push button painted from the theme per mouse state. Its icon comes from
-// the theme when its object name is a theme key holding an icon path; a
-// mini-icon button shows the theme's toggle images instead. A checkable button
-// can be locked so that, once checked, the user can't uncheck it.
+/// A push button painted from the theme per mouse state. Its icon comes from
+/// the theme when its object name is a theme key holding an icon path; a
+/// mini-icon button shows the theme's toggle images instead. A checkable button
+/// can be locked so that, once checked, the user can't uncheck it.
 class KVUICORE_EXPORT PushButton : public QPushButton
 {
     Q_OBJECT
 
 public:
+    /// Where the mouse stands with the button, for painting.
     enum MouseState
     {
         Idle = 0,
@@ -27,18 +28,27 @@ public:
         Released = 3,
     };
 
+    /// A push button painted from the theme.
     explicit PushButton(QWidget* parent = nullptr);
     ~PushButton() override;
 
+    /// Makes the button checkable; with lockToggleOn a checked button can't be unchecked
+    /// by the user.
     void SetCheckable(bool checkable, bool lockToggleOn = false);
+    /// Whether a checked button stays checked when clicked.
     bool IsToggleOnStateLocked() const;
+    /// Shows the theme's toggle images instead of the icon, or not.
     void SetIsMiniIcon(bool miniIcon);
+    /// Whether the button shows the theme's toggle images.
     bool IsMiniIcon() const;
+    /// The MouseState the button is painted in.
     int GetMouseState() const;
 
-    // Both also lay out the icon and text rectangles.
+    ///@{
+    /// Both also lay out the icon and text rectangles.
     void setGeometry(const QRect& rect);
     void updateGeometry();
+    ///@}
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
