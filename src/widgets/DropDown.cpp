@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QKeyEvent>
 #include <QPainter>
@@ -168,6 +169,32 @@ public:
         return mGroups.value(it->group);
     }
 
+    // Type-ahead as in a combo box: the typed text picks the next item that
+    // begins with it; typing one letter again steps through the items that
+    // begin with that letter. Gives the item's index, or -1.
+    int TypeAhead(const QString& typed)
+    {
+        if (!mTypeAheadClock.isValid() || mTypeAheadClock.elapsed() > QApplication::keyboardInputInterval())
+            msTypeAhead.clear();
+        mTypeAheadClock.start();
+        msTypeAhead += typed;
+        const bool repeated = msTypeAhead.count(msTypeAhead.front()) == msTypeAhead.size();
+        const QString prefix = repeated ? msTypeAhead.left(1) : msTypeAhead;
+        const QList<QAction*> actions = MenuActions();
+        const int count = int(actions.size());
+        // A new search starts after the current item; a longer one may keep it.
+        const int start = qMax(0, miCurrentIndex + (repeated ? 1 : 0));
+        for (int step = 0; step < count; ++step) {
+            const int index = (start + step) % count;
+            QAction* action = actions.at(index);
+            if (!mItems.contains(action) || !action->isVisible() || !action->isEnabled() || action->menu())
+                continue;
+            if (QString(action->text()).remove(QLatin1Char('&')).startsWith(prefix, Qt::CaseInsensitive))
+                return index;
+        }
+        return -1;
+    }
+
     void ChangeCurrent(int index)
     {
         const int old = miCurrentIndex;
@@ -241,6 +268,8 @@ public:
     bool mbKeyArmed = false;
     bool mbTransparent = false;
     bool mbMenuOpen = false;
+    QString msTypeAhead;
+    QElapsedTimer mTypeAheadClock;
 };
 
 void DropDownImp::DrawHighlightRect(QPainter& painter) const
@@ -277,12 +306,9 @@ void DropDownImp::DrawHighlightRect(QPainter& painter) const
         painter.drawLine(box.left(), box.top() + 1, box.left(), box.bottom() - 1);
         painter.drawLine(box.right(), box.top() + 1, box.right(), box.bottom() - 1);
     }
-    if (enabled && mpOwner->hasFocus() && !pressed) {
-        pen.setColor(themes->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
-        painter.setPen(pen);
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(mpOwner->rect().adjusted(0, 0, -1, -1));
-    }
+    if (enabled && mpOwner->hasFocus() && !pressed)
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect(), 0.0,
+                                themes->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
 }
 
 void DropDownImp::DrawIcon(QPainter& painter) const
@@ -999,9 +1025,25 @@ void DropDown::mouseReleaseEvent(QMouseEvent* event)
 
 void DropDown::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+    const int key = event->key();
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    // The keys that open a combo box arm the opening on their release, as Up
+    // and Down do.
+    const bool opening = modifiers == Qt::NoModifier &&
+                         (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F4);
+    if (key == Qt::Key_Up || key == Qt::Key_Down || opening) {
         mpImp->mbKeyArmed = true;
         event->accept();
+        return;
+    }
+    const QString text = event->text();
+    const bool typing = !(modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) && !text.isEmpty() &&
+                        text.front().isPrint();
+    if (typing) {
+        event->accept();
+        const int index = mpImp->TypeAhead(text);
+        if (index >= 0 && index != mpImp->miCurrentIndex)
+            ActionTriggered(mpImp->ActionAt(index));
         return;
     }
     QPushButton::keyPressEvent(event);
@@ -1010,7 +1052,8 @@ void DropDown::keyPressEvent(QKeyEvent* event)
 void DropDown::keyReleaseEvent(QKeyEvent* event)
 {
     const int key = event->key();
-    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Down) &&
+    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down ||
+                        key == Qt::Key_F4) &&
                        !event->isAutoRepeat() && mpImp->mbKeyArmed;
     mpImp->mbKeyArmed = false;
     if (opens) {
