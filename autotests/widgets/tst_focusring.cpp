@@ -231,13 +231,20 @@ private Q_SLOTS:
         auto* drop = static_cast<DropDown*>(bench.control);
         QVERIFY(Probe::ShowActive(&bench.window) && Probe::Focus(drop));
         bool opened = false;
+        QString highlighted;
         QMenu* menu = drop->GetDropDownMenu();
         connect(menu, &QMenu::aboutToShow, this, [&] {
             opened = true;
-            QTimer::singleShot(0, menu, &QMenu::close);
+            // The open list has the same type-ahead.
+            QTimer::singleShot(0, menu, [&] {
+                QTest::keyClick(menu, Qt::Key_W);
+                highlighted = menu->activeAction() ? menu->activeAction()->text() : QString();
+                menu->close();
+            });
         });
         QTest::keySequence(drop, QKeySequence(keys));
         QTEST(opened, "opens");
+        QCOMPARE(highlighted, opened ? QStringLiteral("Walnut") : QString());
         QTEST(drop->GetCurrentIndex(), "current");
     }
 

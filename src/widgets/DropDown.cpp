@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHash>
 #include <QKeyEvent>
 #include <QPainter>
@@ -169,32 +168,6 @@ public:
         return mGroups.value(it->group);
     }
 
-    // Type-ahead as in a combo box: the typed text picks the next item that
-    // begins with it; typing one letter again steps through the items that
-    // begin with that letter. Gives the item's index, or -1.
-    int TypeAhead(const QString& typed)
-    {
-        if (!mTypeAheadClock.isValid() || mTypeAheadClock.elapsed() > QApplication::keyboardInputInterval())
-            msTypeAhead.clear();
-        mTypeAheadClock.start();
-        msTypeAhead += typed;
-        const bool repeated = msTypeAhead.count(msTypeAhead.front()) == msTypeAhead.size();
-        const QString prefix = repeated ? msTypeAhead.left(1) : msTypeAhead;
-        const QList<QAction*> actions = MenuActions();
-        const int count = int(actions.size());
-        // A new search starts after the current item; a longer one may keep it.
-        const int start = qMax(0, miCurrentIndex + (repeated ? 1 : 0));
-        for (int step = 0; step < count; ++step) {
-            const int index = (start + step) % count;
-            QAction* action = actions.at(index);
-            if (!mItems.contains(action) || !action->isVisible() || !action->isEnabled() || action->menu())
-                continue;
-            if (QString(action->text()).remove(QLatin1Char('&')).startsWith(prefix, Qt::CaseInsensitive))
-                return index;
-        }
-        return -1;
-    }
-
     void ChangeCurrent(int index)
     {
         const int old = miCurrentIndex;
@@ -268,8 +241,6 @@ public:
     bool mbKeyArmed = false;
     bool mbTransparent = false;
     bool mbMenuOpen = false;
-    QString msTypeAhead;
-    QElapsedTimer mTypeAheadClock;
 };
 
 void DropDownImp::DrawHighlightRect(QPainter& painter) const
@@ -1041,9 +1012,11 @@ void DropDown::keyPressEvent(QKeyEvent* event)
                         text.front().isPrint();
     if (typing) {
         event->accept();
-        const int index = mpImp->TypeAhead(text);
-        if (index >= 0 && index != mpImp->miCurrentIndex)
-            ActionTriggered(mpImp->ActionAt(index));
+        // The same type-ahead as in the open list.
+        QAction* current = mpImp->ActionAt(mpImp->miCurrentIndex);
+        QAction* match = mpImp->mpMenu ? mpImp->mpMenu->TypeAhead(text, current) : nullptr;
+        if (match && match != current && mpImp->mItems.contains(match) && !match->menu())
+            ActionTriggered(match);
         return;
     }
     QPushButton::keyPressEvent(event);
