@@ -182,7 +182,7 @@ private Q_SLOTS:
                                            {"space", Qt::Key_Space},
                                            {"ctrl+space", Qt::Key_Space},
                                            {"return", Qt::Key_Return}};
-        if (keys.contains(input))
+        if (keys.contains(input) && Probe::Focus(mContainer))
             QTest::keyClick(mContainer, keys.value(input),
                             input.startsWith(QLatin1String("ctrl")) ? Qt::ControlModifier : Qt::NoModifier);
         else

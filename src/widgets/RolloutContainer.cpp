@@ -394,6 +394,12 @@ void RolloutContainer::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
+    // Only while the header has the focus: keys a child leaves unhandled rise
+    // to the container and must not fold it.
+    if (!hasFocus()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
     // The check box takes no focus of its own, so the header works it.
     if (key == Qt::Key_Space && modifiers == Qt::ControlModifier && mpImp->mbCheckable) {
         if (!event->isAutoRepeat() && mpImp->mpCheckBox->isEnabled())
