@@ -3,6 +3,7 @@
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
@@ -507,15 +508,18 @@ private Q_SLOTS:
         const QList<Probe::Run> runs = Foreground(Probe::Runs(image, column, 0, image.height() - 1), background.rgba());
         QList<QColor> expected{outline, fill, outline};
         if (look == Look::Focused) {
+            // The bar's own outline, and the two-stroke ring along the control's edges.
             const QColor ring = ThemeColor(ThemeFileKey::FocusOutline2);
+            const QColor focus = Internal::FocusRingColor();
             QVERIFY(ring.isValid());
-            expected = {ring, outline, fill, outline, ring};
+            expected = {focus, ring, outline, fill, outline, ring, focus};
         }
         QVERIFY2(runs.size() == expected.size(), qPrintable(Probe::Describe(runs)));
         for (int i = 0; i < expected.size(); ++i) {
             PROBE_COMPARE_COLOR(QColor::fromRgba(runs.at(i).color), expected.at(i));
+            const bool edge = look == Look::Focused && (i == 0 || i == expected.size() - 1);
             if (expected.at(i) != fill)
-                QCOMPARE(runs.at(i).length, b);
+                QCOMPARE(runs.at(i).length, edge ? 2 * b : b);
         }
     }
 

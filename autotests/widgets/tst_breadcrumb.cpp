@@ -177,19 +177,6 @@ private Q_SLOTS:
         QVERIFY(!mpBar->GetItem(2));
     }
 
-    void focusRingUsesTheBreadcrumbOutline()
-    {
-        mpBar->resize(TotalItemWidth(*mpBar) + 10, 24);
-        QVERIFY(Probe::Shown(mpBar.get()));
-        BreadcrumbItem* item = mpBar->GetItem(2);
-        const QPoint top(item->width() / 3, 0);
-        QVERIFY(!Probe::Near(Probe::PixelAt(Probe::Grab(item), top),
-                             Probe::ThemeColor(ThemeFileKey::BreadcrumbItemFocusOutline)));
-        QVERIFY(Probe::Focus(item));
-        PROBE_COMPARE_COLOR(Probe::PixelAt(Probe::Grab(item), top),
-                            Probe::ThemeColor(ThemeFileKey::BreadcrumbItemFocusOutline));
-    }
-
     void accessibleAsToolBarOfButtons()
     {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(mpBar.get());

@@ -2,21 +2,15 @@
 #include "../PaintProbe.h"
 
 #include <KvUICore/theme/ThemeFileKey.h>
-#include <KvUICore/widgets/ColorMath_p.h>
 #include <KvUICore/widgets/ColorPicker.h>
 #include <KvUICore/widgets/ColorPickerParts_p.h>
 #include <KvUICore/widgets/ColorSwatch.h>
-#include <KvUICore/widgets/ColorWheel.h>
-#include <KvUICore/widgets/GradientSwatch.h>
-#include <KvUICore/widgets/ImageSwatch.h>
 #include <KvUICore/widgets/NumericField.h>
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
 #include <QSignalSpy>
 #include <QtTest>
-
-#include <functional>
 
 using namespace Kavrel::UICore;
 
@@ -33,11 +27,7 @@ void TypeHex(ColorPicker* picker, const QString& text)
     QTest::keyClick(hex, Qt::Key_Tab);
 }
 
-using Factory = std::function<QWidget*(QWidget*)>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Factory)
 
 class tst_ColorSwatch : public QObject
 {
@@ -113,53 +103,6 @@ private Q_SLOTS:
         iface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(swatch.IsPickerOpen());
         swatch.findChild<ColorPickerPopup*>()->Reject();
-    }
-
-    void focusRingStandsOutInEveryTheme_data()
-    {
-        QTest::addColumn<QString>("theme");
-        QTest::addColumn<Factory>("create");
-        QTest::addColumn<QPoint>("ring");
-        const std::pair<const char*, Factory> controls[] = {
-            {"swatch", [](QWidget* p) { return new ColorSwatch(p); }},
-            {"gradient", [](QWidget* p) { return new GradientSwatch(p); }},
-            {"image", [](QWidget* p) { return new ImageSwatch(p); }},
-            {"wheel", [](QWidget* p) { return new ColorWheel(p); }},
-        };
-        for (const QString theme : {"Light", "Dark", "HIGLight"}) {
-            for (const auto& [name, create] : controls) {
-                // The wheel's ring is a circle around it; the others' run along their edges.
-                const QPoint ring = QLatin1String(name) == QLatin1String("wheel") ? QPoint(1, 100) : QPoint(0, 12);
-                QTest::addRow("%s, %s", qPrintable(theme), name) << theme << create << ring;
-            }
-        }
-    }
-
-    void focusRingStandsOutInEveryTheme()
-    {
-        QFETCH(QString, theme);
-        QFETCH(Factory, create);
-        QFETCH(QPoint, ring);
-        Probe::UseRepositoryThemes(theme);
-        QWidget surroundings;
-        surroundings.setAutoFillBackground(true);
-        QPalette palette = surroundings.palette();
-        palette.setColor(QPalette::Window, Probe::ThemeColor(ThemeFileKey::Container1));
-        surroundings.setPalette(palette);
-        QWidget* control = create(&surroundings);
-        control->setGeometry(10, 10, 200, 200);
-        surroundings.resize(220, 220);
-        QVERIFY(Probe::Shown(&surroundings));
-        const QPoint probe = control->pos() + ring;
-        control->clearFocus();
-        QTRY_VERIFY(!control->hasFocus());
-        const QColor without = Probe::PixelAt(Probe::Grab(&surroundings), probe);
-        QVERIFY(Probe::Focus(control));
-        const QColor with = Probe::PixelAt(Probe::Grab(&surroundings), probe);
-        PROBE_COMPARE_COLOR(with, Internal::FocusRingColor());
-        QVERIFY2(Internal::ContrastRatio(with, without) >= 3.0,
-                 qPrintable(QStringLiteral("%1 on %2").arg(with.name(), without.name())));
-        Probe::UseRepositoryThemes();
     }
 };
 

@@ -154,6 +154,11 @@ private Q_SLOTS:
         QTest::newRow("disabled, frozen") << "left" << false << "disabled" << false;
         QTest::newRow("no expand button, click") << "left" << false << "no button" << false;
         QTest::newRow("no expand button, up") << "up" << false << "no button" << false;
+        QTest::newRow("space collapses") << "space" << false << "" << true;
+        QTest::newRow("space expands") << "space" << true << "" << true;
+        QTest::newRow("return collapses") << "return" << false << "" << true;
+        QTest::newRow("no expand button, space") << "space" << false << "no button" << false;
+        QTest::newRow("ctrl+space checks, no fold") << "ctrl+space" << false << "" << false;
     }
 
     void userInputToggles()
@@ -168,10 +173,18 @@ private Q_SLOTS:
         mContainer->setEnabled(!state.startsWith(QLatin1String("disabled")));
         mContainer->SetExpandButtonVisible(state != QLatin1String("no button"));
         QSignalSpy collapsed(mContainer, &RolloutContainer::Collapsed);
+        // Checkable, so that the check box's own key is told apart.
+        mContainer->SetIsCheckable(true);
 
         const QRect title = mContainer->GetTitleRect();
-        if (input == QLatin1String("up") || input == QLatin1String("down"))
-            QTest::keyClick(mContainer, input == QLatin1String("up") ? Qt::Key_Up : Qt::Key_Down);
+        const QHash<QString, Qt::Key> keys{{"up", Qt::Key_Up},
+                                           {"down", Qt::Key_Down},
+                                           {"space", Qt::Key_Space},
+                                           {"ctrl+space", Qt::Key_Space},
+                                           {"return", Qt::Key_Return}};
+        if (keys.contains(input) && Probe::Focus(mContainer))
+            QTest::keyClick(mContainer, keys.value(input),
+                            input.startsWith(QLatin1String("ctrl")) ? Qt::ControlModifier : Qt::NoModifier);
         else
             QTest::mouseClick(mContainer, input == QLatin1String("right") ? Qt::RightButton : Qt::LeftButton,
                               Qt::NoModifier,
@@ -181,6 +194,7 @@ private Q_SLOTS:
         QCOMPARE(collapsed.count(), toggles ? 1 : 0);
         if (toggles)
             QCOMPARE(collapsed.last().at(0).toBool(), !startCollapsed);
+        QCOMPARE(mContainer->IsChecked(), input != QLatin1String("ctrl+space"));
         QVERIFY(!QWidget::mouseGrabber());
     }
 

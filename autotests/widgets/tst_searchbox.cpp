@@ -125,37 +125,6 @@ private Q_SLOTS:
         QCOMPARE(box.GetRecentSearches(), QStringList{QStringLiteral("c")});
     }
 
-    void focusRingIsVisibleInEveryTheme_data()
-    {
-        QTest::addColumn<QString>("theme");
-        QTest::newRow("light") << QStringLiteral("Light");
-        QTest::newRow("dark") << QStringLiteral("Dark");
-        QTest::newRow("high contrast") << QStringLiteral("HIGLight");
-    }
-
-    void focusRingIsVisibleInEveryTheme()
-    {
-        QFETCH(QString, theme);
-        Probe::UseRepositoryThemes(theme);
-        QList<QWidget*> owned;
-        auto cleanup = qScopeGuard([&] { qDeleteAll(owned); });
-        auto* box = Probe::ShownWithOther<SearchBox>(owned, QSize(240, 80));
-        QVERIFY(box);
-        // The middle of the top border: inside the halo row is the border row.
-        const QPoint borderPoint(box->width() / 2, 1);
-        const QColor unfocused = Probe::PixelAt(Probe::Grab(box), borderPoint);
-        QVERIFY(Probe::Focus(box));
-        const QImage focusedImage = Probe::Grab(box);
-        const QColor focused = Probe::PixelAt(focusedImage, borderPoint);
-        PROBE_COMPARE_COLOR(focused, Probe::ThemeColor(ThemeFileKey::SearchBoxFocusedBorder));
-        QVERIFY(!Probe::Near(focused, unfocused));
-        const QColor inside = Probe::PixelAt(focusedImage, QPoint(box->width() / 2, box->height() / 2 + 8));
-        // Against the field and against the window background hosts paint (the theme's container).
-        for (const QColor& next : {inside, Probe::ThemeColor(ThemeFileKey::Container1)})
-            QVERIFY2(Probe::Contrast(focused, next) >= 3.0, qPrintable(focused.name() + '/' + next.name()));
-        Probe::UseRepositoryThemes(QStringLiteral("Light"));
-    }
-
     void mirroredRightToLeft()
     {
         SearchBox box;

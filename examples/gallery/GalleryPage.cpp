@@ -5,7 +5,10 @@
 #include <KvUICore/widgets/Label.h>
 #include <KvUICore/widgets/TextLabel.h>
 
+#include <QApplication>
 #include <QGridLayout>
+#include <QImage>
+#include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -19,7 +22,69 @@ std::vector<GalleryPageInfo>& registry()
     static std::vector<GalleryPageInfo> pages;
     return pages;
 }
+
+constexpr char kShowsFocus[] = "galleryShowsFocus";
+
+// The widget of the control that Tab gives the focus to.
+QWidget* TabStop(QWidget* control)
+{
+    QWidget* widget = control;
+    do {
+        if ((widget->focusPolicy() & Qt::TabFocus) && widget->isVisible() && widget->isEnabled())
+            return widget;
+        widget = widget->nextInFocusChain();
+    } while (widget != control && control->isAncestorOf(widget));
+    return nullptr;
+}
 } // namespace
+
+void ShowFocusedInScreenshots(QWidget* control)
+{
+    control->setProperty(kShowsFocus, true);
+}
+
+QList<FocusedPlace> FocusedPlaces(QWidget* root)
+{
+    QList<FocusedPlace> places;
+    const QList<QWidget*> children = root->findChildren<QWidget*>();
+    for (QWidget* control : children) {
+        if (control->property(kShowsFocus).toBool() && control->isVisibleTo(root))
+            places.append({control, QRect(control->mapTo(root, QPoint()), control->size())});
+    }
+    return places;
+}
+
+void PaintFocusedLooks(QImage& image, const QList<FocusedPlace>& places, const QRect& clip)
+{
+    if (places.isEmpty())
+        return;
+    QWidget* window = places.front().control ? places.front().control->window() : nullptr;
+    if (!window)
+        return;
+    // Focus is only real in the active window; without a window manager
+    // nothing activates it on its own.
+    window->activateWindow();
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(window);
+    QT_WARNING_POP
+    const QPointer<QWidget> previous = QApplication::focusWidget();
+    QPainter painter(&image);
+    painter.setClipRect(clip);
+    for (const FocusedPlace& place : places) {
+        QWidget* stop = place.control ? TabStop(place.control) : nullptr;
+        if (!stop)
+            continue;
+        stop->setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents();
+        if (stop->hasFocus())
+            painter.drawPixmap(place.rect.topLeft(), place.control->parentWidget()->grab(place.control->geometry()));
+    }
+    painter.end();
+    if (previous)
+        previous->setFocus(Qt::OtherFocusReason);
+    QCoreApplication::processEvents();
+}
 
 const std::vector<GalleryPageInfo>& GalleryPages()
 {

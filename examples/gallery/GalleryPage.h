@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QList>
+#include <QPointer>
+#include <QRect>
 #include <QString>
 #include <QWidget>
 
@@ -7,6 +10,7 @@
 #include <vector>
 
 class QGridLayout;
+class QImage;
 class QLayout;
 class QScrollArea;
 class QVBoxLayout;
@@ -46,3 +50,20 @@ void AddGridSection(QGridLayout* grid, const QString& title, QWidget* (*build)(Q
 // A group heading and below it the layout build() makes; every section but
 // the first is set off by a divider.
 void AddDividedSection(QVBoxLayout* layout, const QString& title, const std::function<QLayout*()>& build);
+
+// Marks a control whose focused look the screenshots show. Only one control of
+// a window holds the focus at a time, so the screenshot run gives each marked
+// control the focus in turn and takes its look while it has it.
+void ShowFocusedInScreenshots(QWidget* control);
+
+// Where the marked controls below root are, in root's coordinates.
+struct FocusedPlace
+{
+    QPointer<QWidget> control;
+    QRect rect;
+};
+QList<FocusedPlace> FocusedPlaces(QWidget* root);
+
+// Paints each control's focused look at its place over image (inside clip),
+// giving the control the focus for the moment; the focus then goes back.
+void PaintFocusedLooks(QImage& image, const QList<FocusedPlace>& places, const QRect& clip);

@@ -1,3 +1,4 @@
+#include "GalleryPage.h"
 #include "GalleryWindow.h"
 
 #include <KvUICore/core/CoreUIManager.h>
@@ -6,6 +7,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QImage>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -41,7 +43,13 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
             QCoreApplication::processEvents();
             QCoreApplication::processEvents();
             const QString path = QStringLiteral("%1/%2-%3.png").arg(folder, theme, slug(window.PageTitle(page)));
-            if (!window.grab().save(path)) {
+            QImage shot = window.grab().toImage();
+            QWidget* pageWidget = window.PageWidget(page);
+            QRect visible(pageWidget->mapTo(&window, QPoint()), pageWidget->size());
+            if (auto* area = qobject_cast<QScrollArea*>(pageWidget))
+                visible = QRect(area->viewport()->mapTo(&window, QPoint()), area->viewport()->size());
+            PaintFocusedLooks(shot, FocusedPlaces(&window), visible);
+            if (!shot.save(path)) {
                 std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(path));
                 return 1;
             }
@@ -57,8 +65,11 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
                     // Out of the scroll area for the moment, so that nothing sizes it back.
                     area->takeWidget();
                     contents->resize(width, height);
-                    const QPixmap shot = contents->grab();
+                    QImage shot = contents->grab().toImage();
+                    const QList<FocusedPlace> places = FocusedPlaces(contents);
                     area->setWidget(contents);
+                    QCoreApplication::processEvents();
+                    PaintFocusedLooks(shot, places, QRect(0, 0, width, height));
                     const QString full =
                         QStringLiteral("%1/%2-%3-full.png").arg(folder, theme, slug(window.PageTitle(page)));
                     if (!shot.save(full)) {

@@ -32,6 +32,7 @@ namespace Kavrel::UICore {
 using Internal::CosmeticPen;
 using Internal::DimmedBrush;
 using Internal::DimmedColor;
+using Internal::DrawFocusRing;
 using Internal::DrawFramedRect;
 using Internal::StrokeGrid;
 using Internal::StrokeGridOf;
@@ -465,6 +466,8 @@ void CustomStyle::DrawRadioButton(const QStyleOption* option, QPainter* painter,
         painter->fillRect(tile, Brush(ThemeFileKey::ActiveContainer1, tile));
         StrokeOutline(painter, outlineRect, Color(ThemeFileKey::ActiveOutline1), grid);
     }
+    if ((option->state & State_Enabled) && WidgetHasFocus(option, widget))
+        DrawFocusRing(painter, widget, tile);
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     QRect iconRect;
     if (button && widget) {
@@ -573,6 +576,10 @@ void CustomStyle::DrawDoubleSpinBoxComplexControl(const QStyleOptionComplex* opt
         arrow.rect = r;
         drawPrimitive(sub == SC_SpinBoxUp ? PE_IndicatorSpinUp : PE_IndicatorSpinDown, &arrow, painter, widget);
     }
+    // Around the whole box: where a field paints its own focus outline over
+    // it, the two meet in one colour.
+    if (enabled && WidgetHasFocus(option, widget))
+        DrawFocusRing(painter, widget, option->rect);
     painter->restore();
 }
 
@@ -660,6 +667,10 @@ void CustomStyle::DrawSliderComplexControl(const QStyleOptionComplex* option, QP
     }
 
     painter->save();
+    // The bar's own focus outline is faint in some themes; the ring around the
+    // whole control is what shows the focus.
+    if (focused && enabled)
+        DrawFocusRing(painter, widget, slider->rect);
     if (slider->subControls & SC_SliderGroove) {
         if (focused)
             StrokeOutline(painter,

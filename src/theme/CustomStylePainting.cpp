@@ -199,6 +199,37 @@ void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], cons
     painter->restore();
 }
 
+QColor FocusRingColor(const QWidget* widget)
+{
+    const QColor color = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FocusOutline1);
+    if (color.isValid())
+        return color;
+    return widget ? widget->palette().color(QPalette::Highlight) : QColor(Qt::blue);
+}
+
+void DrawFocusRing(QPainter* painter, const QWidget* widget, const QRectF& rect, qreal radius, const QColor& color)
+{
+    const StrokeGrid grid = StrokeGridOf(widget, painter);
+    // Two strokes wide, so the ring reads as a ring and not as a border.
+    if (!painter || rect.width() < 4 * grid.unit || rect.height() < 4 * grid.unit)
+        return;
+    const QColor ring = color.isValid() ? color : FocusRingColor(widget);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    if (radius > 0.0) {
+        const qreal width = 2.0 * grid.unit;
+        QPen pen(ring, width);
+        pen.setJoinStyle(Qt::MiterJoin);
+        painter->setPen(pen);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(rect.adjusted(width / 2, width / 2, -width / 2, -width / 2), radius, radius);
+    } else {
+        StrokeOutline(painter, StrokeRect(painter, rect, grid), ring, grid);
+        StrokeOutline(painter, StrokeRect(painter, rect, grid, 1), ring, grid);
+    }
+    painter->restore();
+}
+
 void RepaintAfterThemeChange(QWidget* widget)
 {
     QWidget* parent = widget->parentWidget();

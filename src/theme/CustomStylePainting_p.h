@@ -79,6 +79,18 @@ KVUICORE_EXPORT StrokeGrid DrawStateFrame(QPainter* painter, const QWidget* widg
 // A solid antialiased triangle, such as a drop-down arrow; the painter's state is kept.
 KVUICORE_EXPORT void FillAntialiasedTriangle(QPainter* painter, const QPointF (&points)[3], const QColor& color);
 
+// The colour of the keyboard focus ring: the theme's FocusOutline1, which every
+// built-in theme keeps at 3:1 or more against its panels and fields; the
+// widget's highlight colour where a theme lacks the key.
+KVUICORE_EXPORT QColor FocusRingColor(const QWidget* widget = nullptr);
+
+// The keyboard focus ring every control draws: two strokes of the grid along
+// the inside of rect, on whole device pixels, rounded when radius > 0. The
+// painter's state is kept. A control whose theme keys name a focus colour of
+// its own passes it as color; an invalid one means FocusRingColor().
+KVUICORE_EXPORT void DrawFocusRing(QPainter* painter, const QWidget* widget, const QRectF& rect, qreal radius = 0.0,
+                                   const QColor& color = QColor());
+
 } // namespace Kavrel::UICore::Internal
 
 class QIcon;

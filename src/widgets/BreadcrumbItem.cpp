@@ -260,7 +260,7 @@ void BreadcrumbItem::paintEvent(QPaintEvent*)
     mpImp->DrawLabel(painter);
     mpImp->DrawSeparator(painter);
     if (hasFocus())
-        Internal::DrawFocusRing(&painter, this, mpImp->Visual(mpImp->LabelRect()),
+        Internal::DrawFocusRing(&painter, this, mpImp->Visual(mpImp->LabelRect()), 0.0,
                                 Internal::ThemeColorOr(ThemeFileKey::BreadcrumbItemFocusOutline));
 }
 

@@ -210,30 +210,4 @@ void DrawCheckerboard(QPainter* painter, const QRectF& rect, qreal cell)
     painter->restore();
 }
 
-QColor FocusRingColor()
-{
-    return ThemeManager::GetInstance()->GetColor(ThemeFileKey::FocusOutline1);
-}
-
-void DrawFocusRing(QPainter* painter, const QRectF& rect, const QWidget* widget, qreal radius)
-{
-    if (!painter || rect.isEmpty())
-        return;
-    // Two device strokes at least, so the ring reads as a ring and not as an edge.
-    const float factor = widget ? DeviceScaleFactor(widget) : 1.0f;
-    const qreal width = 2.0 * ResolutionBucket(factor) / factor;
-    const QRectF ring = rect.adjusted(width / 2, width / 2, -width / 2, -width / 2);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, radius > 0.0);
-    QPen pen(FocusRingColor(), width);
-    pen.setJoinStyle(Qt::MiterJoin);
-    painter->setPen(pen);
-    painter->setBrush(Qt::NoBrush);
-    if (radius > 0.0)
-        painter->drawRoundedRect(ring, radius, radius);
-    else
-        painter->drawRect(ring);
-    painter->restore();
-}
-
 } // namespace Kavrel::UICore::Internal

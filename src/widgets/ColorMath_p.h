@@ -50,10 +50,6 @@ KVUICORE_EXPORT QColor MarkerColorOver(const QColor& color);
 // the theme's field and empty-image colours so that it fits every theme.
 KVUICORE_EXPORT void DrawCheckerboard(QPainter* painter, const QRectF& rect, qreal cell = 4.0);
 
-// The library's keyboard focus ring, drawn just inside rect.
-KVUICORE_EXPORT QColor FocusRingColor();
-KVUICORE_EXPORT void DrawFocusRing(QPainter* painter, const QRectF& rect, const QWidget* widget, qreal radius = 0.0);
-
 // The accessible interfaces of the colour and image controls, installed with
 // Qt the first time one of the controls is built.
 KVUICORE_EXPORT void InstallColorControlsAccessibility();

@@ -203,7 +203,7 @@ void AlphaBar::paintEvent(QPaintEvent*)
     painter.drawRect(marker);
     painter.setOpacity(1.0);
     if (hasFocus())
-        Internal::DrawFocusRing(&painter, QRectF(rect()), this);
+        Internal::DrawFocusRing(&painter, this, rect());
 }
 
 void AlphaBar::mousePressEvent(QMouseEvent* event)

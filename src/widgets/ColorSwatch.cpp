@@ -129,7 +129,7 @@ void ColorSwatchImp::DrawColor(QPainter& painter) const
 void ColorSwatchImp::DrawFocus(QPainter& painter) const
 {
     if (mpOwner->hasFocus() && mpOwner->isEnabled())
-        Internal::DrawFocusRing(&painter, QRectF(mpOwner->rect()), mpOwner);
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect());
 }
 
 ColorSwatch::ColorSwatch(QWidget* parent)

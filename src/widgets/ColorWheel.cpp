@@ -293,7 +293,7 @@ void ColorWheelImp::DrawFocus(QPainter& painter, const WheelGeometry& g) const
         return;
     const double r = g.outer + kFocusMargin;
     const QRectF box(g.centre.x() - r, g.centre.y() - r, 2 * r, 2 * r);
-    Internal::DrawFocusRing(&painter, box, mpOwner, r);
+    Internal::DrawFocusRing(&painter, mpOwner, box, r);
 }
 
 ColorWheel::ColorWheel(QWidget* parent)

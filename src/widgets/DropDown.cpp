@@ -277,12 +277,9 @@ void DropDownImp::DrawHighlightRect(QPainter& painter) const
         painter.drawLine(box.left(), box.top() + 1, box.left(), box.bottom() - 1);
         painter.drawLine(box.right(), box.top() + 1, box.right(), box.bottom() - 1);
     }
-    if (enabled && mpOwner->hasFocus() && !pressed) {
-        pen.setColor(themes->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
-        painter.setPen(pen);
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(mpOwner->rect().adjusted(0, 0, -1, -1));
-    }
+    if (enabled && mpOwner->hasFocus() && !pressed)
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect(), 0.0,
+                                themes->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
 }
 
 void DropDownImp::DrawIcon(QPainter& painter) const
@@ -1021,9 +1018,27 @@ void DropDown::mouseReleaseEvent(QMouseEvent* event)
 
 void DropDown::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+    const int key = event->key();
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    // The keys that open a combo box arm the opening on their release, as Up
+    // and Down do.
+    const bool opening = modifiers == Qt::NoModifier &&
+                         (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F4);
+    if (key == Qt::Key_Up || key == Qt::Key_Down || opening) {
         mpImp->mbKeyArmed = true;
         event->accept();
+        return;
+    }
+    const QString text = event->text();
+    const bool typing = !(modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) && !text.isEmpty() &&
+                        text.front().isPrint();
+    if (typing) {
+        event->accept();
+        // The same type-ahead as in the open list.
+        QAction* current = mpImp->ActionAt(mpImp->miCurrentIndex);
+        QAction* match = mpImp->mpMenu ? mpImp->mpMenu->TypeAhead(text, current) : nullptr;
+        if (match && match != current && mpImp->mItems.contains(match) && !match->menu())
+            ActionTriggered(match);
         return;
     }
     QPushButton::keyPressEvent(event);
@@ -1032,7 +1047,8 @@ void DropDown::keyPressEvent(QKeyEvent* event)
 void DropDown::keyReleaseEvent(QKeyEvent* event)
 {
     const int key = event->key();
-    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Down) &&
+    const bool opens = (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down ||
+                        key == Qt::Key_F4) &&
                        !event->isAutoRepeat() && mpImp->mbKeyArmed;
     mpImp->mbKeyArmed = false;
     if (opens) {

@@ -7,12 +7,17 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QActionEvent>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
 #include <QStyle>
+
+#include <algorithm>
 
 namespace Kavrel::UICore {
 
@@ -169,6 +174,8 @@ public:
     }
 
     DropDownMenu* const mpOwner;
+    QString msTypeAhead;
+    QElapsedTimer mTypeAheadClock;
     int miListWidth = 0;
     int miMinimumListWidth = 0;
     bool mbUseDefaultPaintEvent = false;
@@ -262,6 +269,43 @@ void DropDownMenu::UpdateWidth()
     const int width = TargetWidth();
     if (minimumWidth() != width || maximumWidth() != width)
         setFixedWidth(width);
+}
+
+QAction* DropDownMenu::TypeAhead(const QString& typed, QAction* after)
+{
+    DropDownMenuImp& d = *mpImp;
+    if (!d.mTypeAheadClock.isValid() || d.mTypeAheadClock.elapsed() > QApplication::keyboardInputInterval())
+        d.msTypeAhead.clear();
+    d.mTypeAheadClock.start();
+    d.msTypeAhead += typed;
+    const QList<QAction*> items = actions();
+    if (d.msTypeAhead.isEmpty() || items.isEmpty())
+        return nullptr;
+    const bool repeated = d.msTypeAhead.count(d.msTypeAhead.front()) == d.msTypeAhead.size();
+    const QString prefix = repeated ? d.msTypeAhead.left(1) : d.msTypeAhead;
+    // A new search starts after the current item; a longer one may keep it.
+    const int start = std::max(0, int(items.indexOf(after)) + (repeated ? 1 : 0));
+    for (int step = 0; step < items.size(); ++step) {
+        QAction* action = items.at((start + step) % items.size());
+        if (action->isVisible() && action->isEnabled() && !action->isSeparator() && !IsGroupLabel(action) &&
+            QString(action->text()).remove(QLatin1Char('&')).startsWith(prefix, Qt::CaseInsensitive))
+            return action;
+    }
+    return nullptr;
+}
+
+void DropDownMenu::keyPressEvent(QKeyEvent* event)
+{
+    const QString text = event->text();
+    const bool typing = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+                        text.size() == 1 && text.front().isPrint() && !text.front().isSpace();
+    if (!typing) {
+        QMenu::keyPressEvent(event);
+        return;
+    }
+    if (QAction* match = TypeAhead(text, activeAction()))
+        setActiveAction(match);
+    event->accept();
 }
 
 QSize DropDownMenu::sizeHint() const

@@ -52,6 +52,12 @@ public:
     /// The width the menu takes when it opens.
     int TargetWidth() const;
 
+    /// Type-ahead as in a combo box: adds typed to what was typed within the
+    /// keyboard input interval and gives the next item, after `after` and
+    /// wrapping round, whose text begins with it; typing one letter again steps
+    /// through the items that begin with that letter. Null when none matches.
+    QAction* TypeAhead(const QString& typed, QAction* after);
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -64,6 +70,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    /// Typed letters move the highlight by TypeAhead(); other keys work as in any menu.
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

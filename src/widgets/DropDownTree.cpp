@@ -374,7 +374,7 @@ void DropDownTreeImp::DrawFrame(QPainter& painter) const
                                                  : Internal::FrameState::Normal;
     Internal::DrawStateFrame(&painter, mpOwner, mpOwner->rect().adjusted(1, 1, -1, -1), keys, state);
     if (enabled && mpOwner->hasFocus() && !open)
-        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect(),
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect(), 0.0,
                                 ThemeManager::GetInstance()->GetColor(ThemeFileKey::DropDownButtonFocusOutline));
 }
 

@@ -204,7 +204,7 @@ void GradientSwatchImp::DrawDeleteButton(QPainter& painter) const
 void GradientSwatchImp::DrawFocus(QPainter& painter) const
 {
     if (mpOwner->hasFocus() && mpOwner->isEnabled())
-        Internal::DrawFocusRing(&painter, QRectF(mpOwner->rect()), mpOwner);
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect());
 }
 
 GradientSwatch::GradientSwatch(QWidget* parent)

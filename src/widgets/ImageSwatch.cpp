@@ -180,7 +180,7 @@ void ImageSwatchImp::DrawPlaceholder(QPainter& painter, const QRect& content, co
 void ImageSwatchImp::DrawFocus(QPainter& painter) const
 {
     if (mpOwner->hasFocus() && mpOwner->isEnabled())
-        Internal::DrawFocusRing(&painter, QRectF(mpOwner->rect()), mpOwner);
+        Internal::DrawFocusRing(&painter, mpOwner, mpOwner->rect());
 }
 
 ImageSwatch::ImageSwatch(QWidget* parent)

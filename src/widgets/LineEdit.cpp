@@ -2,6 +2,7 @@
 
 #include <KvUICore/core/CoreUIUtil_p.h>
 #include <KvUICore/theme/CustomStyle.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/EditAnnouncer_p.h>
@@ -14,6 +15,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
 #include <QSignalBlocker>
 
@@ -454,6 +456,16 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
         mpImp->mbInContextMenu = false;
     if (menu)
         delete menu.data();
+}
+
+void LineEdit::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    // Embedded, the frame around the editor shows the focus.
+    if (mpImp->mbEmbedded || !hasFocus())
+        return;
+    QPainter painter(this);
+    Internal::DrawFocusRing(&painter, this, rect());
 }
 
 void LineEdit::resizeEvent(QResizeEvent* event)

@@ -111,6 +111,8 @@ protected:
     void leaveEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// Paints the line edit, and around it the focus ring when it stands alone and has the focus.
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     Q_DISABLE_COPY_MOVE(LineEdit)

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/LinkMessage.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
@@ -182,7 +183,7 @@ void LinkMessage::paintEvent(QPaintEvent* event)
     if (!hasFocus())
         return;
     QPainter painter(this);
-    Internal::DrawFocusRing(&painter, this, rect(), Internal::ThemeColorOr(ThemeFileKey::FocusOutline1));
+    Internal::DrawFocusRing(&painter, this, rect());
 }
 
 void LinkMessage::focusInEvent(QFocusEvent* event)

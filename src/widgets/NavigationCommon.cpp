@@ -40,17 +40,6 @@ QColor ThemeColorOr(const QString& key, const QColor& fallback)
     return color.isValid() ? color : fallback;
 }
 
-void DrawFocusRing(QPainter* painter, const QWidget* widget, const QRect& rect, const QColor& color)
-{
-    if (!painter || !color.isValid() || rect.width() < 2 || rect.height() < 2)
-        return;
-    const StrokeGrid grid = StrokeGridOf(widget, painter);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, true);
-    StrokeOutline(painter, StrokeRect(painter, rect, grid), color, grid);
-    painter->restore();
-}
-
 GlyphButton::GlyphButton(const QString& colorKey, const QString& iconKey, QWidget* parent)
     : QAbstractButton(parent)
     , msColorKey(colorKey)
@@ -123,7 +112,7 @@ void GlyphButton::paintEvent(QPaintEvent*)
         mIcon.paint(&painter, cell, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
     }
     if (hasFocus())
-        DrawFocusRing(&painter, this, box, ThemeColorOr(ThemeFileKey::FocusOutline1));
+        DrawFocusRing(&painter, this, box);
 }
 
 } // namespace Kavrel::UICore::Internal

@@ -26,9 +26,6 @@ KVUICORE_EXPORT void SetAlertObserver(std::function<void(QWidget*)> observer);
 // A theme colour, or `fallback` when the theme has no such key.
 KVUICORE_EXPORT QColor ThemeColorOr(const QString& key, const QColor& fallback = QColor());
 
-// The keyboard focus ring: one whole-device-pixel stroke along the inside of rect.
-KVUICORE_EXPORT void DrawFocusRing(QPainter* painter, const QWidget* widget, const QRect& rect, const QColor& color);
-
 // A small flat button drawn as a cross (close buttons) or as a theme icon
 // (clear buttons): a hover and pressed background, and a focus ring when it
 // takes keyboard focus. Its colours follow the theme.

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/PaletteResizeButton.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
@@ -65,7 +66,7 @@ void PaletteResizeButton::paintEvent(QPaintEvent*)
             painter.drawLine(QPointF(w - d - 0.5, h - 1.5), QPointF(w - 1.5, h - d - 0.5));
     }
     if (hasFocus())
-        Internal::DrawFocusRing(&painter, this, rect(), Internal::ThemeColorOr(ThemeFileKey::FocusOutline1));
+        Internal::DrawFocusRing(&painter, this, rect());
 }
 
 void PaletteResizeButton::mousePressEvent(QMouseEvent* event)

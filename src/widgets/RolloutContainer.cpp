@@ -166,6 +166,8 @@ RolloutContainer::RolloutContainer(QWidget* parent)
     mpImp->mpCheckBox->setChecked(true);
     mpImp->mpCheckBox->hide();
     mpImp->mpCheckBox->setAccessibleName(QStringLiteral("RolloutContainer_CheckBox"));
+    // The header is the container's one Tab stop; Ctrl+Space there toggles the box.
+    mpImp->mpCheckBox->setFocusPolicy(Qt::NoFocus);
     connect(mpImp->mpCheckBox, &QCheckBox::toggled, this, &RolloutContainer::SetChecked);
     connect(mpImp->mpCheckBox, &QCheckBox::toggled, this, &RolloutContainer::CheckBoxToggled);
     connect(mpImp->mpCheckBox, &QCheckBox::clicked, this, &RolloutContainer::CheckBoxClicked);
@@ -385,11 +387,33 @@ bool RolloutContainer::event(QEvent* event)
 
 void RolloutContainer::keyPressEvent(QKeyEvent* event)
 {
-    if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && mpImp->mbExpandButtonVisible) {
-        if (event->key() == Qt::Key_Up && !mpImp->mbCollapsed)
+    const int key = event->key();
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if ((key == Qt::Key_Up || key == Qt::Key_Down) && mpImp->mbExpandButtonVisible) {
+        if (key == Qt::Key_Up && !mpImp->mbCollapsed)
             mpImp->ChangeCollapsed(true);
-        else if (event->key() == Qt::Key_Down && mpImp->mbCollapsed)
+        else if (key == Qt::Key_Down && mpImp->mbCollapsed)
             mpImp->ChangeCollapsed(false);
+        event->accept();
+        return;
+    }
+    // Only while the header has the focus: keys a child leaves unhandled rise
+    // to the container and must not fold it.
+    if (!hasFocus()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    // The check box takes no focus of its own, so the header works it.
+    if (key == Qt::Key_Space && modifiers == Qt::ControlModifier && mpImp->mbCheckable) {
+        if (!event->isAutoRepeat() && mpImp->mpCheckBox->isEnabled())
+            mpImp->mpCheckBox->click();
+        event->accept();
+        return;
+    }
+    const bool toggles = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (toggles && modifiers == Qt::NoModifier && mpImp->mbExpandButtonVisible) {
+        if (!event->isAutoRepeat())
+            mpImp->ChangeCollapsed(!mpImp->mbCollapsed);
         event->accept();
         return;
     }
@@ -428,12 +452,13 @@ void RolloutContainer::paintEvent(QPaintEvent*)
     const int titleHeight = mpImp->miTitleHeight;
     QRect title = GetTitleRect();
     title.setHeight(titleHeight);
-    if (themes->Exists(ThemeFileKey::RolloutContainerTitleBackgroundColor)) {
-        QRect bar = title;
-        if (bar.width() < width())
-            bar.setWidth(width());
+    QRect bar = title;
+    if (bar.width() < width())
+        bar.setWidth(width());
+    if (themes->Exists(ThemeFileKey::RolloutContainerTitleBackgroundColor))
         painter.fillRect(bar, themes->GetBrush(ThemeFileKey::RolloutContainerTitleBackgroundColor, bar));
-    }
+    if (hasFocus())
+        Internal::DrawFocusRing(&painter, this, bar);
     title.setLeft(title.left() + kIndentStep * mpImp->mIndentLevel);
 
     const QRect column(title.left(), title.top(), kTriangleColumnWidth, titleHeight);

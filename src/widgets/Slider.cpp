@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 
@@ -34,6 +35,46 @@ constexpr int kMaximumEffectivePrecision = 3;
 constexpr int kPageStep = 10;
 // Positions stay well inside int so that steps and ranges cannot overflow.
 constexpr double kPositionLimit = INT_MAX / 4;
+
+// The slider is one Tab stop: the control takes it (its keys step the value)
+// and the field only the pointer. Typing a number on the control starts
+// editing it in the field, so typed values stay within keyboard reach.
+class TypeIntoField : public QObject
+{
+public:
+    TypeIntoField(QWidget* control, NumericField* field)
+        : QObject(control)
+        , mpField(field)
+    {
+        control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+            return false;
+        const QString text = key->text();
+        if (text.size() != 1 || !StartsNumber(text.front()) || !mpField->isEnabled() || mpField->isReadOnly())
+            return false;
+        mpField->setFocus(Qt::OtherFocusReason);
+        mpField->selectAll();
+        QKeyEvent copy(QEvent::KeyPress, key->key(), key->modifiers(), text);
+        QCoreApplication::sendEvent(mpField, &copy);
+        return true;
+    }
+
+private:
+    static bool StartsNumber(QChar c)
+    {
+        return c.isDigit() || c == QLatin1Char('-') || c == QLatin1Char('+') || c == QLatin1Char('.') ||
+               c == QLatin1Char(',');
+    }
+
+    NumericField* const mpField;
+};
 
 } // namespace
 
@@ -183,6 +224,8 @@ Slider::Slider(QWidget* parent)
     mpImp->mpSliderControl->setPageStep(kPageStep);
     mpImp->mpSliderControl->setAttribute(Qt::WA_Hover, true);
     mpImp->mpNumericField = new NumericField(this);
+    mpImp->mpNumericField->setFocusPolicy(Qt::ClickFocus);
+    new TypeIntoField(mpImp->mpSliderControl, mpImp->mpNumericField);
     mpImp->mpUnitSymbolLabel = new QLabel(this);
     mpImp->mpUnitSymbolLabel->hide();
     // The field colours its own text; the label gets the same colour.

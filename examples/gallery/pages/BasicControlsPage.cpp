@@ -189,6 +189,7 @@ private:
                 case Focused:
                     if (!mpFocusTarget && qobject_cast<CheckBox*>(control))
                         mpFocusTarget = control;
+                    ShowFocusedInScreenshots(control);
                     break;
                 default:
                     break;

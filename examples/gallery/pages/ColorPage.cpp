@@ -155,8 +155,10 @@ private:
             swatch->setEnabled(sample.enabled);
             if (sample.rightToLeft)
                 swatch->setLayoutDirection(Qt::RightToLeft);
-            if (sample.focused)
+            if (sample.focused) {
                 mpFocusTarget = swatch;
+                ShowFocusedInScreenshots(swatch);
+            }
             row->addWidget(Captioned(swatch, Tr(sample.caption)));
         }
         row->addStretch(1);
