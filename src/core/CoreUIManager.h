@@ -110,8 +110,6 @@ public:
 
     /// Applies the global scroll-bar and tool-tip style sheets of the theme to
     /// the application, once.
-    /// Applies the global scroll-bar and tool-tip style sheets of the theme to
-    /// the application, once.
     void OverrideApplicationStyleSheet();
 
     ~CoreUIManager();

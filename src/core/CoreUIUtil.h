@@ -25,8 +25,6 @@ public:
     /// nothing; callers keep calling it so that a build can route the texts.
     /// Hosts read the diagnostics through their logging categories or
     /// CoreUIManager::SetDiagnosticHandler.
-    /// The single hook through which the library's diagnostics pass. It writes
-    /// nothing; callers keep calling it so that a build can route the texts.
     static void OutputDebugQString(const QString& text);
 };
 

@@ -35,26 +35,6 @@ class BindingImp;
 /// CoreUIUtil::OutputDebugQString and to the "kvuicore.binding" logging
 /// category (errors as warnings, tracing as debug output). The binding does not own its source or its
 /// context; when either is destroyed the binding lets go of it.
-/// Connects one attribute of a property editor element to a value: a literal
-/// of a fixed type, a property of a source object, or a binding expression
-/// that names such a property and is resolved against a BindingContext.
-///
-/// Expressions have the call form Name(arguments). "Binding(Width)" names the
-/// property Width of the context's default object, "Binding(camera.Zoom)" the
-/// property Zoom of the context object named "camera"; everything before the
-/// last "." names the object, so "Binding(a.b.c)" asks for the object "a.b".
-/// The name "Binding" matches without regard to case. Other names are kept but
-/// never resolve. Texts without parentheses are literals.
-///
-/// A bound binding follows the source property's notify signal and emits
-/// ValueChanged() and then BindingModified() when it fires; binding to another
-/// source, or losing the source, emits both as well. A binding never re-enters
-/// its own notification: when bindings form a loop (two elements bound to each
-/// other, or an element bound to its own attribute, whose attributes share one
-/// notify signal), the change goes round once, stops where it started and a
-/// diagnostic names the loop. Diagnostics go to
-/// CoreUIUtil::OutputDebugQString. The binding does not own its source or its
-/// context; when either is destroyed the binding lets go of it.
 class KVUICORE_EXPORT Binding : public QObject
 {
     Q_OBJECT

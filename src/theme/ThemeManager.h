@@ -32,17 +32,6 @@ class ThemeManagerImp;
 /// characters; a file beyond these limits fails to load with a message saying
 /// which limit it broke. An icon gives at most 64 images of 64 MiB decoded in
 /// all, and decoded icons are cached up to 256 MiB.
-/// The process-wide source of themed values. Keys are the ThemeFileKey texts;
-/// a missing key never fails but gives the empty value of its getter. The
-/// current theme ("Light" unless set otherwise) loads on the first query; while
-/// no theme is current, every query tries (and reports a failure) again.
-///
-/// Theme files and the icon files they name are read only when they are
-/// regular files (never a FIFO, device or folder) of at most 8 MiB. A $(Name)
-/// reference expands at most 4,096 times per value, a value grows to at most
-/// 1 Mi characters, and the expansions of one file insert at most 16 Mi
-/// characters; a file beyond these limits fails to load with a message saying
-/// which limit it broke.
 class KVUICORE_EXPORT ThemeManager : public QObject
 {
     Q_OBJECT

@@ -26,8 +26,6 @@ class AttributeReadLog;
 
 /// A table of (value, word) pairs for enumerated and flags attributes. Words
 /// match without regard to case.
-/// A table of (value, word) pairs for enumerated and flags attributes. Words
-/// match without regard to case.
 using XmlWordTable = QList<QPair<int, QString>>;
 
 /// Reader and writer of small XML documents: settings files and UI definitions.

@@ -33,7 +33,8 @@ class KVUICORE_EXPORT Slider : public QWidget, public WidgetUnits
     Q_PROPERTY(double minimum READ GetMinimum WRITE SetMinimum)
     /// The highest value, in the unit type.
     Q_PROPERTY(double maximum READ GetMaximum WRITE SetMaximum)
-    /// After the range, so that a loaded value is not clamped to the default range.
+    /// The value, in the unit type, within the range (declared after the range so a
+    /// loaded value is not clamped to the default range first).
     Q_PROPERTY(double value READ GetValue WRITE SetValue NOTIFY ValueUpdated)
 
 public:
