@@ -6,13 +6,20 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/DropDown.h>
 #include <KvUICore/widgets/DropDownTree.h>
+#include <KvUICore/widgets/ProgressMeter.h>
+#include <KvUICore/widgets/RolloutContainer.h>
+#include <KvUICore/widgets/Slider.h>
+#include <KvUICore/widgets/TextBox.h>
 
+#include <QAbstractButton>
 #include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QAccessibleValueInterface>
 #include <QLabel>
 #include <QMetaEnum>
 #include <QRegularExpression>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Kavrel::UICore;
@@ -55,11 +62,7 @@ class tst_Accessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Probe::UseRepositoryThemes();
-        QAccessible::setActive(true);
-    }
+    void initTestCase() { Probe::UseRepositoryThemes(); }
 
     void everyGalleryControlTellsRoleNameAndValue_data()
     {
@@ -107,6 +110,18 @@ private Q_SLOTS:
                 QVERIFY2(!value.isEmpty(), what);
             if (role == QAccessible::Slider || role == QAccessible::SpinBox || role == QAccessible::ProgressBar)
                 QVERIFY2(iface->valueInterface() && iface->valueInterface()->currentValue().isValid(), what);
+            const QAccessible::State state = iface->state();
+            if (const auto* button = qobject_cast<QAbstractButton*>(widget))
+                QVERIFY2(bool(state.checked) == button->isChecked(), what);
+            if (const auto* rollout = qobject_cast<RolloutContainer*>(widget)) {
+                QVERIFY2(bool(state.expandable) == rollout->IsExpandButtonVisible(), what);
+                QVERIFY2(bool(state.collapsed) == (state.expandable && rollout->IsCollapsed()), what);
+                QVERIFY2(bool(state.expanded) == (state.expandable && !rollout->IsCollapsed()), what);
+            }
+            if (const auto* meter = qobject_cast<ProgressMeter*>(widget))
+                QVERIFY2(bool(state.busy) == meter->IsRunning(), what);
+            if (const auto* box = qobject_cast<TextBox*>(widget))
+                QVERIFY2(bool(state.readOnly) == box->IsReadOnly(), what);
             // The parts a control is built from never leak their object names either.
             for (int index = 0; index < iface->childCount(); ++index) {
                 QAccessibleInterface* child = iface->child(index);
@@ -122,6 +137,28 @@ private Q_SLOTS:
         }
         if (walked == 0)
             QSKIP("The page shows no control of the library.");
+    }
+
+    void screenReadersOperateTheControls()
+    {
+        Slider slider;
+        slider.SetRange(0, 10);
+        QSignalSpy changed(&slider, &Slider::ValueChanged);
+        QAccessible::queryAccessibleInterface(&slider)->valueInterface()->setCurrentValue(7.5);
+        QCOMPARE(slider.GetValue(), 7.5);
+        QCOMPARE(changed.count(), 1);
+
+        RolloutContainer rollout;
+        QAccessibleInterface* group = QAccessible::queryAccessibleInterface(&rollout);
+        group->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(rollout.IsCollapsed());
+        QVERIFY(group->state().collapsed && !group->state().expanded);
+
+        DropDown dropDown;
+        dropDown.AddItem(QStringLiteral("Oak"));
+        dropDown.AddItem(QStringLiteral("Walnut"));
+        dropDown.SetCurrentIndex(1);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&dropDown)->text(QAccessible::Value), QStringLiteral("Walnut"));
     }
 };
 

@@ -30,6 +30,7 @@
 #include <QFormLayout>
 #include <QKeySequence>
 #include <QLabel>
+#include <QPointer>
 #include <QTextDocumentFragment>
 
 #include <cmath>
@@ -543,11 +544,24 @@ public:
         const double number = value.toDouble(&ok);
         if (!ok || !std::isfinite(number) || !Control()->isEnabled())
             return;
-        // As if typed, so that validation and the value signals run as for a user.
-        QString text = QString::number(number, 'g', 15);
-        text.replace(QLatin1Char('.'), Control()->GetDecimalSeparator());
-        Control()->GetNumericField()->setText(text);
-        Control()->TextEditComplete();
+        // Committed as a typed value is: the host validates, the signals follow.
+        // Each handler may delete the slider.
+        Slider* slider = Control();
+        QPointer<Slider> self(slider);
+        double committed = number;
+        bool valid = true;
+        Q_EMIT slider->ValidateChangingValue(committed, valid);
+        if (!self || !valid || !std::isfinite(committed))
+            return;
+        committed = qBound(slider->GetMinimum(), committed, slider->GetMaximum());
+        if (qFuzzyCompare(committed + 1.0, slider->GetValue() + 1.0))
+            return;
+        slider->SetValue(committed);
+        Q_EMIT slider->SliderPressed();
+        if (self)
+            Q_EMIT slider->ValueChanged(slider->GetValue());
+        if (self)
+            Q_EMIT slider->SliderReleased();
     }
 
 protected:
