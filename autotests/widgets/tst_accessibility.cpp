@@ -129,8 +129,10 @@ private Q_SLOTS:
                 QVERIFY2(childName.isEmpty() || !LooksLikeObjectName(childName, child->object()),
                          what + " child " + childName.toUtf8());
             }
-            if (!printed.contains(className)) {
-                printed.insert(className);
+            // One line per kind of control and role, for the record.
+            const QByteArray kind = className + '|' + RoleName(role).toLatin1();
+            if (!printed.contains(kind)) {
+                printed.insert(kind);
                 qInfo().noquote() << QStringLiteral("A11Y|%1|%2|%3|%4")
                                          .arg(QString::fromLatin1(className.mid(16)), RoleName(role), name, value);
             }
