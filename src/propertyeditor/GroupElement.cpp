@@ -2,6 +2,7 @@
 
 #include <KvUICore/propertyeditor/Binding.h>
 #include <KvUICore/propertyeditor/PageElement.h>
+#include <KvUICore/propertyeditor/PropertyEditorAccessible_p.h>
 #include <KvUICore/propertyeditor/PropertyEditorImp.h>
 #include <KvUICore/widgets/Divider.h>
 #include <KvUICore/widgets/Label.h>
@@ -35,10 +36,16 @@ GroupGrid::GroupGrid(GroupElement* group, QWidget* parent)
     : QWidget(parent)
     , mpGroup(group)
 {
+    Internal::InstallPropertyEditorAccessibility();
     setMouseTracking(true);
 }
 
 GroupGrid::~GroupGrid() = default;
+
+GroupElement* GroupGrid::GetGroup() const
+{
+    return mpGroup;
+}
 
 int GroupGrid::LabelColumnEdge() const
 {
@@ -395,9 +402,10 @@ void GroupElement::AddChildWidgetsOverride()
 
         const bool automatic = info.miColumn == -1;
         const bool ownLabel = info.miLabelPlacement == LabelLeft || info.miLabelPlacement == LabelFullRow;
+        Label* label = nullptr;
         if (ownLabel && automatic) {
             const Qt::Alignment alignment = Qt::Alignment(info.miLabelAlignment);
-            auto* label = new Label(child->GetLabel(), gridWidget);
+            label = new Label(child->GetLabel(), gridWidget);
             label->setAlignment(alignment);
             label->setWordWrap(info.miLabelWrap == LabelWordWrap);
             childImp->SetLabelWidget(label);
@@ -414,6 +422,9 @@ void GroupElement::AddChildWidgetsOverride()
         QWidget* control = childImp->mpWidget;
         if (!control)
             continue;
+        // The label names its control, for screen readers too.
+        if (label)
+            label->setBuddy(control);
         QWidget* placed = control;
         if (info.miControlIndent > 0) {
             auto* wrapper = new QWidget(gridWidget);

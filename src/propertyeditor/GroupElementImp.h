@@ -28,6 +28,7 @@ public:
 
     // The x of the label column's right edge, or -1 when there is none.
     int LabelColumnEdge() const;
+    GroupElement* GetGroup() const;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -3,6 +3,7 @@
 #include <KvUICore/propertyeditor/ElementRegistry_p.h>
 #include <KvUICore/propertyeditor/GroupElementImp.h>
 #include <KvUICore/propertyeditor/PageElement.h>
+#include <KvUICore/propertyeditor/PropertyEditorAccessible_p.h>
 #include <KvUICore/propertyeditor/PropertyEditorContext.h>
 #include <KvUICore/propertyeditor/PropertyEditorElementImp.h>
 #include <KvUICore/util/Diagnostics_p.h>
@@ -276,7 +277,9 @@ void PropertyEditorImp::ReportPropertyModified(PropertyEditorElement* element, c
 PropertyEditor::PropertyEditor(QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<PropertyEditorImp>(this))
-{}
+{
+    Internal::InstallPropertyEditorAccessibility();
+}
 
 PropertyEditor::~PropertyEditor() = default;
 

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QEvent>
@@ -21,6 +22,7 @@ CheckBox::CheckBox(QWidget* parent)
     : QCheckBox(parent)
     , mpImp(std::make_unique<CheckBoxImp>())
 {
+    Internal::InstallControlsAccessibility();
     Initialize();
 }
 
@@ -28,6 +30,7 @@ CheckBox::CheckBox(const QString& text, QWidget* parent)
     : QCheckBox(text, parent)
     , mpImp(std::make_unique<CheckBoxImp>())
 {
+    Internal::InstallControlsAccessibility();
     Initialize();
 }
 

@@ -2,6 +2,7 @@
 // reader is told (role, name, value) and the values it can set.
 #include <KvUICore/widgets/ColorMath_p.h>
 
+#include <KvUICore/widgets/ColorPicker.h>
 #include <KvUICore/widgets/ColorPickerParts_p.h>
 #include <KvUICore/widgets/ColorSwatch.h>
 #include <KvUICore/widgets/ColorWheel.h>
@@ -242,6 +243,43 @@ public:
     }
 };
 
+// The old and new colour chips of the picker; the old one answers a click.
+class ColorChipAccessible : public QAccessibleWidget
+{
+public:
+    explicit ColorChipAccessible(ColorChip* chip)
+        : QAccessibleWidget(chip, QAccessible::Graphic)
+    {}
+
+    QString text(QAccessible::Text t) const override
+    {
+        if (t == QAccessible::Name && widget()->accessibleName().isEmpty())
+            return Tr("Colour");
+        if (t == QAccessible::Value)
+            return AccessibleColorText(static_cast<ColorChip*>(widget())->GetColor());
+        return QAccessibleWidget::text(t);
+    }
+};
+
+// A group of controls with a name of its own or the given one.
+class GroupAccessible : public QAccessibleWidget
+{
+public:
+    GroupAccessible(QWidget* widget, const QString& fallbackName)
+        : QAccessibleWidget(widget, QAccessible::Grouping)
+        , msFallbackName(fallbackName)
+    {}
+
+    QString text(QAccessible::Text t) const override
+    {
+        const QString text = QAccessibleWidget::text(t);
+        return t == QAccessible::Name && text.isEmpty() ? msFallbackName : text;
+    }
+
+private:
+    QString msFallbackName;
+};
+
 QAccessibleInterface* ColorControlsFactory(const QString&, QObject* object)
 {
     if (!object || !object->isWidgetType())
@@ -256,6 +294,12 @@ QAccessibleInterface* ColorControlsFactory(const QString&, QObject* object)
         return new ImageSwatchAccessible(image);
     if (auto* bar = qobject_cast<AlphaBar*>(object))
         return new AlphaBarAccessible(bar);
+    if (auto* chip = qobject_cast<ColorChip*>(object))
+        return new ColorChipAccessible(chip);
+    if (auto* row = qobject_cast<RecentColorsRow*>(object))
+        return new GroupAccessible(row, Tr("Recent colours"));
+    if (auto* picker = qobject_cast<ColorPicker*>(object))
+        return new GroupAccessible(picker, Tr("Colour picker"));
     return nullptr;
 }
 

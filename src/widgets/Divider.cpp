@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 
 #include <QPainter>
 
@@ -25,6 +26,7 @@ Divider::Divider(Qt::Orientation orientation, QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<DividerImp>())
 {
+    Internal::InstallControlsAccessibility();
     mpImp->mOrientation = orientation;
     ApplyOrientation();
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &Divider::OnThemeChanged);

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/DeferredUnitsUpdate_p.h>
 #include <KvUICore/widgets/DoubleSpinBoxNumericField.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
@@ -62,6 +63,7 @@ DoubleSpinBox::DoubleSpinBox(QWidget* parent, bool compactSize)
     , WidgetUnits()
     , mpImp(std::make_unique<DoubleSpinBoxImp>(this, compactSize))
 {
+    Internal::InstallControlsAccessibility();
     setStyle(CustomStyle::GetInstance());
     mpImp->mpNumericField = new DoubleSpinBoxNumericField(this);
     setLineEdit(mpImp->mpNumericField);

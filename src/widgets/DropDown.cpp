@@ -6,6 +6,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/DropDownMenu.h>
 #include <KvUICore/widgets/ItemGroup.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
@@ -175,6 +176,7 @@ public:
             return;
         miCurrentIndex = index;
         UpdateLabel();
+        Internal::AnnounceValueChange(mpOwner, mpOwner->GetCurrentText());
         Q_EMIT mpOwner->CurrentIndexChanged(index, old);
     }
 
@@ -333,6 +335,7 @@ DropDown::DropDown(QWidget* parent)
     : QPushButton(parent)
     , mpImp(std::make_unique<DropDownImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     LiveDropDowns().insert(this);
     setAttribute(Qt::WA_Hover, true);
     setFocusPolicy(Qt::StrongFocus);
@@ -949,6 +952,9 @@ void DropDown::OpenDropDownMenu()
     menu->SetMinimumListWidth(width());
     menu->SetActiveOnShow(mpImp->ActionAt(mpImp->miCurrentIndex));
     menu->UpdateWidth();
+    // A menu is read by its window title: the list is named after its drop-down.
+    if (QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(this))
+        menu->setWindowTitle(accessible->text(QAccessible::Name));
     QPoint position;
     if (mpImp->mAlignment == AlignLeft)
         position = mapToGlobal(QPoint(0, height()));

@@ -3,6 +3,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 
 #include <QEvent>
 #include <QIcon>
@@ -20,6 +21,7 @@ ImageLabel::ImageLabel(QWidget* parent)
     : QLabel(parent)
     , mpImp(std::make_unique<ImageLabelImp>())
 {
+    Internal::InstallControlsAccessibility();
     Initialize();
 }
 
@@ -27,6 +29,7 @@ ImageLabel::ImageLabel(const QString& imageThemeKey, const QSize& imageSize, QWi
     : QLabel(parent)
     , mpImp(std::make_unique<ImageLabelImp>())
 {
+    Internal::InstallControlsAccessibility();
     mpImp->msImageThemeKey = imageThemeKey;
     mpImp->mImageSize = imageSize;
     Initialize();

@@ -5,6 +5,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/EditAnnouncer_p.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
@@ -135,6 +136,7 @@ LineEdit::LineEdit(QWidget* parent, bool embedded)
     : QLineEdit(parent)
     , mpImp(std::make_unique<LineEditImp>(this, embedded))
 {
+    Internal::InstallControlsAccessibility();
     setFont(mpImp->mTextFont);
     setAttribute(Qt::WA_Hover, true);
     setAttribute(Qt::WA_MacShowFocusRect, false);

@@ -1,6 +1,8 @@
-// The accessible interfaces of the search box, drop-down tree, breadcrumb bar,
-// message facility and palette window, and the factory that hands them to Qt.
+// The accessible interfaces of the search box, multi-line text edit, drop-down
+// tree, breadcrumb bar, message facility and palette window, and the factory
+// that hands them to Qt.
 #include <KvUICore/widgets/BreadcrumbBar.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/DropDownTree.h>
 #include <KvUICore/widgets/MessageFacility.h>
 #include <KvUICore/widgets/MessageFacilityRow_p.h>
@@ -8,13 +10,28 @@
 #include <KvUICore/widgets/PaletteTitleBar.h>
 #include <KvUICore/widgets/PaletteWindow.h>
 #include <KvUICore/widgets/SearchBox.h>
+#include <KvUICore/widgets/TextEdit.h>
 
 #include <QAccessibleWidget>
 #include <QLineEdit>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <functional>
 
 namespace Kavrel::UICore::Internal {
 
 namespace {
+
+// The host's name, else the label, the prompt, the tool tip, the fallback.
+QString NameOf(const QWidget* widget, const QString& prompt, const QString& fallback)
+{
+    for (const QString& name : {widget->accessibleName(), AccessibleLabelText(widget), prompt, widget->toolTip()}) {
+        if (!name.isEmpty())
+            return name;
+    }
+    return fallback;
+}
 
 // The field itself answers for its inner editor: one editable text, named
 // by its prompt unless the host named it.
@@ -31,7 +48,7 @@ public:
     {
         switch (t) {
         case QAccessible::Name:
-            return Box()->accessibleName().isEmpty() ? Box()->GetPrompt() : Box()->accessibleName();
+            return NameOf(Box(), Box()->GetPrompt(), SearchBox::tr("Search"));
         case QAccessible::Value:
             return Box()->GetText();
         case QAccessible::Description:
@@ -49,6 +66,146 @@ public:
         s.focusable = true;
         s.focused = Box()->hasFocus();
         return s;
+    }
+};
+
+// A widget named by the host, its label or tool tip, or else by fallback().
+class NamedAccessible : public QAccessibleWidget
+{
+public:
+    NamedAccessible(QWidget* widget, QAccessible::Role role, std::function<QString()> fallback)
+        : QAccessibleWidget(widget, role)
+        , mFallback(std::move(fallback))
+    {}
+
+    QString text(QAccessible::Text t) const override
+    {
+        return t == QAccessible::Name ? NameOf(widget(), QString(), mFallback()) : QAccessibleWidget::text(t);
+    }
+
+private:
+    std::function<QString()> mFallback;
+};
+
+// The multi-line field: text interfaces over its document, named by the
+// host, its label or its prompt.
+class TextEditAccessible : public QAccessibleWidget,
+                           public QAccessibleTextInterface,
+                           public QAccessibleEditableTextInterface
+{
+public:
+    explicit TextEditAccessible(TextEdit* edit)
+        : QAccessibleWidget(edit, QAccessible::EditableText)
+    {}
+
+    TextEdit* Edit() const { return static_cast<TextEdit*>(widget()); }
+
+    QTextCursor CursorAt(int offset) const
+    {
+        QTextCursor cursor(Edit()->document());
+        cursor.setPosition(qBound(0, offset, characterCount()));
+        return cursor;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text t) const override
+    {
+        if (t == QAccessible::Name)
+            return NameOf(Edit(), Edit()->GetPrompt(), TextEdit::tr("Text"));
+        if (t == QAccessible::Value)
+            return Edit()->toPlainText();
+        return QAccessibleWidget::text(t);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.readOnly = Edit()->isReadOnly();
+        s.editable = !s.readOnly;
+        s.multiLine = true;
+        s.selectableText = true;
+        return s;
+    }
+
+    // QAccessibleTextInterface
+    void selection(int selectionIndex, int* startOffset, int* endOffset) const override
+    {
+        const QTextCursor cursor = Edit()->textCursor();
+        const bool selected = selectionIndex == 0 && cursor.hasSelection();
+        *startOffset = selected ? cursor.selectionStart() : 0;
+        *endOffset = selected ? cursor.selectionEnd() : 0;
+    }
+    int selectionCount() const override { return Edit()->textCursor().hasSelection() ? 1 : 0; }
+    void addSelection(int startOffset, int endOffset) override { setSelection(0, startOffset, endOffset); }
+    void removeSelection(int) override
+    {
+        QTextCursor cursor = Edit()->textCursor();
+        cursor.clearSelection();
+        Edit()->setTextCursor(cursor);
+    }
+    void setSelection(int, int startOffset, int endOffset) override
+    {
+        QTextCursor cursor = CursorAt(startOffset);
+        cursor.setPosition(qBound(0, endOffset, characterCount()), QTextCursor::KeepAnchor);
+        Edit()->setTextCursor(cursor);
+    }
+    int cursorPosition() const override { return Edit()->textCursor().position(); }
+    void setCursorPosition(int position) override { Edit()->setTextCursor(CursorAt(position)); }
+    QString text(int startOffset, int endOffset) const override
+    {
+        return Edit()->toPlainText().mid(startOffset, endOffset - startOffset);
+    }
+    int characterCount() const override { return Edit()->document()->characterCount() - 1; }
+    QRect characterRect(int offset) const override
+    {
+        if (offset < 0 || offset >= characterCount())
+            return QRect();
+        QTextCursor cursor = CursorAt(offset);
+        QRect rect = Edit()->cursorRect(cursor);
+        cursor.movePosition(QTextCursor::NextCharacter);
+        const QRect next = Edit()->cursorRect(cursor);
+        if (next.top() == rect.top())
+            rect.setRight(qMax(rect.left(), next.left() - 1));
+        return QRect(Edit()->viewport()->mapToGlobal(rect.topLeft()), rect.size());
+    }
+    int offsetAtPoint(const QPoint& point) const override
+    {
+        const QPoint local = Edit()->viewport()->mapFromGlobal(point);
+        if (!Edit()->viewport()->rect().contains(local))
+            return -1;
+        return Edit()->cursorForPosition(local).position();
+    }
+    void scrollToSubstring(int startIndex, int endIndex) override
+    {
+        Edit()->setTextCursor(CursorAt(endIndex));
+        Edit()->ensureCursorVisible();
+        Edit()->setTextCursor(CursorAt(startIndex));
+        Edit()->ensureCursorVisible();
+    }
+    QString attributes(int offset, int* startOffset, int* endOffset) const override
+    {
+        *startOffset = *endOffset = offset;
+        return QString();
+    }
+
+    // QAccessibleEditableTextInterface
+    void deleteText(int startOffset, int endOffset) override { replaceText(startOffset, endOffset, QString()); }
+    void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+    void replaceText(int startOffset, int endOffset, const QString& text) override
+    {
+        if (Edit()->isReadOnly() || !Edit()->isEnabled())
+            return;
+        QTextCursor cursor = CursorAt(startOffset);
+        cursor.setPosition(qBound(0, endOffset, characterCount()), QTextCursor::KeepAnchor);
+        cursor.insertText(text);
     }
 };
 
@@ -72,7 +229,7 @@ public:
             return Tree()->accessibleDescription().isEmpty() ? DropDownTree::tr("Tree drop-down")
                                                              : Tree()->accessibleDescription();
         case QAccessible::Name:
-            return Tree()->accessibleName().isEmpty() ? Tree()->GetPrompt() : Tree()->accessibleName();
+            return NameOf(Tree(), Tree()->GetPrompt(), DropDownTree::tr("Tree drop-down"));
         default:
             return QAccessibleWidget::text(t);
         }
@@ -147,16 +304,21 @@ QAccessibleInterface* NavigationAccessibleFactory(const QString& className, QObj
         return new SearchBoxAccessible(box);
     if (auto* tree = qobject_cast<DropDownTree*>(object))
         return new DropDownTreeAccessible(tree);
+    if (auto* edit = qobject_cast<TextEdit*>(object))
+        return new TextEditAccessible(edit);
     if (auto* bar = qobject_cast<BreadcrumbBar*>(object))
-        return new QAccessibleWidget(bar, QAccessible::ToolBar);
+        return new NamedAccessible(bar, QAccessible::ToolBar, [] { return BreadcrumbBar::tr("Path"); });
     if (auto* row = qobject_cast<MessageFacilityRow*>(object))
         return new MessageRowAccessible(row);
     if (auto* facility = qobject_cast<MessageFacility*>(object))
-        return new QAccessibleWidget(facility, QAccessible::Grouping);
+        return new NamedAccessible(facility, QAccessible::Grouping, [] { return MessageFacility::tr("Messages"); });
     if (auto* palette = qobject_cast<PaletteWindow*>(object))
         return new PaletteWindowAccessible(palette);
     if (auto* bar = qobject_cast<PaletteTitleBar*>(object))
-        return new QAccessibleWidget(bar, QAccessible::TitleBar);
+        return new NamedAccessible(bar, QAccessible::TitleBar, [bar] {
+            auto* palette = qobject_cast<PaletteWindow*>(bar->window());
+            return palette ? palette->GetTitle() : bar->window()->windowTitle();
+        });
     return nullptr;
 }
 

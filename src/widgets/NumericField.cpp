@@ -5,6 +5,7 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 #include <KvUICore/widgets/EditAnnouncer_p.h>
 
@@ -73,6 +74,7 @@ NumericField::NumericField(QWidget* parent)
     : QLineEdit(parent)
     , mpImp(std::make_unique<NumericFieldImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     setFont(Internal::ItemViewFont());
     mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     setFocusPolicy(Qt::StrongFocus);

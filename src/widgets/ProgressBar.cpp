@@ -2,6 +2,7 @@
 
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
@@ -9,6 +10,7 @@ namespace Kavrel::UICore {
 ProgressBar::ProgressBar(QWidget* parent)
     : QProgressBar(parent)
 {
+    Internal::InstallControlsAccessibility();
     setStyle(CustomStyle::GetInstance());
     new Internal::ThemedColor(this, ThemeFileKey::FontNormal1, QString());
 }

@@ -2,6 +2,7 @@
 
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/Label.h>
 
 #include <QIcon>
@@ -17,11 +18,19 @@ constexpr int kTextOffset = 18;
 constexpr int kWidthBesideText = 33;
 // About 24 frames a second.
 constexpr int kFrameInterval = 41;
+
+void AnnounceBusyChange(QObject* meter)
+{
+    QAccessible::State changed;
+    changed.busy = changed.animated = true;
+    Internal::AnnounceStateChange(meter, changed);
+}
 } // namespace
 
 ProgressMeter::ProgressMeter(QWidget* parent)
     : QWidget(parent)
 {
+    Internal::InstallControlsAccessibility();
     mpImageLabel = new QLabel(this);
     mpTextLabel = new Label(this);
     // The meter sets the text label's geometry itself.
@@ -59,13 +68,24 @@ void ProgressMeter::InitializeDefaultImageFrameList()
 
 void ProgressMeter::Start()
 {
+    const bool wasRunning = IsRunning();
     mpTimer->start();
+    if (!wasRunning)
+        AnnounceBusyChange(this);
 }
 
 void ProgressMeter::End()
 {
+    const bool wasRunning = IsRunning();
     mCurrentFrame = 0;
     mpTimer->stop();
+    if (wasRunning)
+        AnnounceBusyChange(this);
+}
+
+bool ProgressMeter::IsRunning() const
+{
+    return mpTimer->isActive();
 }
 
 void ProgressMeter::SetText(QString const& text)

@@ -30,6 +30,8 @@ public:
     void Start();
     /// Stops cycling and returns to the first frame.
     void End();
+    /// Tells whether the meter is animating: true between Start() and End().
+    bool IsRunning() const;
 
     /// A non-empty text makes the meter as wide as the text's advance plus 33.
     void SetText(QString const& text);

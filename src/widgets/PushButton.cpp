@@ -4,6 +4,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
@@ -109,6 +110,7 @@ PushButton::PushButton(QWidget* parent)
     : QPushButton(parent)
     , mpImp(std::make_unique<PushButtonImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     setFont(Internal::ItemViewFont());
     setAttribute(Qt::WA_Hover);
     resize(ThemeFileKey::ButtonDefaultSize);

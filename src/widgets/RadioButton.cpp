@@ -5,6 +5,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
@@ -26,6 +27,7 @@ RadioButton::RadioButton(QWidget* parent)
     : QRadioButton(parent)
     , mpImp(std::make_unique<RadioButtonImp>())
 {
+    Internal::InstallControlsAccessibility();
     Initialize();
 }
 
@@ -33,6 +35,7 @@ RadioButton::RadioButton(const QString& text, QWidget* parent)
     : QRadioButton(text, parent)
     , mpImp(std::make_unique<RadioButtonImp>())
 {
+    Internal::InstallControlsAccessibility();
     Initialize();
 }
 

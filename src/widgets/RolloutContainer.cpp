@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -126,6 +127,9 @@ public:
             ShowContent();
         mpOwner->updateGeometry();
         mpOwner->update();
+        QAccessible::State changed;
+        changed.expanded = changed.collapsed = true;
+        Internal::AnnounceStateChange(mpOwner, changed);
         Q_EMIT mpOwner->Collapsed(mbCollapsed);
         return true;
     }
@@ -158,6 +162,7 @@ RolloutContainer::RolloutContainer(QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<RolloutContainerImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     setFont(Internal::WithThemePixelSize(QApplication::font()));
     mpImp->miTitleHeight = mpImp->ComputeTitleHeight();
     QWidget::setContentsMargins(0, mpImp->miTitleHeight, 0, 0);

@@ -2,6 +2,7 @@
 
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/DeferredUnitsUpdate_p.h>
 #include <KvUICore/widgets/NumericField.h>
 #include <KvUICore/widgets/SliderControl.h>
@@ -217,6 +218,7 @@ Slider::Slider(QWidget* parent)
     , WidgetUnits()
     , mpImp(std::make_unique<SliderImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     mpImp->mpSliderControl = new SliderControl(this);
     mpImp->mpSliderControl->setFont(QApplication::font("QAbstractItemView"));
     mpImp->mpSliderControl->setStyle(CustomStyle::GetInstance());
@@ -459,6 +461,7 @@ void Slider::OnChanged_Value(double, double newValue)
     GetLocaleStringFromValue(newValue, text);
     mpImp->mpNumericField->setText(text);
     mpImp->mpNumericField->setCursorPosition(0);
+    Internal::AnnounceValueChange(this, newValue);
     Q_EMIT ValueUpdated(newValue);
 }
 

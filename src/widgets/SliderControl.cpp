@@ -1,5 +1,6 @@
 #include <KvUICore/widgets/SliderControl.h>
 
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 #include <QKeyEvent>
@@ -164,6 +165,7 @@ SliderControl::SliderControl(QWidget* parent)
     : QSlider(Qt::Horizontal, parent)
     , mpImp(std::make_unique<SliderControlImp>(this))
 {
+    Internal::InstallControlsAccessibility();
     // The text painted into the groove.
     new Internal::ThemedColor(this);
 }

@@ -5,6 +5,7 @@
 #include <KvUICore/core/ScalableValues.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/LineEdit.h>
 #include <KvUICore/widgets/TextBoxImp.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
@@ -226,7 +227,8 @@ TextBox::TextBox(QWidget* parent)
     : QWidget(parent)
     , mpImp(std::make_unique<TextBoxImp>(this))
 {
-    mpImp->mpImageControl = new QLabel(this);
+    Internal::InstallControlsAccessibility();
+    mpImp->mpImageControl = new TextBoxIcon(this);
     mpImp->mpImageControl->setAlignment(Qt::AlignCenter);
     mpImp->mpTextBoxControl = new LineEdit(this, true);
     mpImp->mpTextBoxFilter = new TextBoxEventFilter(this);

@@ -2,11 +2,11 @@
 
 #include <KvUICore/widgets/TextBox.h>
 
+#include <QLabel>
 #include <QObject>
 #include <QPointer>
 
 class QBoxLayout;
-class QLabel;
 
 namespace Kavrel::UICore {
 
@@ -36,6 +36,16 @@ public:
 
 private:
     TextBox* const mpBox;
+};
+
+// The icon beside the editor; a class of its own so that it can tell screen
+// readers what it is and does.
+class TextBoxIcon : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
 };
 
 class TextBoxImp

@@ -5,6 +5,7 @@
 #include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
 
 namespace Kavrel::UICore {
@@ -19,6 +20,7 @@ ToolButton::ToolButton(QWidget* parent)
     : QToolButton(parent)
     , mpImp(std::make_unique<ToolButtonImp>())
 {
+    Internal::InstallControlsAccessibility();
     setFont(Internal::ItemViewFont());
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());

@@ -110,13 +110,22 @@ struct Controls
     }
 };
 
+// The label names its control, for screen readers too.
+Label* Naming(Label* label, QWidget* control)
+{
+    label->setBuddy(control);
+    return label;
+}
+
 QWidget* switches(Controls* controls, QWidget* parent)
 {
     auto* row = new QWidget(parent);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new Label(tr("Decimal precision"), row));
+    auto* precisionLabel = new Label(tr("Decimal precision"), row);
+    layout->addWidget(precisionLabel);
     auto* precision = new DropDown(row);
+    precisionLabel->setBuddy(precision);
     precision->AddItem(tr("Each unit's own"), -1);
     for (int p = 0; p <= 5; ++p)
         precision->AddItem(QString::number(p), p);
@@ -163,7 +172,7 @@ QWidget* spinBoxes(Controls* controls, QWidget* parent)
         auto* parsed = new Label(ParsedText(spin->value(), kind), page);
         QObject::connect(spin, &QDoubleSpinBox::valueChanged, parsed,
                          [parsed, &kind](double value) { parsed->setText(ParsedText(value, kind)); });
-        grid->addWidget(new Label(tr(kind.title), page), row, 0);
+        grid->addWidget(Naming(new Label(tr(kind.title), page), spin), row, 0);
         grid->addWidget(spin, row, 1);
         grid->addWidget(parsed, row, 2);
         controls->spinBoxes.emplace_back(spin, &kind);
@@ -172,7 +181,7 @@ QWidget* spinBoxes(Controls* controls, QWidget* parent)
     auto* compact = new DoubleSpinBox(page, true);
     compact->setRange(0.0, 10.0);
     compact->setValue(2.5);
-    grid->addWidget(new Label(tr("Compact"), page), row, 0);
+    grid->addWidget(Naming(new Label(tr("Compact"), page), compact), row, 0);
     grid->addWidget(compact, row, 1, Qt::AlignLeft);
     ++row;
     auto* disabled = new DoubleSpinBox(page);
@@ -181,7 +190,7 @@ QWidget* spinBoxes(Controls* controls, QWidget* parent)
     disabled->setValue(640.0);
     disabled->setEnabled(false);
     disabled->setMinimumSize(150, kRowHeight);
-    grid->addWidget(new Label(tr("Disabled"), page), row, 0);
+    grid->addWidget(Naming(new Label(tr("Disabled"), page), disabled), row, 0);
     grid->addWidget(disabled, row, 1);
     grid->setColumnStretch(2, 1);
     return page;
@@ -210,7 +219,7 @@ QWidget* sliders(Controls* controls, QWidget* parent)
             slider->SetValue(*start);
             parsed->setText(ParsedText(slider->GetValue(), kind));
         });
-        grid->addWidget(new Label(tr(kind.title), page), row, 0);
+        grid->addWidget(Naming(new Label(tr(kind.title), page), slider), row, 0);
         grid->addWidget(slider, row, 1);
         grid->addWidget(parsed, row, 2);
         controls->sliders.emplace_back(slider, &kind);
@@ -220,14 +229,14 @@ QWidget* sliders(Controls* controls, QWidget* parent)
     opacity->SetDisplayText(tr("Opacity"));
     opacity->SetValue(70.0);
     opacity->SetNumFieldVisible(false);
-    grid->addWidget(new Label(tr("Text in the groove"), page), row, 0);
+    grid->addWidget(Naming(new Label(tr("Text in the groove"), page), opacity), row, 0);
     grid->addWidget(opacity, row, 1);
     ++row;
     auto* disabled = new Slider(page);
     disabled->SetValue(25.0);
     disabled->setEnabled(false);
     disabled->setMinimumSize(150, kRowHeight);
-    grid->addWidget(new Label(tr("Disabled"), page), row, 0);
+    grid->addWidget(Naming(new Label(tr("Disabled"), page), disabled), row, 0);
     grid->addWidget(disabled, row, 1);
     grid->setColumnStretch(1, 1);
     return page;
