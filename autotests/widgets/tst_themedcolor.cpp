@@ -11,6 +11,7 @@
 #include <KvUICore/widgets/ProgressBar.h>
 #include <KvUICore/widgets/PushButton.h>
 #include <KvUICore/widgets/RadioButton.h>
+#include <KvUICore/widgets/RolloutContainer.h>
 #include <KvUICore/widgets/Slider.h>
 #include <KvUICore/widgets/SliderControl.h>
 #include <KvUICore/widgets/TextBox.h>
@@ -86,6 +87,57 @@ const QList<Control>& Controls()
         {[](QWidget* w) { return (new TextBox(w))->findChild<LineEdit*>(); }, Custom::None, QString(), false},
     };
     return controls;
+}
+
+// The controls as a host holds them, each showing some text.
+const QList<std::pair<const char*, Control::Make>>& HostControls()
+{
+    static const QList<std::pair<const char*, Control::Make>> controls = {
+        {"Label", [](QWidget* w) { return new Label(QStringLiteral("Label text"), w); }},
+        {"TextLabel", [](QWidget* w) { return new TextLabel(QStringLiteral("Text label"), w); }},
+        {"CheckBox", [](QWidget* w) { return new CheckBox(QStringLiteral("Check box"), w); }},
+        {"PushButton",
+         [](QWidget* w) {
+             auto* button = new PushButton(w);
+             button->setText(QStringLiteral("Button"));
+             return button;
+         }},
+        {"DropDown",
+         [](QWidget* w) {
+             auto* dropDown = new DropDown(w);
+             dropDown->AddItem(QStringLiteral("Drop-down item"));
+             dropDown->setText(QStringLiteral("Drop-down item"));
+             return dropDown;
+         }},
+        {"TextBox",
+         [](QWidget* w) {
+             auto* box = new TextBox(w);
+             box->SetText(QStringLiteral("Text box"));
+             return box;
+         }},
+        {"RolloutContainer",
+         [](QWidget* w) {
+             auto* rollout = new RolloutContainer(w);
+             rollout->SetTitle(QStringLiteral("Rollout title"));
+             rollout->setMinimumHeight(40);
+             return rollout;
+         }},
+        {"LineEdit",
+         [](QWidget* w) {
+             auto* edit = new LineEdit(w);
+             edit->SetText(QStringLiteral("Line edit"));
+             return edit;
+         }},
+    };
+    return controls;
+}
+
+// Pixels in which text painted in pure red covers most of the pixel; no
+// theme colours text anything like it.
+int RedPixels(QWidget* widget)
+{
+    return Probe::Count(Probe::Grab(widget),
+                        [](const QColor& c) { return c.red() >= 160 && c.green() <= 90 && c.blue() <= 90; });
 }
 
 QColor Theme(const QString& key)
@@ -225,14 +277,57 @@ private Q_SLOTS:
         color.Apply();
         color.SetKey(ThemeFileKey::FontNormal1);
         QCOMPARE(color.GetApplyCount(), applied);
-        // A palette someone else wrote is not fought over until the next reaction.
-        QPalette palette = label.palette();
-        palette.setColor(QPalette::WindowText, Qt::magenta);
-        label.setPalette(palette);
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::magenta));
-        color.Apply();
-        QCOMPARE(label.palette().color(QPalette::WindowText), Theme(ThemeFileKey::FontNormal1));
-        QCOMPARE(color.GetApplyCount(), applied + 1);
+    }
+
+    void hostPaletteWinsUntilCleared_data()
+    {
+        QTest::addColumn<int>("control");
+        for (int i = 0; i < HostControls().size(); ++i)
+            QTest::newRow(HostControls().at(i).first) << i;
+    }
+
+    // The host's red text shows, outlives a theme switch and a repolish,
+    // gives way to the disabled look, and leaves when the host clears it; a
+    // custom colour wins the same way.
+    void hostPaletteWinsUntilCleared()
+    {
+        QFETCH(int, control);
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        QWidget* widget = HostControls().at(control).second(&window);
+        layout->addWidget(widget);
+        window.resize(240, 80);
+        QVERIFY(Probe::Shown(&window));
+        ThemedColor* color = ThemedColor::Of(widget);
+        QVERIFY(color);
+        QCOMPARE(RedPixels(widget), 0);
+
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::WindowText, Qt::red);
+        widget->setPalette(palette);
+        QCOMPARE(color->GetColor(), QColor(Qt::red));
+        QVERIFY(RedPixels(widget) > 0);
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("Dark")));
+        qApp->setStyleSheet(qApp->styleSheet());
+        QCoreApplication::processEvents();
+        QCOMPARE(color->GetColor(), QColor(Qt::red));
+        QVERIFY(RedPixels(widget) > 0);
+
+        window.setEnabled(false);
+        QCOMPARE(RedPixels(widget), 0);
+        window.setEnabled(true);
+        QVERIFY(RedPixels(widget) > 0);
+
+        widget->setPalette(QPalette());
+        QCOMPARE(color->GetColor(), Theme(ThemeFileKey::FontNormal1));
+        QCOMPARE(RedPixels(widget), 0);
+
+        color->SetCustomColor(Qt::red);
+        QVERIFY(RedPixels(widget) > 0);
+        QVERIFY(ThemeManager::GetInstance()->SetCurrentTheme(QStringLiteral("HIGLight")));
+        QVERIFY(RedPixels(widget) > 0);
+        color->SetCustomColor(QColor());
+        QCOMPARE(RedPixels(widget), 0);
     }
 };
 

@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QEvent>
 
@@ -35,7 +36,7 @@ CheckBox::~CheckBox() = default;
 
 void CheckBox::Initialize()
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QBitmap>
 #include <QHelpEvent>
@@ -94,8 +95,8 @@ public:
     }
 
     Label* mpOwner;
-    // The label switches its key itself when it is disabled, so the colour
-    // object has no disabled key of its own.
+    // The label switches its key itself when it is disabled; the colour
+    // object's disabled key is there for a host colour, which replaces the key.
     Internal::ThemedColor* mpColor = nullptr;
     QString msReservedToolTip;
     QPixmap mRightPixmap;
@@ -127,8 +128,8 @@ Label::~Label() = default;
 
 void Label::Initialize()
 {
-    setFont(Internal::ItemViewFont());
-    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1, QString());
+    new Internal::ThemedFont(this);
+    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     setMinimumHeight(kStandardControlHeight);
 }
 

@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -55,6 +56,18 @@ QString ToHtml(const QList<Segment>& segments, const QColor& linkColor)
     return html;
 }
 
+// A rich-text label aligns by its text's direction; the message starts at
+// the layout's leading edge instead, unless the host aligned it otherwise.
+void AlignLeading(QLabel* label)
+{
+    const Qt::Alignment horizontal = label->alignment() & Qt::AlignHorizontal_Mask;
+    if (horizontal != Qt::AlignLeft && horizontal != (Qt::AlignRight | Qt::AlignAbsolute))
+        return;
+    const Qt::Alignment leading =
+        label->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+    label->setAlignment((label->alignment() & ~Qt::AlignHorizontal_Mask) | leading);
+}
+
 } // namespace
 
 class LinkMessageImp
@@ -86,13 +99,14 @@ LinkMessage::~LinkMessage() = default;
 void LinkMessage::Initialize()
 {
     Internal::InstallNavigationAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setTextFormat(Qt::RichText);
     setWordWrap(true);
     setOpenExternalLinks(false);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     // Room for the focus ring around the text.
     setContentsMargins(3, 2, 3, 2);
+    AlignLeading(this);
     mpImp->mpTextColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     connect(this, &QLabel::linkActivated, this, &LinkMessage::LinkActivated);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &LinkMessage::OnThemeChanged);
@@ -199,6 +213,8 @@ void LinkMessage::changeEvent(QEvent* event)
     QLabel::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         OnThemeChanged();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        AlignLeading(this);
 }
 
 } // namespace Kavrel::UICore

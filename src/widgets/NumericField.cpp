@@ -5,8 +5,9 @@
 #include <KvUICore/theme/CustomStyle.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
-#include <KvUICore/widgets/ThemedColor_p.h>
 #include <KvUICore/widgets/EditAnnouncer_p.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -73,7 +74,7 @@ NumericField::NumericField(QWidget* parent)
     : QLineEdit(parent)
     , mpImp(std::make_unique<NumericFieldImp>(this))
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     setFocusPolicy(Qt::StrongFocus);
     setStyle(CustomStyle::GetInstance());

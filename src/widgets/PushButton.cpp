@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -109,7 +110,7 @@ PushButton::PushButton(QWidget* parent)
     : QPushButton(parent)
     , mpImp(std::make_unique<PushButtonImp>(this))
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     resize(ThemeFileKey::ButtonDefaultSize);
     setMinimumSize(ThemeFileKey::ButtonDefaultSize);

@@ -6,6 +6,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 namespace Kavrel::UICore {
 
@@ -40,7 +41,7 @@ RadioButton::~RadioButton() = default;
 
 void RadioButton::Initialize()
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);

@@ -1,0 +1,152 @@
+#include <KvUICore/widgets/ThemedFont_p.h>
+
+#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/ThemeManager.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QPointer>
+#include <QWidget>
+
+namespace Kavrel::UICore::Internal {
+
+namespace {
+
+// Qt tells of a new application font only the application object; one filter
+// there passes it on to every control font.
+class ApplicationFontWatch final : public QObject
+{
+public:
+    static ApplicationFontWatch* Instance()
+    {
+        static QPointer<ApplicationFontWatch> watch;
+        if (!watch && QCoreApplication::instance()) {
+            watch = new ApplicationFontWatch(QCoreApplication::instance());
+            QCoreApplication::instance()->installEventFilter(watch);
+        }
+        return watch;
+    }
+
+    QList<ThemedFont*> mFonts;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == QCoreApplication::instance() && event->type() == QEvent::ApplicationFontChange) {
+            const QList<ThemedFont*> fonts = mFonts;
+            for (ThemedFont* font : fonts)
+                font->Apply();
+        }
+        return false;
+    }
+
+private:
+    using QObject::QObject;
+};
+
+void Watch(ThemedFont* font)
+{
+    if (ApplicationFontWatch* watch = ApplicationFontWatch::Instance())
+        watch->mFonts.append(font);
+}
+
+} // namespace
+
+ThemedFont::ThemedFont(QWidget* widget, const char* className, Adjust adjust)
+    : QObject(widget)
+    , mpWidget(widget)
+    , mClassName(className)
+    , mbGeneral(className == nullptr)
+    , mAdjust(std::move(adjust))
+{
+    Q_ASSERT(widget);
+    widget->installEventFilter(this);
+    Watch(this);
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &ThemedFont::Apply);
+    Apply();
+}
+
+ThemedFont::ThemedFont(QWidget* widget, std::function<void(const QFont&)> handler)
+    : QObject(widget)
+    , mpWidget(widget)
+    , mClassName("QAbstractItemView")
+    , mbGeneral(false)
+    , mHandler(std::move(handler))
+{
+    Q_ASSERT(widget);
+    Watch(this);
+    connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &ThemedFont::Apply);
+}
+
+ThemedFont::~ThemedFont()
+{
+    if (ApplicationFontWatch* watch = ApplicationFontWatch::Instance())
+        watch->mFonts.removeOne(this);
+}
+
+QFont ThemedFont::ControlFont(const char* className)
+{
+    QFont font = className ? QApplication::font(className) : QApplication::font();
+    // The platform's font is what an application has until its host sets one.
+    const bool hostFont = QApplication::font() != QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    ThemeManager* themes = ThemeManager::GetInstance();
+    if (!hostFont && themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
+        const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
+        if (pixelSize > 0)
+            font.setPixelSize(pixelSize);
+    }
+    return font;
+}
+
+ThemedFont* ThemedFont::Of(const QWidget* widget)
+{
+    return widget ? widget->findChild<ThemedFont*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+}
+
+void ThemedFont::SetAdjust(Adjust adjust)
+{
+    mAdjust = std::move(adjust);
+    Apply();
+}
+
+QFont ThemedFont::GetFont() const
+{
+    QFont font = ControlFont(mbGeneral ? nullptr : mClassName.constData());
+    if (mAdjust)
+        font = mAdjust(font);
+    // Every property set: a parent's font change does not seep into it.
+    font.setResolveMask(QFont::AllPropertiesResolved);
+    return font;
+}
+
+void ThemedFont::Apply()
+{
+    if (mHandler) {
+        mHandler(GetFont());
+        return;
+    }
+    if (mbHostFont)
+        return;
+    const QFont font = GetFont();
+    if (mpWidget->font() == font && mpWidget->testAttribute(Qt::WA_SetFont))
+        return;
+    mbApplying = true;
+    mpWidget->setFont(font);
+    mbApplying = false;
+}
+
+bool ThemedFont::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == mpWidget && !mbApplying && !mHandler) {
+        if (event->type() == QEvent::FontChange) {
+            // A font set on the widget that is not ours is the host's; a
+            // cleared one (nothing set) hands the font back.
+            mbHostFont = mpWidget->testAttribute(Qt::WA_SetFont) && mpWidget->font() != GetFont();
+            Apply();
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace Kavrel::UICore::Internal
