@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/Label.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
@@ -131,6 +132,7 @@ void Label::Initialize()
     new Internal::ThemedFont(this);
     mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     setMinimumHeight(kStandardControlHeight);
+    Internal::AlignToLayoutDirection(this);
 }
 
 QString Label::GetTextColorThemeKey() const
@@ -145,6 +147,7 @@ void Label::SetTextColorThemeKey(const QString& key, bool force)
     if (key == mpImp->mpColor->GetKey() && !force)
         return;
     mpImp->mpColor->SetKey(key);
+    mpImp->mpColor->DropHostColor();
     mpImp->mpColor->Apply();
     update();
 }
@@ -239,6 +242,9 @@ void Label::changeEvent(QEvent* event)
             mpImp->mpColor->SetKey(key);
     } else if (event->type() == QEvent::FontChange) {
         mpImp->UpdateFixedWidth();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        // Wrapped and rich texts are painted by QLabel, which aligns by the text.
+        Internal::AlignToLayoutDirection(this);
     }
     QLabel::changeEvent(event);
 }

@@ -1,6 +1,7 @@
 #include <KvUICore/widgets/LinkMessage.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
@@ -56,18 +57,6 @@ QString ToHtml(const QList<Segment>& segments, const QColor& linkColor)
     return html;
 }
 
-// A rich-text label aligns by its text's direction; the message starts at
-// the layout's leading edge instead, unless the host aligned it otherwise.
-void AlignLeading(QLabel* label)
-{
-    const Qt::Alignment horizontal = label->alignment() & Qt::AlignHorizontal_Mask;
-    if (horizontal != Qt::AlignLeft && horizontal != (Qt::AlignRight | Qt::AlignAbsolute))
-        return;
-    const Qt::Alignment leading =
-        label->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
-    label->setAlignment((label->alignment() & ~Qt::AlignHorizontal_Mask) | leading);
-}
-
 } // namespace
 
 class LinkMessageImp
@@ -106,7 +95,7 @@ void LinkMessage::Initialize()
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     // Room for the focus ring around the text.
     setContentsMargins(3, 2, 3, 2);
-    AlignLeading(this);
+    Internal::AlignToLayoutDirection(this);
     mpImp->mpTextColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     connect(this, &QLabel::linkActivated, this, &LinkMessage::LinkActivated);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &LinkMessage::OnThemeChanged);
@@ -214,7 +203,7 @@ void LinkMessage::changeEvent(QEvent* event)
     if (event->type() == QEvent::EnabledChange)
         OnThemeChanged();
     else if (event->type() == QEvent::LayoutDirectionChange)
-        AlignLeading(this);
+        Internal::AlignToLayoutDirection(this);
 }
 
 } // namespace Kavrel::UICore

@@ -108,6 +108,14 @@ const QColor& ThemedColor::GetHostColor() const
     return mHostColor;
 }
 
+void ThemedColor::DropHostColor()
+{
+    if (!mHostColor.isValid())
+        return;
+    mHostColor = QColor();
+    Apply();
+}
+
 const QString& ThemedColor::GetAlternateKey() const
 {
     return msAlternateKey;

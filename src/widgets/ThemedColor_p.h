@@ -76,6 +76,8 @@ public:
     bool IsDefault() const;
     // The text colour of the palette the host set, or invalid.
     const QColor& GetHostColor() const;
+    // Ends the host palette's colour: the host asked for a key explicitly.
+    void DropHostColor();
 
     // The second look: its key (none by default) and custom colour.
     const QString& GetAlternateKey() const;

@@ -1,11 +1,10 @@
 #include <KvUICore/widgets/ThemedFont_p.h>
 
-#include <KvUICore/theme/ThemeFileKey.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QApplication>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QPointer>
 #include <QWidget>
 
@@ -87,16 +86,7 @@ ThemedFont::~ThemedFont()
 
 QFont ThemedFont::ControlFont(const char* className)
 {
-    QFont font = className ? QApplication::font(className) : QApplication::font();
-    // The platform's font is what an application has until its host sets one.
-    const bool hostFont = QApplication::font() != QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    ThemeManager* themes = ThemeManager::GetInstance();
-    if (!hostFont && themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
-        const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
-        if (pixelSize > 0)
-            font.setPixelSize(pixelSize);
-    }
-    return font;
+    return WithThemePixelSize(className ? QApplication::font(className) : QApplication::font());
 }
 
 ThemedFont* ThemedFont::Of(const QWidget* widget)
@@ -141,9 +131,19 @@ bool ThemedFont::eventFilter(QObject* watched, QEvent* event)
     if (watched == mpWidget && !mbApplying && !mHandler) {
         if (event->type() == QEvent::FontChange) {
             // A font set on the widget that is not ours is the host's; a
-            // cleared one (nothing set) hands the font back.
-            mbHostFont = mpWidget->testAttribute(Qt::WA_SetFont) && mpWidget->font() != GetFont();
-            Apply();
+            // cleared one (nothing set) hands the font back. Ours coming back
+            // is a style sheet's repolish restoring what it saved.
+            if (!mpWidget->testAttribute(Qt::WA_SetFont)) {
+                mbHostFont = false;
+                Apply();
+            } else if (mpWidget->font() != GetFont()) {
+                mbHostFont = true;
+                mHostFont = mpWidget->font();
+            }
+        } else if (event->type() == QEvent::StyleChange && mbHostFont && mpWidget->font() != mHostFont) {
+            mbApplying = true;
+            mpWidget->setFont(mHostFont);
+            mbApplying = false;
         }
     }
     return QObject::eventFilter(watched, event);

@@ -61,6 +61,7 @@ private:
     Adjust mAdjust;
     std::function<void(const QFont&)> mHandler;
     bool mbHostFont = false;
+    QFont mHostFont;
     bool mbApplying = false;
 };
 
