@@ -43,7 +43,9 @@ public:
             return QRect();
         const QRect r = mpOwner->rect();
         const int side = std::min(r.height(), kRightPixmapSide);
-        return QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side);
+        // At the trailing end: the left one in a right-to-left layout.
+        return QStyle::visualRect(mpOwner->layoutDirection(), r,
+                                  QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side));
     }
 
     int AvailableTextWidth() const { return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0); }
@@ -293,7 +295,7 @@ void Label::paintEvent(QPaintEvent* event)
         painter.setPen(color);
         const QSizeF size = shown.size();
         const Qt::Alignment align = QStyle::visualAlignment(layoutDirection(), alignment());
-        qreal x = contents.left();
+        qreal x = QStyle::visualRect(layoutDirection(), rect(), QRect(contents.left(), 0, textWidth, 1)).left();
         if (align & Qt::AlignRight)
             x += textWidth - size.width();
         else if (align & Qt::AlignHCenter)
