@@ -364,16 +364,6 @@ private Q_SLOTS:
         QCOMPARE(ShownText(&label), Theme(ThemeFileKey::FontColorDisabled));
     }
 
-    void paletteIsWrittenOnlyWhenTheColourDiffers()
-    {
-        QLabel label;
-        ThemedColor color(&label);
-        const int applied = color.GetApplyCount();
-        color.Apply();
-        color.SetKey(ThemeFileKey::FontNormal1);
-        QCOMPARE(color.GetApplyCount(), applied);
-    }
-
     void hostPaletteWinsUntilCleared_data() { AddRows(HostPalette); }
 
     // The host's red text shows, outlives a theme switch and a repolish,

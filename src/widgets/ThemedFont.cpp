@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 namespace Kavrel::UICore::Internal {
@@ -27,13 +28,13 @@ public:
         return watch;
     }
 
-    QList<ThemedFont*> mFonts;
+    QSet<ThemedFont*> mFonts;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (watched == QCoreApplication::instance() && event->type() == QEvent::ApplicationFontChange) {
-            const QList<ThemedFont*> fonts = mFonts;
+            const QSet<ThemedFont*> fonts = mFonts;
             for (ThemedFont* font : fonts)
                 font->Apply();
         }
@@ -47,7 +48,7 @@ private:
 void Watch(ThemedFont* font)
 {
     if (ApplicationFontWatch* watch = ApplicationFontWatch::Instance())
-        watch->mFonts.append(font);
+        watch->mFonts.insert(font);
 }
 
 } // namespace
@@ -81,7 +82,7 @@ ThemedFont::ThemedFont(QWidget* widget, std::function<void(const QFont&)> handle
 ThemedFont::~ThemedFont()
 {
     if (ApplicationFontWatch* watch = ApplicationFontWatch::Instance())
-        watch->mFonts.removeOne(this);
+        watch->mFonts.remove(this);
 }
 
 QFont ThemedFont::ControlFont(const char* className)
