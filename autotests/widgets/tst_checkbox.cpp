@@ -25,7 +25,6 @@ private Q_SLOTS:
         // The application's global style sheet may wrap the style; the library's
         // metrics show through either way.
         QCOMPARE(box.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &box), 4);
-        QCOMPARE(box.font(), QApplication::font("QAbstractItemView"));
     }
 
     void cutLabelExplainsItself_data()

@@ -28,7 +28,18 @@ QString slug(const QString& title)
     return s;
 }
 
-// Renders every page in every built-in theme into folder, then returns.
+bool save(const QImage& shot, const QString& path)
+{
+    if (!shot.save(path)) {
+        std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(path));
+        return false;
+    }
+    std::printf("%s\n", qPrintable(path));
+    return true;
+}
+
+// Renders every page in every built-in theme into folder, left to right and
+// right to left, then returns.
 int writeScreenshots(GalleryWindow& window, const QString& folder)
 {
     QDir().mkpath(folder);
@@ -42,18 +53,14 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
             window.ShowPage(page);
             QCoreApplication::processEvents();
             QCoreApplication::processEvents();
-            const QString path = QStringLiteral("%1/%2-%3.png").arg(folder, theme, slug(window.PageTitle(page)));
             QImage shot = window.grab().toImage();
             QWidget* pageWidget = window.PageWidget(page);
             QRect visible(pageWidget->mapTo(&window, QPoint()), pageWidget->size());
             if (auto* area = qobject_cast<QScrollArea*>(pageWidget))
                 visible = QRect(area->viewport()->mapTo(&window, QPoint()), area->viewport()->size());
             PaintFocusedLooks(shot, FocusedPlaces(&window), visible);
-            if (!shot.save(path)) {
-                std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(path));
+            if (!save(shot, QStringLiteral("%1/%2-%3.png").arg(folder, theme, slug(window.PageTitle(page)))))
                 return 1;
-            }
-            std::printf("%s\n", qPrintable(path));
             ++written;
             // A scrolling page is also written whole, as tall as its contents.
             if (auto* area = qobject_cast<QScrollArea*>(window.PageWidget(page)); area && area->widget()) {
@@ -70,16 +77,24 @@ int writeScreenshots(GalleryWindow& window, const QString& folder)
                     area->setWidget(contents);
                     QCoreApplication::processEvents();
                     PaintFocusedLooks(shot, places, QRect(0, 0, width, height));
-                    const QString full =
-                        QStringLiteral("%1/%2-%3-full.png").arg(folder, theme, slug(window.PageTitle(page)));
-                    if (!shot.save(full)) {
-                        std::fprintf(stderr, "gallery: could not write %s\n", qPrintable(full));
+                    if (!save(shot,
+                              QStringLiteral("%1/%2-%3-full.png").arg(folder, theme, slug(window.PageTitle(page)))))
                         return 1;
-                    }
-                    std::printf("%s\n", qPrintable(full));
                 }
             }
         }
+        // Every page once more, mirrored as a right-to-left host shows it.
+        window.setLayoutDirection(Qt::RightToLeft);
+        for (int page = 0; page < window.PageCount(); ++page) {
+            window.ShowPage(page);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents();
+            if (!save(window.grab().toImage(),
+                      QStringLiteral("%1/%2-%3-rtl.png").arg(folder, theme, slug(window.PageTitle(page)))))
+                return 1;
+            ++written;
+        }
+        window.setLayoutDirection(Qt::LeftToRight);
     }
     return written > 0 ? 0 : 1;
 }

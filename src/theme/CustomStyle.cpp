@@ -440,7 +440,8 @@ void CustomStyle::DrawCheckBoxLabel(const QStyleOption* option, QPainter* painte
     if (!button || !widget)
         return;
     painter->save();
-    const int alignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+    const int alignment =
+        int(QStyle::visualAlignment(button->direction, Qt::AlignLeft | Qt::AlignVCenter)) | Qt::TextShowMnemonic;
     QString text = button->text;
     if (!AlwaysShowsToolTip(widget))
         text = widget->fontMetrics().elidedText(text, Qt::ElideRight, button->rect.width());
@@ -478,7 +479,9 @@ void CustomStyle::DrawRadioButton(const QStyleOption* option, QPainter* painter,
         if (!button->icon.isNull()) {
             const QIcon::Mode mode = (option->state & State_Enabled) ? QIcon::Normal : QIcon::Disabled;
             const QPixmap pixmap = button->icon.pixmap(button->iconSize, painter->device()->devicePixelRatioF(), mode);
-            painter->drawPixmap(QRect(iconRect.topLeft(), button->iconSize), pixmap);
+            // The icon leads the text: on the right in a right-to-left layout.
+            painter->drawPixmap(visualRect(button->direction, iconRect, QRect(iconRect.topLeft(), button->iconSize)),
+                                pixmap);
         }
     }
     painter->restore();
@@ -486,6 +489,7 @@ void CustomStyle::DrawRadioButton(const QStyleOption* option, QPainter* painter,
         QRect textRect = iconRect;
         if (!button->icon.isNull())
             textRect.setLeft(iconRect.left() + 4 + button->iconSize.width());
+        textRect = visualRect(button->direction, iconRect, textRect);
         proxy()->drawItemText(painter, textRect, Qt::AlignCenter | Qt::TextShowMnemonic, button->palette,
                               bool(option->state & State_Enabled), button->text, QPalette::ButtonText);
     }

@@ -6,9 +6,12 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QFont>
+#include <QFontDatabase>
 
 #include <QIcon>
+#include <QLabel>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QWidget>
@@ -252,6 +255,9 @@ QIcon IconFromTheme(const QString& key, const QSize& size)
 
 QFont WithThemePixelSize(QFont font)
 {
+    // The platform's font is what an application has until its host sets one.
+    if (QApplication::font() != QFontDatabase::systemFont(QFontDatabase::GeneralFont))
+        return font;
     ThemeManager* themes = ThemeManager::GetInstance();
     if (themes->Exists(ThemeFileKey::FontPixelSizeVal)) {
         const int pixelSize = themes->GetInt(ThemeFileKey::FontPixelSizeVal);
@@ -259,6 +265,16 @@ QFont WithThemePixelSize(QFont font)
             font.setPixelSize(pixelSize);
     }
     return font;
+}
+
+void AlignToLayoutDirection(QLabel* label)
+{
+    const Qt::Alignment horizontal = label->alignment() & Qt::AlignHorizontal_Mask;
+    if (horizontal != Qt::AlignLeft && horizontal != (Qt::AlignRight | Qt::AlignAbsolute))
+        return;
+    const Qt::Alignment leading =
+        label->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+    label->setAlignment((label->alignment() & ~Qt::AlignHorizontal_Mask) | leading);
 }
 
 void ApplyThemedIcon(QAbstractButton* button, const QString& iconKey)

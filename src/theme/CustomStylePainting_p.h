@@ -96,6 +96,7 @@ KVUICORE_EXPORT void DrawFocusRing(QPainter* painter, const QWidget* widget, con
 class QIcon;
 class QAbstractButton;
 class QFont;
+class QLabel;
 namespace Kavrel::UICore::Internal {
 
 // Schedules the repaint a theme switch needs. The container is marked dirty
@@ -108,8 +109,13 @@ KVUICORE_EXPORT void RepaintAfterThemeChange(QWidget* widget);
 // file a "String" entry names. A null icon when the key holds neither.
 KVUICORE_EXPORT QIcon IconFromTheme(const QString& key, const QSize& size);
 
-// The font at the theme's pixel size, when the theme sets one.
+// The font at the theme's pixel size, when the theme sets one and the host
+// has not set an application font of its own (which then wins whole).
 KVUICORE_EXPORT QFont WithThemePixelSize(QFont font);
+
+// Aligns a label that Qt aligns by its text's direction (wrapped or rich
+// text) to its layout's leading edge, unless the host aligned it otherwise.
+KVUICORE_EXPORT void AlignToLayoutDirection(QLabel* label);
 
 // Gives a button-like control the icon of iconKey, when the theme has one at
 // its icon size. (Its text colour belongs to its ThemedColor.)

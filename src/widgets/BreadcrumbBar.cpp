@@ -7,6 +7,7 @@
 #include <KvUICore/widgets/BreadcrumbItem.h>
 #include <KvUICore/widgets/DropDownMenu.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAction>
 #include <QEvent>
@@ -170,7 +171,7 @@ BreadcrumbBar::BreadcrumbBar(QWidget* parent)
     Internal::InstallNavigationAccessibility();
     setFixedHeight(kHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     BreadcrumbBarImp& d = *mpImp;
     d.mpOverflowButton = new BreadcrumbItem(QStringLiteral("\u2026"), this);
     d.mpOverflowButton->setObjectName(QStringLiteral("BreadcrumbOverflow"));

@@ -6,6 +6,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -146,7 +147,7 @@ BreadcrumbItem::BreadcrumbItem(const QString& text, QWidget* parent)
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &BreadcrumbItem::OnThemeChanged);

@@ -6,6 +6,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QEvent>
 
@@ -38,7 +39,7 @@ CheckBox::~CheckBox() = default;
 
 void CheckBox::Initialize()
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);

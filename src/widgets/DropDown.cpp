@@ -10,6 +10,7 @@
 #include <KvUICore/widgets/DropDownMenu.h>
 #include <KvUICore/widgets/ItemGroup.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAction>
 #include <QActionGroup>
@@ -18,6 +19,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QToolTip>
 
 #include <unordered_set>
@@ -214,6 +216,13 @@ public:
         return action ? qobject_cast<DropDownMenu*>(action->menu()) : nullptr;
     }
 
+    // The parts are laid out left to right and mirrored for a right-to-left layout.
+    QRect Visual(const QRect& logical) const
+    {
+        return QStyle::visualRect(mpOwner->layoutDirection(), mpOwner->rect(), logical);
+    }
+
+    // In left-to-right terms.
     QRect ArrowColumn() const
     {
         const QRect r = mpOwner->rect();
@@ -297,7 +306,7 @@ void DropDownImp::DrawIcon(QPainter& painter) const
                      r.top() + (r.height() - size.height()) / 2, size.width(), size.height());
     else
         cell = QRect(r.left() + kTextLeft - 2, r.top() + (r.height() - size.height()) / 2, size.width(), size.height());
-    icon.paint(&painter, cell, Qt::AlignCenter, mpOwner->isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    icon.paint(&painter, Visual(cell), Qt::AlignCenter, mpOwner->isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
 void DropDownImp::DrawText(QPainter& painter) const
@@ -306,10 +315,11 @@ void DropDownImp::DrawText(QPainter& painter) const
         return;
     const QRect r = mpOwner->rect();
     const int left = mpOwner->icon().isNull() ? kTextLeft : kTextLeft + mpOwner->iconSize().width();
-    const QRect textRect(left, r.top(), qMax(0, ArrowColumn().left() - left), r.height());
+    const QRect textRect = Visual(QRect(left, r.top(), qMax(0, ArrowColumn().left() - left), r.height()));
     painter.setFont(mpOwner->font());
     painter.setPen(Internal::ThemedColor::Of(mpOwner)->GetColor());
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+    const Qt::Alignment align = QStyle::visualAlignment(mpOwner->layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    painter.drawText(textRect, int(align) | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(mpOwner->text(), Qt::ElideRight, textRect.width()));
 }
 
@@ -322,7 +332,7 @@ void DropDownImp::DrawTriangleArrow(QPainter& painter) const
     if (!mpOwner->isEnabled())
         color = Internal::DimmedColor(color);
     // Whole-pixel corners keep the arrow crisp.
-    const QRect column = ArrowColumn();
+    const QRect column = Visual(ArrowColumn());
     const int width = 8;
     const int height = 4;
     const qreal x = column.left() + (column.width() - width) / 2 - 1;
@@ -346,6 +356,7 @@ DropDown::DropDown(QWidget* parent)
     connect(mpImp->mpMenu, &QMenu::aboutToShow, this, &DropDown::DropDownListAboutToShow);
     connect(mpImp->mpMenu, &DropDownMenu::MouseMoveOnMenu, this, &DropDown::MouseMoveOnMenu);
     // The menu's items are measured in the theme's fonts: a switch settles its width again.
+    new Internal::ThemedFont(this);
     auto* color = new Internal::ThemedColor(this);
     color->SetThemeChangedHandler([this] {
         if (mpImp->mpMenu)

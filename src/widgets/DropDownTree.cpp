@@ -8,6 +8,7 @@
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/SearchBox.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAbstractItemModel>
 #include <QAccessible>
@@ -201,7 +202,7 @@ void DropDownTreeImp::EnsurePopup()
     mpView->setSelectionMode(QAbstractItemView::SingleSelection);
     mpView->setEditTriggers(QAbstractItemView::NoEditTriggers);
     mpView->setFocusPolicy(Qt::NoFocus);
-    mpView->setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(mpView);
     mpView->setModel(mpModel);
     layout->addWidget(mpView, 1);
 
@@ -396,7 +397,9 @@ void DropDownTreeImp::DrawText(QPainter& painter) const
     painter.setPen(color);
     painter.setFont(mpOwner->font());
     // The path is cut at its start: the current item is the part that counts.
-    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine,
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(mpOwner->layoutDirection(), Qt::AlignVCenter | Qt::AlignLeading);
+    painter.drawText(textRect, int(leading) | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideLeft, textRect.width()));
 }
 
@@ -425,7 +428,7 @@ DropDownTree::DropDownTree(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setFixedHeight(ScalableIntY(kStandardControlHeight));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     mpImp->mpTextColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &DropDownTree::OnThemeChanged);
 }

@@ -1,9 +1,11 @@
 #include <KvUICore/widgets/Label.h>
 
 #include <KvUICore/core/CoreUIUtil_p.h>
+#include <KvUICore/theme/CustomStylePainting_p.h>
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QBitmap>
 #include <QHelpEvent>
@@ -41,7 +43,9 @@ public:
             return QRect();
         const QRect r = mpOwner->rect();
         const int side = std::min(r.height(), kRightPixmapSide);
-        return QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side);
+        // At the trailing end: the left one in a right-to-left layout.
+        return QStyle::visualRect(mpOwner->layoutDirection(), r,
+                                  QRect(r.right() - side, r.top() + (r.height() - side) / 2, side, side));
     }
 
     int AvailableTextWidth() const { return mpOwner->width() - (HasRightPixmapSpace() ? kRightPixmapSpace : 0); }
@@ -94,8 +98,8 @@ public:
     }
 
     Label* mpOwner;
-    // The label switches its key itself when it is disabled, so the colour
-    // object has no disabled key of its own.
+    // The label switches its key itself when it is disabled; the colour
+    // object's disabled key is there for a host colour, which replaces the key.
     Internal::ThemedColor* mpColor = nullptr;
     QString msReservedToolTip;
     QPixmap mRightPixmap;
@@ -127,9 +131,10 @@ Label::~Label() = default;
 
 void Label::Initialize()
 {
-    setFont(Internal::ItemViewFont());
-    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1, QString());
+    new Internal::ThemedFont(this);
+    mpImp->mpColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     setMinimumHeight(kStandardControlHeight);
+    Internal::AlignToLayoutDirection(this);
 }
 
 QString Label::GetTextColorThemeKey() const
@@ -144,6 +149,7 @@ void Label::SetTextColorThemeKey(const QString& key, bool force)
     if (key == mpImp->mpColor->GetKey() && !force)
         return;
     mpImp->mpColor->SetKey(key);
+    mpImp->mpColor->DropHostColor();
     mpImp->mpColor->Apply();
     update();
 }
@@ -246,6 +252,9 @@ void Label::changeEvent(QEvent* event)
             mpImp->mpColor->SetKey(key);
     } else if (event->type() == QEvent::FontChange) {
         mpImp->UpdateFixedWidth();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        // Wrapped and rich texts are painted by QLabel, which aligns by the text.
+        Internal::AlignToLayoutDirection(this);
     }
     QLabel::changeEvent(event);
 }
@@ -294,7 +303,7 @@ void Label::paintEvent(QPaintEvent* event)
         painter.setPen(color);
         const QSizeF size = shown.size();
         const Qt::Alignment align = QStyle::visualAlignment(layoutDirection(), alignment());
-        qreal x = contents.left();
+        qreal x = QStyle::visualRect(layoutDirection(), rect(), QRect(contents.left(), 0, textWidth, 1)).left();
         if (align & Qt::AlignRight)
             x += textWidth - size.width();
         else if (align & Qt::AlignHCenter)

@@ -9,6 +9,7 @@
 #include <KvUICore/widgets/EditAnnouncer_p.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -57,6 +58,17 @@ public:
         if (mpOwner->font() != font)
             mpOwner->setFont(font);
         mpColor->SetAlternateActive(mbIsPrompting);
+    }
+
+    void SetTextFont(const QFont& font)
+    {
+        if (mTextFont == font)
+            return;
+        mTextFont = font;
+        if (!mbIsPrompting) {
+            ApplyLook();
+            ShowFullOrElided();
+        }
     }
 
     void ShowFullOrElided()
@@ -109,7 +121,9 @@ public:
     }
 
     LineEdit* const mpOwner;
-    QFont mTextFont = Internal::ItemViewFont();
+    QFont mTextFont = Internal::ThemedFont::ControlFont();
+    // The text font follows the application font and the theme until one is set.
+    bool mbDefaultTextFont = true;
     // The text colour, and the prompting colour as its alternate look; both
     // follow "FontNormal1" until a custom one is set.
     Internal::ThemedColor* mpColor = nullptr;
@@ -147,6 +161,10 @@ LineEdit::LineEdit(QWidget* parent, bool embedded)
     mpImp->mpColor->SetAlternateKey(ThemeFileKey::FontNormal1);
     mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
     connect(this, &QLineEdit::textEdited, this, &LineEdit::OnTextEdited);
+    new Internal::ThemedFont(this, [this](const QFont& font) {
+        if (mpImp->mbDefaultTextFont)
+            mpImp->SetTextFont(font);
+    });
     mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     if (embedded) {
         setStyle(LineEditStyle::GetInstance());
@@ -262,13 +280,8 @@ QColor LineEdit::GetPromptingColor() const
 
 void LineEdit::SetTextFont(const QFont& font)
 {
-    if (mpImp->mTextFont == font)
-        return;
-    mpImp->mTextFont = font;
-    if (!mpImp->mbIsPrompting) {
-        mpImp->ApplyLook();
-        mpImp->ShowFullOrElided();
-    }
+    mpImp->mbDefaultTextFont = false;
+    mpImp->SetTextFont(font);
 }
 
 QFont LineEdit::GetTextFont() const

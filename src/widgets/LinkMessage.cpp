@@ -6,6 +6,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -87,13 +88,14 @@ LinkMessage::~LinkMessage() = default;
 void LinkMessage::Initialize()
 {
     Internal::InstallNavigationAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setTextFormat(Qt::RichText);
     setWordWrap(true);
     setOpenExternalLinks(false);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     // Room for the focus ring around the text.
     setContentsMargins(3, 2, 3, 2);
+    Internal::AlignToLayoutDirection(this);
     mpImp->mpTextColor = new Internal::ThemedColor(this, ThemeFileKey::FontNormal1);
     connect(this, &QLabel::linkActivated, this, &LinkMessage::LinkActivated);
     connect(ThemeManager::GetInstance(), &ThemeManager::ThemeChanged, this, &LinkMessage::OnThemeChanged);
@@ -203,6 +205,8 @@ void LinkMessage::changeEvent(QEvent* event)
     QLabel::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         OnThemeChanged();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        Internal::AlignToLayoutDirection(this);
 }
 
 } // namespace Kavrel::UICore

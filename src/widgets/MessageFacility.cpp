@@ -8,6 +8,7 @@
 #include <KvUICore/widgets/MessageFacilityRow_p.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/PushButton.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QHBoxLayout>
 #include <QHash>
@@ -239,7 +240,7 @@ MessageFacility::MessageFacility(QWidget* parent)
     , mpImp(std::make_unique<MessageFacilityImp>(this))
 {
     Internal::InstallNavigationAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     mpImp->mpLayout = new QVBoxLayout(this);
     mpImp->mpLayout->setContentsMargins(0, 0, 0, 0);

@@ -6,8 +6,9 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
-#include <KvUICore/widgets/ThemedColor_p.h>
 #include <KvUICore/widgets/EditAnnouncer_p.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -75,7 +76,7 @@ NumericField::NumericField(QWidget* parent)
     , mpImp(std::make_unique<NumericFieldImp>(this))
 {
     Internal::InstallControlsAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     mpImp->mpAnnouncer = new Internal::EditAnnouncer(this);
     setFocusPolicy(Qt::StrongFocus);
     setStyle(CustomStyle::GetInstance());

@@ -5,6 +5,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -42,7 +43,7 @@ PaletteTitleBar::PaletteTitleBar(QWidget* parent)
     Internal::InstallNavigationAccessibility();
     setFixedHeight(ThemeFileKey::TitleBarHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     mpImp->mpTextColor = new Internal::ThemedColor(this, ThemeFileKey::TitleBarTextColor);
     mpImp->mpClose = new Internal::GlyphButton(ThemeFileKey::TitleBarCloseButtonColor, QString(), this);
     mpImp->mpClose->setObjectName(QStringLiteral("PaletteCloseButton"));
@@ -123,8 +124,10 @@ void PaletteTitleBar::paintEvent(QPaintEvent*)
     if (!isEnabled())
         color = Internal::DimmedColor(color);
     painter.setPen(color);
-    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine,
-                     fontMetrics().elidedText(mpImp->msTitle, Qt::ElideRight, text.width()));
+    // AlignLeading is AlignLeft to QPainter: the layout's leading edge is asked for.
+    painter.drawText(
+        text, int(QStyle::visualAlignment(layoutDirection(), Qt::AlignVCenter | Qt::AlignLeading)) | Qt::TextSingleLine,
+        fontMetrics().elidedText(mpImp->msTitle, Qt::ElideRight, text.width()));
 }
 
 void PaletteTitleBar::resizeEvent(QResizeEvent* event)

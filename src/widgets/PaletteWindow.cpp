@@ -8,6 +8,7 @@
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/PaletteResizeButton.h>
 #include <KvUICore/widgets/PaletteTitleBar.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -145,7 +146,7 @@ void PaletteWindow::Initialize(QWidget* parent)
     PaletteWindowImp& d = *mpImp;
     setParent(parent, kFloatingFlags);
     setAttribute(Qt::WA_Hover);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     d.mpLayout = new QVBoxLayout(this);
     d.mpLayout->setContentsMargins(kBorder, kBorder, kBorder, kBorder);
     d.mpLayout->setSpacing(0);

@@ -5,9 +5,11 @@
 #include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/Label.h>
 
+#include <QEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QTimer>
 
 namespace Kavrel::UICore {
@@ -127,8 +129,12 @@ void ProgressMeter::updateGeometry()
 {
     const QRect r = rect();
     if (!GetText().isEmpty()) {
-        mpImageLabel->setGeometry(r.left(), r.top() + (r.height() - kFrameSide) / 2, kFrameSide, kFrameSide);
-        mpTextLabel->setGeometry(r.left() + kTextOffset, r.top(), r.width() - kTextOffset, r.height());
+        // The frames lead the text: on the right in a right-to-left layout.
+        const Qt::LayoutDirection direction = layoutDirection();
+        mpImageLabel->setGeometry(QStyle::visualRect(
+            direction, r, QRect(r.left(), r.top() + (r.height() - kFrameSide) / 2, kFrameSide, kFrameSide)));
+        mpTextLabel->setGeometry(QStyle::visualRect(
+            direction, r, QRect(r.left() + kTextOffset, r.top(), r.width() - kTextOffset, r.height())));
     } else {
         mpImageLabel->setGeometry(r.left() + (r.width() - kFrameSide) / 2, r.top() + (r.height() - kFrameSide) / 2,
                                   kFrameSide, kFrameSide);
@@ -143,6 +149,13 @@ void ProgressMeter::UpdateProgressMeter()
     mCurrentFrame = (mCurrentFrame + 1) % int(mFrames.size());
     mpImageLabel->setPixmap(mFrames.at(mCurrentFrame));
     update();
+}
+
+void ProgressMeter::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        updateGeometry();
+    QWidget::changeEvent(event);
 }
 
 void ProgressMeter::resizeEvent(QResizeEvent* event)

@@ -56,6 +56,8 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// Lays the frames and the text out again when the layout direction changes.
+    void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:
     void UpdateProgressMeter();

@@ -6,6 +6,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -111,7 +112,7 @@ PushButton::PushButton(QWidget* parent)
     , mpImp(std::make_unique<PushButtonImp>(this))
 {
     Internal::InstallControlsAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     resize(ThemeFileKey::ButtonDefaultSize);
     setMinimumSize(ThemeFileKey::ButtonDefaultSize);

@@ -7,6 +7,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 namespace Kavrel::UICore {
 
@@ -43,7 +44,7 @@ RadioButton::~RadioButton() = default;
 
 void RadioButton::Initialize()
 {
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::StrongFocus);

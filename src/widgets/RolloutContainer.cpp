@@ -6,6 +6,8 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/CheckBox.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
+#include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -14,6 +16,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QToolTip>
 
 namespace Kavrel::UICore {
@@ -163,7 +166,8 @@ RolloutContainer::RolloutContainer(QWidget* parent)
     , mpImp(std::make_unique<RolloutContainerImp>(this))
 {
     Internal::InstallControlsAccessibility();
-    setFont(Internal::WithThemePixelSize(QApplication::font()));
+    new Internal::ThemedFont(this, nullptr);
+    new Internal::ThemedColor(this);
     mpImp->miTitleHeight = mpImp->ComputeTitleHeight();
     QWidget::setContentsMargins(0, mpImp->miTitleHeight, 0, 0);
 
@@ -304,7 +308,8 @@ QRect RolloutContainer::GetTitleRect() const
                            ? BoundMetric(themes->GetInt(ThemeFileKey::RolloutcontainerTitleHeight))
                            : text.height();
     const int width = text.width() + kTitleExtraWidth + (mpImp->mbCheckable ? kCheckableExtraWidth : 0);
-    return QRect(rect().left() + kTitleLeft, rect().top(), width, height);
+    return QStyle::visualRect(layoutDirection(), rect(),
+                              QRect(rect().left() + kTitleLeft, rect().top(), width, height));
 }
 
 void RolloutContainer::setContentsMargins(int left, int top, int right, int bottom)
@@ -455,11 +460,17 @@ void RolloutContainer::paintEvent(QPaintEvent*)
 
     QPainter painter(this);
     const int titleHeight = mpImp->miTitleHeight;
-    QRect title = GetTitleRect();
+    // Laid out left to right, then mirrored for a right-to-left layout.
+    const Qt::LayoutDirection direction = layoutDirection();
+    const auto visual = [this, direction](const QRect& logical) {
+        return QStyle::visualRect(direction, rect(), logical);
+    };
+    QRect title = visual(GetTitleRect()); // back to left-to-right terms
     title.setHeight(titleHeight);
     QRect bar = title;
     if (bar.width() < width())
         bar.setWidth(width());
+    bar = visual(bar);
     if (themes->Exists(ThemeFileKey::RolloutContainerTitleBackgroundColor))
         painter.fillRect(bar, themes->GetBrush(ThemeFileKey::RolloutContainerTitleBackgroundColor, bar));
     if (hasFocus())
@@ -478,6 +489,12 @@ void RolloutContainer::paintEvent(QPaintEvent*)
         else
             triangle << QPointF(0, 0) << QPointF(10, 0) << QPointF(5, 7);
         triangle.translate(origin);
+        if (direction == Qt::RightToLeft) {
+            // Mirrored about the widget's middle: a collapsed arrow points left.
+            const qreal edge = rect().left() + rect().right() + 1;
+            for (QPointF& point : triangle)
+                point.setX(edge - point.x());
+        }
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing, true);
         painter.setPen(Qt::NoPen);
@@ -490,15 +507,17 @@ void RolloutContainer::paintEvent(QPaintEvent*)
     if (mpImp->mbCheckable) {
         const QRect box(column.right() + 1 + kGap, title.top() + (titleHeight - kIndicatorSize) / 2, kIndicatorSize,
                         kIndicatorSize);
-        if (mpImp->mpCheckBox->geometry() != box)
-            mpImp->mpCheckBox->setGeometry(box);
+        if (mpImp->mpCheckBox->geometry() != visual(box))
+            mpImp->mpCheckBox->setGeometry(visual(box));
         textLeft = box.right() + 1 + kGap;
     }
 
     painter.setFont(mpImp->TitleFont());
-    painter.setPen(themes->GetColor(isEnabled() ? ThemeFileKey::FontNormal1 : ThemeFileKey::FontColorDisabled));
-    const QRect textRect(textLeft, title.top(), qMax(0, width() - textLeft), titleHeight);
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextShowMnemonic,
+    painter.setPen(Internal::ThemedColor::Of(this)->GetColor());
+    const QRect textRect = visual(QRect(textLeft, title.top(), qMax(0, width() - textLeft), titleHeight));
+    painter.drawText(textRect,
+                     int(QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter)) | Qt::TextSingleLine |
+                         Qt::TextShowMnemonic,
                      mpImp->msDisplayTitle);
 }
 

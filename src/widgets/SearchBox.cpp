@@ -8,6 +8,7 @@
 #include <KvUICore/widgets/DropDownMenu.h>
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAction>
 #include <QKeyEvent>
@@ -179,7 +180,7 @@ SearchBox::SearchBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFixedHeight(ScalableIntY(kStandardControlHeight));
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
 
     d.mpEditor = new QLineEdit(this);
     d.mpEditor->setObjectName(QStringLiteral("SearchBoxEditor"));
@@ -188,7 +189,7 @@ SearchBox::SearchBox(QWidget* parent)
     // The box paints the background of every state; a disabled editor would
     // otherwise paint its own over it.
     d.mpEditor->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; }"));
-    d.mpEditor->setFont(font());
+    new Internal::ThemedFont(d.mpEditor);
     d.mpEditor->installEventFilter(this);
     d.mpTextColor = new Internal::ThemedColor(d.mpEditor, ThemeFileKey::FontSearch1);
     setFocusProxy(d.mpEditor);

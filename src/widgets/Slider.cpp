@@ -7,6 +7,7 @@
 #include <KvUICore/widgets/NumericField.h>
 #include <KvUICore/widgets/SliderControl.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <KvCoreUnits/MathUtilities.h>
 #include <KvCoreUnits/UnitsConverter.h>
@@ -220,7 +221,7 @@ Slider::Slider(QWidget* parent)
 {
     Internal::InstallControlsAccessibility();
     mpImp->mpSliderControl = new SliderControl(this);
-    mpImp->mpSliderControl->setFont(QApplication::font("QAbstractItemView"));
+    new Internal::ThemedFont(mpImp->mpSliderControl);
     mpImp->mpSliderControl->setStyle(CustomStyle::GetInstance());
     mpImp->mpSliderControl->setOrientation(Qt::Horizontal);
     mpImp->mpSliderControl->setPageStep(kPageStep);

@@ -10,6 +10,7 @@
 #include <KvUICore/widgets/TextBoxImp.h>
 #include <KvUICore/widgets/TextBoxStyle_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QAction>
 #include <QApplication>
@@ -82,6 +83,14 @@ QBrush DisabledBrush(const QBrush& normal, const QBrush& disabled)
 QColor DisabledColor(const QColor& normal, const QColor& disabled)
 {
     return disabled.isValid() ? disabled : Internal::DimmedColor(normal);
+}
+
+// The host's text colour where it set a palette on the box, else the theme's.
+QColor BoxTextColor(const QWidget* box)
+{
+    if (const Internal::ThemedColor* color = Internal::ThemedColor::Of(box))
+        return color->GetEnabledColor(false);
+    return ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
 }
 
 } // namespace
@@ -172,15 +181,6 @@ QRect TextBoxImp::FrameRect() const
     return QRect(QPoint(editor.left() - text.left, 0), QPoint(editor.right() + text.right, mpOwner->height() - 1));
 }
 
-QFont TextBoxImp::SizedFont(const QFont& font) const
-{
-    if (miFontPixelSize <= 0)
-        return font;
-    QFont sized = font;
-    sized.setPixelSize(miFontPixelSize);
-    return sized;
-}
-
 void TextBoxImp::PushEditorLook(const QColor& textColor)
 {
     // The editor follows the theme by itself; a colour is pushed only where
@@ -188,11 +188,11 @@ void TextBoxImp::PushEditorLook(const QColor& textColor)
     // dimmed text of a disabled box), and taken back when it no longer does.
     const QColor themed = ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
     const auto pushed = [&themed](const QColor& color) { return color == themed ? QColor() : color; };
-    const QFont textFont = SizedFont(mpOwner->TextFont());
+    const QFont textFont = mpOwner->TextFont();
     if (mpTextBoxControl->GetTextFont() != textFont)
         mpTextBoxControl->SetTextFont(textFont);
     mpTextBoxControl->SetTextColor(pushed(textColor));
-    const QFont promptingFont = SizedFont(mpOwner->PromptingFont());
+    const QFont promptingFont = mpOwner->PromptingFont();
     if (mpTextBoxControl->GetPromptingFont() != promptingFont)
         mpTextBoxControl->SetPromptingFont(promptingFont);
     QColor promptingColor = mpOwner->PromptingColor();
@@ -263,6 +263,11 @@ TextBox::TextBox(QWidget* parent)
     Internal::ThemedColor* editorColor = Internal::ThemedColor::Of(editor);
     editorColor->SetDisabledKey(QString());
     editorColor->SetThemeChangedHandler([this] { update(); });
+    // The box's own colour and font are what it pushes into the editor, so a
+    // palette or application font the host sets reaches the text; like the
+    // editor, the box dims its disabled text itself.
+    new Internal::ThemedColor(this, ThemeFileKey::FontNormal1, QString());
+    new Internal::ThemedFont(this);
 
     editor->setAccessibleName(QStringLiteral("mpTextBoxControl"));
     mpImp->mpImageControl->setAccessibleName(QStringLiteral("mpImageControl"));
@@ -579,24 +584,24 @@ QBrush TextBox::BackgroundFocusedBrush() const
 
 QColor TextBox::TextColor() const
 {
-    return ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    return BoxTextColor(this);
 }
 
 QColor TextBox::TextFocusColor() const
 {
-    return ThemeManager::GetInstance()->GetColor(ThemeFileKey::FontNormal1);
+    return BoxTextColor(this);
 }
 
 QFont TextBox::TextFont() const
 {
-    return QApplication::font("QAbstractItemView");
+    return font();
 }
 
 QFont TextBox::PromptingFont() const
 {
-    QFont font;
-    font.setItalic(true);
-    return font;
+    QFont italic = font();
+    italic.setItalic(true);
+    return italic;
 }
 
 QColor TextBox::PromptingColor() const
@@ -770,9 +775,8 @@ void TextBox::UpdateLayout()
     const Margins text = TextMargins();
     const Margins image = ImageMargins();
     const int h = height() > 0 ? height() : PreferredSize().height();
-    mpImp->miFontPixelSize = qMax(1, h - text.bottom - text.top);
-    mpImp->mpTextBoxControl->SetTextFont(mpImp->SizedFont(TextFont()));
-    mpImp->mpTextBoxControl->SetPromptingFont(mpImp->SizedFont(PromptingFont()));
+    mpImp->mpTextBoxControl->SetTextFont(TextFont());
+    mpImp->mpTextBoxControl->SetPromptingFont(PromptingFont());
     const int side = qMax(1, h - image.bottom - image.top);
     mpImp->mpImageControl->setFixedSize(side, side);
 

@@ -54,7 +54,6 @@ public:
     explicit TextBoxImp(TextBox* owner);
 
     QRect FrameRect() const;
-    QFont SizedFont(const QFont& font) const;
     void PushEditorLook(const QColor& textColor);
     void UpdateEditorTooltip(const QString& text);
     void ShowIcon();
@@ -76,8 +75,6 @@ public:
     bool mbTooltipEnabled = true;
 
     QBoxLayout* mpLayout = nullptr;
-    // The editor's font size that the box height allows; 0 before the first layout.
-    int miFontPixelSize = 0;
 };
 
 } // namespace Kavrel::UICore

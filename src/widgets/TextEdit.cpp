@@ -7,6 +7,7 @@
 #include <KvUICore/widgets/NavigationCommon_p.h>
 #include <KvUICore/widgets/TextBox.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -119,7 +120,7 @@ TextEdit::TextEdit(QWidget* parent)
     Internal::InstallNavigationAccessibility();
     setAttribute(Qt::WA_Hover);
     setFrameShape(QFrame::NoFrame);
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setTabChangesFocus(true);
     setViewportMargins(kFrameMargin, kFrameMargin, kFrameMargin, kFrameMargin);
     // The frame painted around the viewport shows through it.

@@ -4,6 +4,10 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
+
+#include <QPainter>
+#include <QStyle>
 
 namespace Kavrel::UICore {
 
@@ -35,7 +39,11 @@ void TextLabel::Initialize()
     setTextFormat(Qt::PlainText);
     mpImp->mpColor = new Internal::ThemedColor(this);
     mpImp->mpColor->SetThemeChangedHandler([this] { OnThemeChanged(); });
-    ApplyFont();
+    // Bold only where the theme lets static labels be bold.
+    new Internal::ThemedFont(this, "QAbstractItemView", [this](QFont font) {
+        font.setBold(mpImp->mbBold && ThemeManager::GetInstance()->GetInt(ThemeFileKey::StaticLabelFontBold) != 0);
+        return font;
+    });
 }
 
 QString TextLabel::GetTextColorThemeKey() const
@@ -76,12 +84,34 @@ void TextLabel::OnThemeChanged()
     ApplyFont();
 }
 
+void TextLabel::paintEvent(QPaintEvent* event)
+{
+    // QLabel aligns plain text by the text's own direction; a control in a
+    // right-to-left layout aligns by the layout's.
+    const bool plain = textFormat() == Qt::PlainText && pixmap().isNull() &&
+                       !(textInteractionFlags() & (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard));
+    if (!plain) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    drawFrame(&painter);
+    const int m = margin();
+    QRect box = contentsRect().adjusted(m, m, -m, -m);
+    const Qt::Alignment align = QStyle::visualAlignment(layoutDirection(), alignment());
+    if (indent() > 0) {
+        if (align & Qt::AlignLeft)
+            box.setLeft(box.left() + indent());
+        else if (align & Qt::AlignRight)
+            box.setRight(box.right() - indent());
+    }
+    const int flags = int(align) | (wordWrap() ? int(Qt::TextWordWrap) : 0);
+    style()->drawItemText(&painter, box, flags, palette(), isEnabled(), text(), foregroundRole());
+}
+
 void TextLabel::ApplyFont()
 {
-    QFont font = Internal::ItemViewFont();
-    font.setBold(mpImp->mbBold && ThemeManager::GetInstance()->GetInt(ThemeFileKey::StaticLabelFontBold) != 0);
-    if (font != this->font())
-        setFont(font);
+    Internal::ThemedFont::Of(this)->Apply();
 }
 
 } // namespace Kavrel::UICore

@@ -48,6 +48,10 @@ public Q_SLOTS:
     /// Applies the theme's text colour and font again.
     void OnThemeChanged();
 
+protected:
+    /// Paints plain text aligned for the label's layout direction, so that it mirrors in a right-to-left layout.
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     Q_DISABLE_COPY_MOVE(TextLabel)
     void Initialize();

@@ -5,15 +5,24 @@
 #include <KvUICore/theme/ThemeManager.h>
 
 #include <QEvent>
+#include <QMetaObject>
 #include <QWidget>
+
+#include <algorithm>
+#include <iterator>
 
 namespace Kavrel::UICore::Internal {
 
 namespace {
+
+constexpr QPalette::ColorRole kTextRoles[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
+// Enough to recognise the colours of the themes visited lately.
+constexpr qsizetype kThemedHistory = 8;
+
 bool PaletteHoldsTextColor(const QPalette& palette, const QColor& color)
 {
     for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        for (auto role : kTextRoles) {
             const QBrush& brush = palette.brush(group, role);
             if (brush.style() != Qt::SolidPattern || brush.color() != color)
                 return false;
@@ -79,6 +88,8 @@ void ThemedColor::SetCustomColor(const QColor& color)
     if (color == mCustomColor)
         return;
     mCustomColor = color;
+    if (color.isValid())
+        mHostColor = QColor();
     Apply();
 }
 
@@ -90,6 +101,19 @@ const QColor& ThemedColor::GetCustomColor() const
 bool ThemedColor::IsDefault() const
 {
     return !mCustomColor.isValid();
+}
+
+const QColor& ThemedColor::GetHostColor() const
+{
+    return mHostColor;
+}
+
+void ThemedColor::DropHostColor()
+{
+    if (!mHostColor.isValid())
+        return;
+    mHostColor = QColor();
+    Apply();
 }
 
 const QString& ThemedColor::GetAlternateKey() const
@@ -133,6 +157,8 @@ void ThemedColor::SetAlternateActive(bool active)
 
 QColor ThemedColor::GetEnabledColor(bool alternate) const
 {
+    if (mHostColor.isValid())
+        return mHostColor;
     if (alternate) {
         if (mAlternateCustomColor.isValid())
             return mAlternateCustomColor;
@@ -165,7 +191,16 @@ QColor ThemedColor::GetColor() const
 void ThemedColor::Apply()
 {
     const QColor color = GetColor();
-    if (!color.isValid() || PaletteHoldsTextColor(mpWidget->palette(), color))
+    if (!color.isValid())
+        return;
+    mLastWritten = color.rgba();
+    if (color != mHostColor && color != mCustomColor && color != mAlternateCustomColor) {
+        mThemed.removeOne(mLastWritten);
+        mThemed.append(mLastWritten);
+        if (mThemed.size() > kThemedHistory)
+            mThemed.removeFirst();
+    }
+    if (PaletteHoldsTextColor(mpWidget->palette(), color))
         return;
     // Writing the palette sends events back to the filter; they must not loop.
     mbApplying = true;
@@ -192,11 +227,15 @@ bool ThemedColor::eventFilter(QObject* watched, QEvent* event)
         case QEvent::Polish: // a style may settle the palette when it polishes
             Apply();
             break;
+        case QEvent::PaletteChange:
+            OnPaletteChanged();
+            break;
         case QEvent::StyleChange:
             // A style sheet's repolish brings back the palette saved at the
             // last polish. During a theme switch it comes before ThemeChanged,
             // once for the widget and once more for every styled ancestor:
             // the colour is applied once, when ThemeChanged arrives.
+            mPendingHostColor = QColor();
             if (ThemeManager::GetInstance()->GetCurrentTheme() == msTheme)
                 Apply();
             break;
@@ -205,6 +244,62 @@ bool ThemedColor::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QObject::eventFilter(watched, event);
+}
+
+void ThemedColor::OnPaletteChanged()
+{
+    // Only what the host can see and means is looked at: the text roles set
+    // on this widget (not inherited) in the groups of an enabled widget.
+    const QPalette& palette = mpWidget->palette();
+    bool anySet = false;
+    QColor changed;
+    for (auto group : {QPalette::Active, QPalette::Inactive}) {
+        for (auto role : kTextRoles) {
+            if (!palette.isBrushSet(group, role))
+                continue;
+            anySet = true;
+            const QColor color = palette.color(group, role);
+            if (!changed.isValid() && color.rgba() != mLastWritten)
+                changed = color;
+        }
+    }
+    if (!anySet) {
+        // The host cleared its palette (or set one without text): back to the
+        // theme, at once unless a theme switch's notice will do it.
+        mHostColor = QColor();
+        mPendingHostColor = QColor();
+        if (ThemeManager::GetInstance()->GetCurrentTheme() == msTheme)
+            Apply();
+        return;
+    }
+    if (!changed.isValid() || changed == mHostColor)
+        return;
+    if (mThemed.contains(changed.rgba())) {
+        const bool queued = mPendingHostColor.isValid();
+        mPendingHostColor = changed;
+        if (!queued)
+            QMetaObject::invokeMethod(this, &ThemedColor::AdoptPendingHostColor, Qt::QueuedConnection);
+        return;
+    }
+    mHostColor = changed;
+    Apply();
+}
+
+void ThemedColor::AdoptPendingHostColor()
+{
+    const QColor color = mPendingHostColor;
+    mPendingHostColor = QColor();
+    if (!color.isValid())
+        return;
+    // Still the palette the host set, not one a later change replaced.
+    const QPalette& palette = mpWidget->palette();
+    const bool held = std::any_of(std::begin(kTextRoles), std::end(kTextRoles), [&](QPalette::ColorRole role) {
+        return palette.isBrushSet(QPalette::Active, role) && palette.color(QPalette::Active, role) == color;
+    });
+    if (!held)
+        return;
+    mHostColor = color;
+    Apply();
 }
 
 void ThemedColor::OnThemeChanged()

@@ -4,6 +4,7 @@
 #include <KvUICore/theme/ThemeFileKey.h>
 
 #include <QColor>
+#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -35,6 +36,18 @@ namespace Kavrel::UICore::Internal {
 // handler, so the control's own per-switch work (icons, widths) sits beside
 // the colour instead of in a second connection.
 //
+// A palette the host sets on the widget with a text colour of its own (any
+// of the text roles in the active or inactive group, explicitly set) wins
+// like a custom colour: it outlives theme switches and is written back after
+// a style's repolish, until the host clears it (setPalette(QPalette()) or a
+// palette without text roles), when the themed colour returns. Between a host
+// palette and a custom colour, the one set last wins. The host's colour
+// replaces every enabled look (the alternate one too); the disabled key still
+// wins while the widget is disabled. A palette change that brings back a
+// themed colour this object wrote before is what a style sheet's
+// repolish does: it is settled by the StyleChange that follows, or, when none
+// follows, taken as the host's once control returns to the event loop.
+//
 // The object is a child of the widget and goes with it.
 class KVUICORE_EXPORT ThemedColor final : public QObject
 {
@@ -57,9 +70,14 @@ public:
 
     // A custom colour wins over the enabled key until cleared with an invalid
     // colour; the disabled key still applies while the widget is disabled.
+    // Setting one ends a host palette's colour.
     void SetCustomColor(const QColor& color);
     const QColor& GetCustomColor() const;
     bool IsDefault() const;
+    // The text colour of the palette the host set, or invalid.
+    const QColor& GetHostColor() const;
+    // Ends the host palette's colour: the host asked for a key explicitly.
+    void DropHostColor();
 
     // The second look: its key (none by default) and custom colour.
     const QString& GetAlternateKey() const;
@@ -94,6 +112,8 @@ protected:
 
 private:
     void OnThemeChanged();
+    void OnPaletteChanged();
+    void AdoptPendingHostColor();
 
     QWidget* mpWidget;
     QString msKey;
@@ -101,6 +121,12 @@ private:
     QColor mCustomColor;
     QString msAlternateKey;
     QColor mAlternateCustomColor;
+    QColor mHostColor;
+    // What the palette was last given, and the themed colours given before:
+    // a palette change back to one of those is a restore, not the host's.
+    QRgb mLastWritten = 0;
+    QList<QRgb> mThemed;
+    QColor mPendingHostColor;
     // The theme of the last ThemeChanged seen: while the current theme
     // differs, a switch is under way and its notice still to come.
     QString msTheme;

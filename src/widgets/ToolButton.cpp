@@ -7,6 +7,7 @@
 #include <KvUICore/theme/ThemeManager.h>
 #include <KvUICore/widgets/ControlsAccessible_p.h>
 #include <KvUICore/widgets/ThemedColor_p.h>
+#include <KvUICore/widgets/ThemedFont_p.h>
 
 namespace Kavrel::UICore {
 
@@ -21,7 +22,7 @@ ToolButton::ToolButton(QWidget* parent)
     , mpImp(std::make_unique<ToolButtonImp>())
 {
     Internal::InstallControlsAccessibility();
-    setFont(Internal::ItemViewFont());
+    new Internal::ThemedFont(this);
     setAttribute(Qt::WA_Hover);
     setStyle(CustomStyle::GetInstance());
     setFocusPolicy(Qt::TabFocus);
