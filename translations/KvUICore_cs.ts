@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Skryté úrovně</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Cesta</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -153,6 +157,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Přepínač</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Tlačítko</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Rozbalovací seznam</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Textové pole</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Posuvník</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Číslo</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Skupina</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Průběh</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Obrázek</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -230,6 +277,10 @@
         <source>Close message</source>
         <translation>Zavřít zprávu</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Zprávy</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -243,6 +294,17 @@
     <message>
         <source>Close</source>
         <translation>Zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Vlastnosti</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Skupina</translation>
     </message>
 </context>
 <context>
@@ -269,6 +331,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Nedávná hledání</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
 </context>
 <context>

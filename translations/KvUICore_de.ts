@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Ausgeblendete Ebenen</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -152,6 +156,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Umschalter</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Schaltfläche</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Dropdown-Liste</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Textfeld</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Schieberegler</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -229,6 +276,10 @@
         <source>Close message</source>
         <translation>Meldung schließen</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -242,6 +293,17 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
     </message>
 </context>
 <context>
@@ -268,6 +330,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Letzte Suchen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Niveles ocultos</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -152,6 +156,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Alternar</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Botón</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Lista desplegable</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Campo de texto</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Control deslizante</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -229,6 +276,10 @@
         <source>Close message</source>
         <translation>Cerrar mensaje</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -242,6 +293,17 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
     </message>
 </context>
 <context>
@@ -268,6 +330,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Búsquedas recientes</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
     </message>
 </context>
 <context>

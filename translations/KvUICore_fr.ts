@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Niveaux masqués</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -152,6 +156,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Bascule</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Bouton</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Liste déroulante</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Champ de texte</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Curseur</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -229,6 +276,10 @@
         <source>Close message</source>
         <translation>Fermer le message</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -242,6 +293,17 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
     </message>
 </context>
 <context>
@@ -268,6 +330,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Recherches récentes</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Rejtett szintek</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Elérési út</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Kapcsoló</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Gomb</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Legördülő lista</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Szövegmező</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Csúszka</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Szám</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Csoport</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Folyamat</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Kép</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>Üzenet bezárása</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Üzenetek</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>Bezárás</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Tulajdonságok</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Csoport</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Legutóbbi keresések</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Keresés</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Szöveg</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Livelli nascosti</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Percorso</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -152,6 +156,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Interruttore</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Pulsante</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Elenco a discesa</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Campo di testo</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Dispositivo di scorrimento</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppo</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Immagine</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -229,6 +276,10 @@
         <source>Close message</source>
         <translation>Chiudi messaggio</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messaggi</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -242,6 +293,17 @@
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppo</translation>
     </message>
 </context>
 <context>
@@ -268,6 +330,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Ricerche recenti</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>非表示の階層</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>トグル</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>ボタン</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>ドロップダウン</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>テキスト フィールド</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>メッセージを閉じる</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>メッセージ</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>最近の検索</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
     </message>
 </context>
 <context>

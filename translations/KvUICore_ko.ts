@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>숨겨진 수준</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>경로</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>토글</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>단추</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>드롭다운</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>텍스트 필드</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>슬라이더</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>그룹</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행률</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>이미지</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>메시지 닫기</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>메시지</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>속성</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>그룹</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>최근 검색</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
     </message>
 </context>
 <context>

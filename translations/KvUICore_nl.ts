@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Verborgen niveaus</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Pad</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -152,6 +156,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Schakelaar</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Knop</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Vervolgkeuzelijst</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Tekstveld</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Schuifregelaar</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Getal</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groep</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Voortgang</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Afbeelding</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -229,6 +276,10 @@
         <source>Close message</source>
         <translation>Bericht sluiten</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Berichten</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -242,6 +293,17 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groep</translation>
     </message>
 </context>
 <context>
@@ -268,6 +330,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Recente zoekopdrachten</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Ukryte poziomy</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Ścieżka</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -153,6 +157,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Przełącznik</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Przycisk</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Lista rozwijana</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Pole tekstowe</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Suwak</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Liczba</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupa</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Obraz</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -230,6 +277,10 @@
         <source>Close message</source>
         <translation>Zamknij komunikat</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Komunikaty</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -243,6 +294,17 @@
     <message>
         <source>Close</source>
         <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Właściwości</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupa</translation>
     </message>
 </context>
 <context>
@@ -269,6 +331,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Ostatnie wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Скрытые уровни</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Путь</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -153,6 +157,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Переключатель</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Кнопка</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Раскрывающийся список</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Текстовое поле</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Ползунок</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Число</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Изображение</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -230,6 +277,10 @@
         <source>Close message</source>
         <translation>Закрыть сообщение</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>Сообщения</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -243,6 +294,17 @@
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
     </message>
 </context>
 <context>
@@ -269,6 +331,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Недавние запросы</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>Gizli düzeyler</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>Yol</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>Geçiş düğmesi</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Düğme</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>Açılır liste</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>Metin alanı</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Kaydırıcı</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Sayı</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grup</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>İlerleme</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%%1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Görüntü</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>Mesajı kapat</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>İletiler</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Özellikler</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grup</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>Son aramalar</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Ara</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>隐藏的层级</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>切换</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>按钮</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>下拉列表</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>文本框</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>滑块</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>关闭消息</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>最近搜索</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,10 @@
         <source>Hidden levels</source>
         <translation>隱藏的層級</translation>
     </message>
+    <message>
+        <source>Path</source>
+        <translation>路徑</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorControlsAccessible</name>
@@ -151,6 +155,49 @@
     </message>
 </context>
 <context>
+    <name>Kavrel::UICore::ControlsAccessible</name>
+    <message>
+        <source>Toggle</source>
+        <translation>切換</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>按鈕</translation>
+    </message>
+    <message>
+        <source>Drop-down</source>
+        <translation>下拉式清單</translation>
+    </message>
+    <message>
+        <source>Text field</source>
+        <translation>文字欄位</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>滑桿</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>數字</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群組</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進度</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>影像</translation>
+    </message>
+</context>
+<context>
     <name>Kavrel::UICore::DropDownTree</name>
     <message>
         <source>Filter</source>
@@ -228,6 +275,10 @@
         <source>Close message</source>
         <translation>關閉訊息</translation>
     </message>
+    <message>
+        <source>Messages</source>
+        <translation>訊息</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::PaletteResizeButton</name>
@@ -241,6 +292,17 @@
     <message>
         <source>Close</source>
         <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::PropertyEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>內容</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群組</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,17 @@
     <message>
         <source>Recent searches</source>
         <translation>最近搜尋</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+</context>
+<context>
+    <name>Kavrel::UICore::TextEdit</name>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
     </message>
 </context>
 <context>

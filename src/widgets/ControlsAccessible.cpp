@@ -39,10 +39,10 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-QString Tr(const char* text)
+struct Text
 {
-    return QCoreApplication::translate("Kavrel::UICore::ControlsAccessible", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Kavrel::UICore::ControlsAccessible)
+};
 
 // Names the library gives its own parts so that hosts can find them; they
 // mean nothing to a listener.
@@ -255,12 +255,12 @@ protected:
         QString key = Button()->property("iconThemeKey").toString();
         if (const auto* push = qobject_cast<PushButton*>(Button())) {
             if (push->IsMiniIcon())
-                return Tr("Toggle");
+                return Text::tr("Toggle");
             if (ThemeManager::GetInstance()->Exists(push->objectName()))
                 key = push->objectName();
         }
         const QString words = KeyWords(key);
-        return words.isEmpty() ? Tr("Button") : words;
+        return words.isEmpty() ? Text::tr("Button") : words;
     }
 };
 
@@ -318,7 +318,7 @@ public:
 
 protected:
     QString OwnText() const override { return OffersChoices() ? QString() : Spoken(Box()->text()); }
-    QString FallbackName() const override { return Tr("Drop-down"); }
+    QString FallbackName() const override { return Text::tr("Drop-down"); }
     QString ValueText() const override { return OffersChoices() ? Spoken(Box()->GetCurrentText()) : QString(); }
 };
 
@@ -444,7 +444,7 @@ protected:
     {
         if (Prompting() && !Prompting()->GetPrompting().isEmpty())
             return Prompting()->GetPrompting();
-        return Edit()->placeholderText().isEmpty() ? Tr("Text field") : Edit()->placeholderText();
+        return Edit()->placeholderText().isEmpty() ? Text::tr("Text field") : Edit()->placeholderText();
     }
     QString ValueText() const override { return Prompting() ? Prompting()->GetText() : Shown(); }
 };
@@ -474,7 +474,7 @@ protected:
     QString FallbackName() const override
     {
         const QString prompt = Box()->GetLineEdit()->GetPrompting();
-        return prompt.isEmpty() ? Tr("Text field") : prompt;
+        return prompt.isEmpty() ? Text::tr("Text field") : prompt;
     }
     QString ValueText() const override { return Box()->GetText(); }
 };
@@ -566,7 +566,7 @@ public:
 
 protected:
     QString OwnText() const override { return Spoken(Control()->GetSliderControl()->GetDisplayText()); }
-    QString FallbackName() const override { return Tr("Slider"); }
+    QString FallbackName() const override { return Text::tr("Slider"); }
     QString ValueText() const override { return Control()->GetNumericField()->text(); }
 };
 
@@ -592,7 +592,7 @@ public:
 
 protected:
     QString OwnText() const override { return Spoken(Control()->GetDisplayText()); }
-    QString FallbackName() const override { return Tr("Slider"); }
+    QString FallbackName() const override { return Text::tr("Slider"); }
     QString ValueText() const override
     {
         const auto* slider = qobject_cast<Slider*>(widget()->parentWidget());
@@ -645,7 +645,7 @@ public:
     }
 
 protected:
-    QString FallbackName() const override { return Tr("Number"); }
+    QString FallbackName() const override { return Text::tr("Number"); }
     QString ValueText() const override { return Spin()->text(); }
 };
 
@@ -687,7 +687,7 @@ public:
 
 protected:
     QString OwnText() const override { return Spoken(Container()->GetTitle()); }
-    QString FallbackName() const override { return Tr("Group"); }
+    QString FallbackName() const override { return Text::tr("Group"); }
 };
 
 class ProgressBarAccessible : public ValueControlAccessible
@@ -715,13 +715,13 @@ public:
     }
 
 protected:
-    QString FallbackName() const override { return Tr("Progress"); }
+    QString FallbackName() const override { return Text::tr("Progress"); }
     QString ValueText() const override
     {
         if (Indeterminate() || Bar()->value() < Bar()->minimum())
             return QString();
         const double share = double(Bar()->value() - Bar()->minimum()) / (double(Bar()->maximum()) - Bar()->minimum());
-        return Tr("%1 %").arg(std::lround(share * 100));
+        return Text::tr("%1 %").arg(std::lround(share * 100));
     }
 };
 
@@ -743,7 +743,7 @@ public:
 
 protected:
     QString OwnText() const override { return Spoken(static_cast<ProgressMeter*>(widget())->GetText()); }
-    QString FallbackName() const override { return Tr("Progress"); }
+    QString FallbackName() const override { return Text::tr("Progress"); }
 };
 
 class ImageLabelAccessible : public ControlAccessible
@@ -758,7 +758,7 @@ protected:
     QString FallbackName() const override
     {
         const QString words = KeyWords(static_cast<ImageLabel*>(widget())->GetImageThemeKey());
-        return words.isEmpty() ? Tr("Image") : words;
+        return words.isEmpty() ? Text::tr("Image") : words;
     }
 };
 
