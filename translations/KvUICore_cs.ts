@@ -65,6 +65,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixelů</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Nedávné barvy</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Výběr barvy</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

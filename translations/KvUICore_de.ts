@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 Pixel</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Zuletzt verwendete Farben</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Farbwähler</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

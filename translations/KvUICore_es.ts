@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 píxeles</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Colores recientes</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Selector de color</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

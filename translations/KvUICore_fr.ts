@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixels</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Couleurs récentes</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Sélecteur de couleur</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>
@@ -191,7 +199,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>Image</source>

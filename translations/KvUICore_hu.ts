@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 képpont</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Legutóbbi színek</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Színválasztó</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixel</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Colori recenti</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Selettore colore</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 ピクセル</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>最近使った色</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>カラー ピッカー</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 픽셀</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>최근 색</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>색 선택기</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixels</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Recente kleuren</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Kleurkiezer</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

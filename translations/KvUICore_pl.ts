@@ -65,6 +65,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pikseli</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Ostatnie kolory</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Selektor kolorów</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -65,6 +65,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 пикс.</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Недавние цвета</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Выбор цвета</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

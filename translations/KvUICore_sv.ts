@@ -64,6 +64,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixlar</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Senaste färger</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Färgväljare</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 piksel</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Son renkler</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>Renk seçici</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 像素</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>最近使用的颜色</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>颜色选择器</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -63,6 +63,14 @@
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 像素</translation>
     </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>最近使用的色彩</translation>
+    </message>
+    <message>
+        <source>Colour picker</source>
+        <translation>色彩選擇器</translation>
+    </message>
 </context>
 <context>
     <name>Kavrel::UICore::ColorPicker</name>

@@ -254,7 +254,7 @@ public:
     QString text(QAccessible::Text t) const override
     {
         if (t == QAccessible::Name && widget()->accessibleName().isEmpty())
-            return Tr("Colour");
+            return Text::tr("Colour");
         if (t == QAccessible::Value)
             return AccessibleColorText(static_cast<ColorChip*>(widget())->GetColor());
         return QAccessibleWidget::text(t);
@@ -297,9 +297,9 @@ QAccessibleInterface* ColorControlsFactory(const QString&, QObject* object)
     if (auto* chip = qobject_cast<ColorChip*>(object))
         return new ColorChipAccessible(chip);
     if (auto* row = qobject_cast<RecentColorsRow*>(object))
-        return new GroupAccessible(row, Tr("Recent colours"));
+        return new GroupAccessible(row, Text::tr("Recent colours"));
     if (auto* picker = qobject_cast<ColorPicker*>(object))
-        return new GroupAccessible(picker, Tr("Colour picker"));
+        return new GroupAccessible(picker, Text::tr("Colour picker"));
     return nullptr;
 }
 
