@@ -5,6 +5,7 @@
 #include <KvUICore/propertyeditor/GroupElement.h>
 #include <KvUICore/propertyeditor/GroupElementImp.h>
 #include <KvUICore/propertyeditor/PropertyEditor.h>
+#include <KvUICore/widgets/ControlsAccessible_p.h>
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -14,47 +15,19 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-class PropertyEditorAccessible : public QAccessibleWidget
-{
-public:
-    explicit PropertyEditorAccessible(PropertyEditor* editor)
-        : QAccessibleWidget(editor, QAccessible::Form)
-    {}
-
-    QString text(QAccessible::Text t) const override
-    {
-        const QString text = QAccessibleWidget::text(t);
-        if (t == QAccessible::Name && text.isEmpty())
-            return QCoreApplication::translate("Kavrel::UICore::PropertyEditor", "Properties");
-        return text;
-    }
-};
-
-class GroupGridAccessible : public QAccessibleWidget
-{
-public:
-    explicit GroupGridAccessible(GroupGrid* grid)
-        : QAccessibleWidget(grid, QAccessible::Grouping)
-    {}
-
-    QString text(QAccessible::Text t) const override
-    {
-        const QString text = QAccessibleWidget::text(t);
-        if (t != QAccessible::Name || !text.isEmpty())
-            return text;
-        const GroupElement* group = static_cast<GroupGrid*>(widget())->GetGroup();
-        if (group && !group->GetLabel().isEmpty())
-            return group->GetLabel();
-        return QCoreApplication::translate("Kavrel::UICore::PropertyEditor", "Group");
-    }
-};
-
 QAccessibleInterface* PropertyEditorFactory(const QString&, QObject* object)
 {
     if (auto* editor = qobject_cast<PropertyEditor*>(object))
-        return new PropertyEditorAccessible(editor);
+        return new NamedAccessible(editor, QAccessible::Form, [] {
+            return QCoreApplication::translate("Kavrel::UICore::PropertyEditor", "Properties");
+        });
     if (auto* grid = qobject_cast<GroupGrid*>(object))
-        return new GroupGridAccessible(grid);
+        return new NamedAccessible(grid, QAccessible::Grouping, [grid] {
+            const GroupElement* group = grid->GetGroup();
+            return group && !group->GetLabel().isEmpty()
+                       ? group->GetLabel()
+                       : QCoreApplication::translate("Kavrel::UICore::PropertyEditor", "Group");
+        });
     return nullptr;
 }
 

@@ -23,6 +23,7 @@ class BreadcrumbItem;
 class KVUICORE_EXPORT BreadcrumbBar : public QWidget
 {
     Q_OBJECT
+    /// The levels shown, from the root down.
     Q_PROPERTY(QStringList path READ GetPath WRITE SetPath NOTIFY PathChanged)
 
 public:

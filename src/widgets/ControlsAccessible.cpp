@@ -106,6 +106,25 @@ bool LayoutHolds(QLayoutItem* item, const QWidget* widget)
 
 } // namespace
 
+QString NameOf(const QWidget* widget, const QString& prompt, const QString& fallback)
+{
+    for (const QString& name : {widget->accessibleName(), AccessibleLabelText(widget), prompt, widget->toolTip()}) {
+        if (!name.isEmpty())
+            return name;
+    }
+    return fallback;
+}
+
+NamedAccessible::NamedAccessible(QWidget* widget, QAccessible::Role role, std::function<QString()> fallback)
+    : QAccessibleWidget(widget, role)
+    , mFallback(std::move(fallback))
+{}
+
+QString NamedAccessible::text(QAccessible::Text t) const
+{
+    return t == QAccessible::Name ? NameOf(widget(), QString(), mFallback()) : QAccessibleWidget::text(t);
+}
+
 QString AccessibleLabelText(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();

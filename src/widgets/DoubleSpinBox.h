@@ -26,7 +26,9 @@ class NumericField;
 class KVUICORE_EXPORT DoubleSpinBox : public QDoubleSpinBox, public WidgetUnits
 {
     Q_OBJECT
+    /// The symbol of the unit the value is shown in.
     Q_PROPERTY(QString unitSymbol READ GetUnitSymbol WRITE SetUnitSymbol NOTIFY UnitSymbolChanged)
+    /// How many decimals the value is shown with.
     Q_PROPERTY(int decimalPrecision READ GetDecimalPrecision WRITE SetDecimalPrecision NOTIFY DecimalPrecisionChanged)
 
 public:

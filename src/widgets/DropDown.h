@@ -24,7 +24,9 @@ class DropDownMenu;
 class KVUICORE_EXPORT DropDown : public QPushButton
 {
     Q_OBJECT
+    /// The texts of the items, in order; setting it replaces every item.
     Q_PROPERTY(QStringList items READ GetItems WRITE SetItems NOTIFY ItemsChanged)
+    /// The index of the current item, or -1 when there is none.
     Q_PROPERTY(int currentIndex READ GetCurrentIndex WRITE SetCurrentIndex NOTIFY CurrentIndexChanged)
     /// Where the menu opens.
     Q_PROPERTY(AlignmentMode alignment READ GetAlignment WRITE SetAlignment)

@@ -32,6 +32,7 @@ class SearchBox;
 class KVUICORE_EXPORT DropDownTree : public QWidget
 {
     Q_OBJECT
+    /// The texts from the root down to the current item; empty when there is none.
     Q_PROPERTY(QStringList currentPath READ GetCurrentPath NOTIFY CurrentIndexChanged)
     /// The text between the parts of the shown path; " > " by default.
     Q_PROPERTY(QString pathSeparator READ GetPathSeparator WRITE SetPathSeparator)

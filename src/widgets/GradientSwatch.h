@@ -31,6 +31,7 @@ class GradientSwatchImp;
 class KVUICORE_EXPORT GradientSwatch : public QWidget
 {
     Q_OBJECT
+    /// The gradient's colour stops.
     Q_PROPERTY(QGradientStops stops READ GetStops WRITE SetStops NOTIFY StopsUpdated)
 
 public:

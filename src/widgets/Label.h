@@ -19,6 +19,7 @@ class LabelImp;
 class KVUICORE_EXPORT Label : public QLabel
 {
     Q_OBJECT
+    /// The text shown.
     Q_PROPERTY(QString text READ text WRITE SetText NOTIFY TextChanged)
     /// The theme key of the text colour.
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)

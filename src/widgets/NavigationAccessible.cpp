@@ -23,16 +23,6 @@ namespace Kavrel::UICore::Internal {
 
 namespace {
 
-// The host's name, else the label, the prompt, the tool tip, the fallback.
-QString NameOf(const QWidget* widget, const QString& prompt, const QString& fallback)
-{
-    for (const QString& name : {widget->accessibleName(), AccessibleLabelText(widget), prompt, widget->toolTip()}) {
-        if (!name.isEmpty())
-            return name;
-    }
-    return fallback;
-}
-
 // The field itself answers for its inner editor: one editable text, named
 // by its prompt unless the host named it.
 class SearchBoxAccessible : public QAccessibleWidget
@@ -67,24 +57,6 @@ public:
         s.focused = Box()->hasFocus();
         return s;
     }
-};
-
-// A widget named by the host, its label or tool tip, or else by fallback().
-class NamedAccessible : public QAccessibleWidget
-{
-public:
-    NamedAccessible(QWidget* widget, QAccessible::Role role, std::function<QString()> fallback)
-        : QAccessibleWidget(widget, role)
-        , mFallback(std::move(fallback))
-    {}
-
-    QString text(QAccessible::Text t) const override
-    {
-        return t == QAccessible::Name ? NameOf(widget(), QString(), mFallback()) : QAccessibleWidget::text(t);
-    }
-
-private:
-    std::function<QString()> mFallback;
 };
 
 // The multi-line field: text interfaces over its document, named by the

@@ -19,6 +19,7 @@ class Label;
 class KVUICORE_EXPORT ProgressMeter : public QWidget
 {
     Q_OBJECT
+    /// The text shown beside the indicator.
     Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextChanged)
 
 public:

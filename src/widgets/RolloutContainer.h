@@ -18,9 +18,13 @@ class RolloutContainerImp;
 class KVUICORE_EXPORT RolloutContainer : public QWidget
 {
     Q_OBJECT
+    /// The text of the header.
     Q_PROPERTY(QString title READ GetTitle WRITE SetTitle NOTIFY TitleChanged)
+    /// Whether the contents are folded away.
     Q_PROPERTY(bool collapsed READ IsCollapsed WRITE SetIsCollapsed NOTIFY Collapsed)
+    /// Whether the header has a check box.
     Q_PROPERTY(bool checkable READ IsCheckable WRITE SetIsCheckable)
+    /// Whether the header's check box is checked.
     Q_PROPERTY(bool checked READ IsChecked WRITE SetChecked NOTIFY CheckBoxToggled)
 
 public:

@@ -27,7 +27,9 @@ class SliderImp;
 class KVUICORE_EXPORT Slider : public QWidget, public WidgetUnits
 {
     Q_OBJECT
+    /// The symbol of the unit the value is shown in.
     Q_PROPERTY(QString unitSymbol READ GetUnitSymbol WRITE SetUnitSymbol NOTIFY UnitSymbolChanged)
+    /// How many decimals the value is shown with.
     Q_PROPERTY(int decimalPrecision READ GetDecimalPrecision WRITE SetDecimalPrecision NOTIFY DecimalPrecisionChanged)
     /// The lowest value, in the unit type.
     Q_PROPERTY(double minimum READ GetMinimum WRITE SetMinimum)

@@ -29,6 +29,7 @@ class ImageEventFilter;
 class KVUICORE_EXPORT TextBox : public QWidget
 {
     Q_OBJECT
+    /// The text of the field.
     Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextChanged)
     /// The icon shown at the icon position.
     Q_PROPERTY(QIcon icon READ GetIcon WRITE SetIcon)

@@ -16,6 +16,7 @@ class TextLabelImp;
 class KVUICORE_EXPORT TextLabel : public QLabel
 {
     Q_OBJECT
+    /// The text shown.
     Q_PROPERTY(QString text READ text WRITE SetText NOTIFY TextChanged)
     /// The theme key of the text colour.
     Q_PROPERTY(QString textColorThemeKey READ GetTextColorThemeKey WRITE SetTextColorThemeKey)
