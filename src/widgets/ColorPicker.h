@@ -36,9 +36,8 @@ class ColorWheel;
 class KVUICORE_EXPORT ColorPicker : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
     /// The colour edited.
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
 
 public:
     /// How many recent colours are kept.

@@ -24,9 +24,8 @@ class ColorSwatchImp;
 class KVUICORE_EXPORT ColorSwatch : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
     /// The colour shown.
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
     /// Whether the picker offers alpha.
     Q_PROPERTY(bool alphaEnabled READ IsAlphaEnabled WRITE SetAlphaEnabled)
 

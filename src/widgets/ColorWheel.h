@@ -30,9 +30,8 @@ class ColorWheelImp;
 class KVUICORE_EXPORT ColorWheel : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
     /// The colour shown.
-    Q_PROPERTY(QColor color READ GetColor WRITE SetColor)
+    Q_PROPERTY(QColor color READ GetColor WRITE SetColor NOTIFY ColorUpdated)
 
 public:
     /// A colour wheel, opaque.

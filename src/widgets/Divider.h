@@ -15,9 +15,8 @@ class DividerImp;
 class KVUICORE_EXPORT Divider : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation NOTIFY OrientationChanged)
     /// Whether the line runs horizontally or vertically.
-    Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation)
+    Q_PROPERTY(Qt::Orientation orientation READ GetOrientation WRITE SetOrientation NOTIFY OrientationChanged)
     /// The theme key of the line colour.
     Q_PROPERTY(QString colorThemeKey READ GetColorThemeKey WRITE SetColorThemeKey)
 

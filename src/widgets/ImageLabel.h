@@ -16,9 +16,8 @@ class ImageLabelImp;
 class KVUICORE_EXPORT ImageLabel : public QLabel
 {
     Q_OBJECT
-    Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey NOTIFY ImageThemeKeyChanged)
     /// The theme key of the image shown.
-    Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey)
+    Q_PROPERTY(QString imageThemeKey READ GetImageThemeKey WRITE SetImageThemeKey NOTIFY ImageThemeKeyChanged)
     /// The size the image is shown at.
     Q_PROPERTY(QSize imageSize READ GetImageSize WRITE SetImageSize)
 

@@ -32,9 +32,8 @@ class ImageSwatchImp;
 class KVUICORE_EXPORT ImageSwatch : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath NOTIFY FilePathUpdated)
     /// The image file shown.
-    Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath)
+    Q_PROPERTY(QString filePath READ GetFilePath WRITE SetFilePath NOTIFY FilePathUpdated)
 
 public:
     /// What the swatch shows.

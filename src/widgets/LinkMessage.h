@@ -19,9 +19,8 @@ class LinkMessageImp;
 class KVUICORE_EXPORT LinkMessage : public QLabel
 {
     Q_OBJECT
-    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage NOTIFY MessageChanged)
     /// The message, with its links.
-    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage)
+    Q_PROPERTY(QString message READ GetMessage WRITE SetMessage NOTIFY MessageChanged)
 
 public:
     /// Longer messages are cut: a message is a sentence or two, not a document.

@@ -24,9 +24,8 @@ class MessageFacilityImp;
 class KVUICORE_EXPORT MessageFacility : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(int maximumVisible READ GetMaximumVisible WRITE SetMaximumVisible NOTIFY MaximumVisibleChanged)
     /// How many messages show at once.
-    Q_PROPERTY(int maximumVisible READ GetMaximumVisible WRITE SetMaximumVisible)
+    Q_PROPERTY(int maximumVisible READ GetMaximumVisible WRITE SetMaximumVisible NOTIFY MaximumVisibleChanged)
 
 public:
     /// How serious a message is; it decides the message's icon and colours.

@@ -28,9 +28,8 @@ class PaletteWindowImp;
 class KVUICORE_EXPORT PaletteWindow : public WidgetImp
 {
     Q_OBJECT
-    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle NOTIFY TitleChanged)
     /// The title shown in the title bar.
-    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle)
+    Q_PROPERTY(QString title READ GetTitle WRITE SetTitle NOTIFY TitleChanged)
     /// Whether only the title bar shows.
     Q_PROPERTY(bool collapsed READ IsCollapsed WRITE SetCollapsed NOTIFY CollapsedChanged)
 

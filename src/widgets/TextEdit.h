@@ -23,9 +23,8 @@ class TextEditImp;
 class KVUICORE_EXPORT TextEdit : public QPlainTextEdit
 {
     Q_OBJECT
+    /// The text; notified on every change, in code or by the user.
     Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY textChanged USER true)
-    /// The text, notified when it is committed.
-    Q_PROPERTY(QString text READ GetText WRITE SetText NOTIFY TextCommitted USER true)
     /// The text shown while the editor is empty.
     Q_PROPERTY(QString prompt READ GetPrompt WRITE SetPrompt)
     /// The most characters the text may hold; 0 for no limit.
