@@ -57,13 +57,13 @@ void WriteDiagnostic(DiagnosticChannel channel, QtMsgType type, const QString& t
         return;
     // The texts end in a line break for the debug-output hook; the log adds its own.
     const QString line = text.endsWith(QLatin1Char('\n')) ? text.chopped(1) : text;
-    if (type == QtDebugMsg || type == QtInfoMsg)
+    const bool debug = type == QtDebugMsg || type == QtInfoMsg;
+    if (debug)
         qCDebug(category).noquote() << line;
     else
         qCWarning(category).noquote() << line;
     CallDiagnosticHandler(category.categoryName(),
-                          type == QtDebugMsg || type == QtInfoMsg ? CoreUIManager::DiagnosticSeverity::Debug
-                                                                  : CoreUIManager::DiagnosticSeverity::Warning,
+                          debug ? CoreUIManager::DiagnosticSeverity::Debug : CoreUIManager::DiagnosticSeverity::Warning,
                           line);
 }
 
